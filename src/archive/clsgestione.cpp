@@ -1,0 +1,104 @@
+#include "archive/clsgestione.h"
+
+#include "archive/ruota.h"
+#include "platform/conversione.h"
+#include "platform/failure.h"
+
+namespace vaticlo {
+
+namespace {
+
+constexpr std::uint8_t kSecoloDiOgniSalvataggio = 20;
+
+int ruotaDelCampo(int f) { return 1 + f / ArchivioEstrazioni::Colonne; }
+int posizioneDelCampo(int f) { return 1 + f % ArchivioEstrazioni::Colonne; }
+
+}  // namespace
+
+clsGestione::clsGestione(const CartellaProgramma& cartella, Servizi& servizi)
+    : cartella_(cartella), servizi_(servizi), archivio_(ApriArchivio(cartella)) {}
+
+void clsGestione::salva(FinestraEstrazione& frm, std::optional<int> n) {
+  auto archivio = ApriArchivio(cartella_);
+  std::optional<Data> data;
+  if (n) {
+    data = dataDaTesto(frm.lbldataestr_Caption());
+    if (!data) throw RuntimeFailure(Errore::TipoNonCorrispondente);
+  } else {
+    n = archivio.PrimoIndiceLibero();
+    data = frm.mcdatecombo1_Value();
+    if (!data) data = servizi_.oggi();
+  }
+  archivio(*n, 0, 1) = static_cast<std::uint8_t>(giorno(*data));
+  archivio(*n, 0, 2) = static_cast<std::uint8_t>(mese(*data));
+  archivio(*n, 0, 3) = static_cast<std::uint8_t>(annoDueCifre(*data));
+  // A draw of another century becomes one of 20xx with its first save: meant.
+  archivio(*n, 0, 4) = kSecoloDiOgniSalvataggio;
+  archivio(*n, 0, 5) = 0;
+  for (int f = 0; f < kCampiEstrazione; ++f)
+    archivio(*n, ruotaDelCampo(f), posizioneDelCampo(f)) = inByte(frm.txtestr_Text(f));
+  ScriviArchivio(cartella_, archivio);
+}
+
+void clsGestione::Visualizza(FinestraEstrazione& frm, int n) {
+  const auto archivio = ApriArchivio(cartella_);
+  frm.lbldataestr_Caption(archivio.DataEstrazione(n));
+  frm.lblnestr_Caption(std::to_string(n));
+  for (int f = 0; f < kCampiEstrazione; ++f)
+    frm.txtestr_Mostra(f, std::to_string(archivio(n, ruotaDelCampo(f), posizioneDelCampo(f))));
+}
+
+void clsGestione::cancella(FinestraEstrazione& frm, std::int16_t n) {
+  auto archivio = ApriArchivio(cartella_);
+  const int libero = archivio.PrimoIndiceLibero();
+  // Rows 0 to 10 move down. Row 11, the Nazionale, stays: each later draw takes that of the draw before it.
+  // Meant.
+  for (int r = n; r < libero; ++r)
+    for (int j = 0; j < kRuote; ++j)
+      for (int k = 1; k <= ArchivioEstrazioni::Colonne; ++k) archivio(r, j, k) = archivio(r + 1, j, k);
+  ScriviArchivio(cartella_, archivio);
+  frm.VScroll1_Max(libero - 1);
+  clsGestione(cartella_, servizi_).Visualizza(frm, n);
+}
+
+void clsGestione::Trova(FinestraEstrazione& frm, int giorno, int mese, int secolo, int anno) {
+  try {
+    const auto archivio = ApriArchivio(cartella_);
+    // Four walks with one index, none of which tests again what an earlier one met: a month that the year has
+    // not is found in a later year, and the walks run on through the free slots. Meant.
+    int i = 1;
+    while (archivio(i, 0, 4) != secolo) ++i;
+    while (archivio(i, 0, 3) != anno) ++i;
+    while (archivio(i, 0, 2) != mese) ++i;
+    while (archivio(i, 0, 1) < giorno) ++i;
+    Visualizza(frm, i);
+    frm.VScroll1_Value(i + 1);
+  } catch (const RuntimeFailure& failure) {
+    if (failure.errore() == Errore::Indice) servizi_.mostra({"Inserisci una data corretta", "Attenzione"});
+  }
+}
+
+void clsGestione::VisualizzaSomDif(FinestraSomDif& frm, int n) {
+  const auto archivio = ApriArchivio(cartella_);
+  frm.lbldataestr_Caption(archivio.DataEstrazione(n));
+  frm.lblnestr_Caption(std::to_string(n));
+
+  const auto tipo = frm.opzione();
+  const auto valori = tipo ? CalcolaSomDif(archivio_, n, *tipo) : ValoriSomDif{};
+  for (int i = 0; i < kRuoteSomDif; ++i)
+    for (int c = 0; c < static_cast<int>(valori.size()); ++c)
+      frm.txtestr_Mostra(c, i,
+                         std::to_string(valori[static_cast<std::size_t>(c)][static_cast<std::size_t>(i)]));
+
+  for (int c = 0; c < static_cast<int>(valori.size()); ++c) {
+    const auto& colonna = valori[static_cast<std::size_t>(c)];
+    for (std::size_t i = 0; i < colonna.size(); ++i)
+      for (std::size_t j = i + 1; j < colonna.size(); ++j)
+        if (colonna[i] == colonna[j]) {
+          frm.txtestr_Giallo(c, static_cast<int>(i));
+          frm.txtestr_Giallo(c, static_cast<int>(j));
+        }
+  }
+}
+
+}  // namespace vaticlo

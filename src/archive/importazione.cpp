@@ -1,0 +1,109 @@
+#include "archive/importazione.h"
+
+#include <algorithm>
+#include <array>
+#include <bitset>
+
+#include "archive/data.h"
+#include "archive/ruota.h"
+#include "platform/testo.h"
+
+namespace vaticlo {
+
+namespace {
+
+// The abbreviations of the public file, in the order of the wheel table: not those of the program's own
+// reports.
+constexpr std::array<std::string_view, kRuote> kSiglePubbliche = {"BA", "CA", "FI", "GE", "MI", "NA",
+                                                                  "PA", "RM", "TO", "VE", "RN"};
+constexpr int kMassimoEstrazioni = ArchivioEstrazioni::MaxEstrazioni - 1;  // the archive needs one free slot
+constexpr std::string_view kForma =
+    "attesa la forma aaaa/mm/gg, ruota e cinque numeri, separati da tabulazioni";
+
+int numero(std::string_view cifre) {
+  int valore = 0;
+  for (const char c : cifre) {
+    if (c < '0' || c > '9') return -1;
+    valore = valore * 10 + (c - '0');
+  }
+  return cifre.empty() || cifre.size() > 4 ? -1 : valore;
+}
+
+class Lettore {
+ public:
+  void riga(int numeroRiga, std::string_view testo) {
+    riga_ = numeroRiga;
+    const auto campi = dividi(testo, '\t');
+    if (campi.size() != 2 + ArchivioEstrazioni::Colonne) errore(std::string(kForma));
+    prendiData(campi[0]);
+    const int ruota = prendiRuota(campi[1]);
+    for (int k = 1; k <= ArchivioEstrazioni::Colonne; ++k)
+      archivio_(estrazioni_, ruota, k) = prendiNumero(campi[static_cast<std::size_t>(k) + 1], ruota, k);
+  }
+
+  [[nodiscard]] ArchivioEstrazioni finito() && { return std::move(archivio_); }
+
+ private:
+  [[noreturn]] void errore(const std::string& motivo) const { throw ErroreImportazione(riga_, motivo); }
+
+  void prendiData(std::string_view testo) {
+    if (testo.size() != 10 || testo[4] != '/' || testo[7] != '/') errore(std::string(kForma));
+    const int a = numero(testo.substr(0, 4)), m = numero(testo.substr(5, 2)), g = numero(testo.substr(8, 2));
+    const Data data{std::chrono::year{a}, std::chrono::month{static_cast<unsigned>(m)},
+                    std::chrono::day{static_cast<unsigned>(g)}};
+    if (a < 1800 || a > 2099 || m < 1 || g < 1 || !data.ok())
+      errore("\"" + std::string(testo) + "\" non è una data valida");
+    if (estrazioni_ > 0 && data < data_) errore("la data è precedente a quella della riga prima");
+    if (estrazioni_ > 0 && data == data_) return;
+    if (estrazioni_ == kMassimoEstrazioni)
+      errore("più di " + std::to_string(kMassimoEstrazioni) + " estrazioni");
+    data_ = data;
+    ruote_.reset();
+    ++estrazioni_;
+    archivio_(estrazioni_, 0, 1) = static_cast<std::uint8_t>(g);
+    archivio_(estrazioni_, 0, 2) = static_cast<std::uint8_t>(m);
+    archivio_(estrazioni_, 0, 3) = static_cast<std::uint8_t>(a % 100);
+    archivio_(estrazioni_, 0, 4) = static_cast<std::uint8_t>(a / 100);
+  }
+
+  int prendiRuota(std::string_view sigla) {
+    const auto posto = std::find(kSiglePubbliche.begin(), kSiglePubbliche.end(), sigla);
+    if (posto == kSiglePubbliche.end()) errore("ruota sconosciuta \"" + std::string(sigla) + "\"");
+    const auto indice = static_cast<std::size_t>(posto - kSiglePubbliche.begin());
+    if (ruote_[indice]) errore("la ruota " + std::string(sigla) + " è ripetuta nella stessa estrazione");
+    ruote_.set(indice);
+    return static_cast<int>(indice) + 1;
+  }
+
+  std::uint8_t prendiNumero(std::string_view testo, int ruota, int k) const {
+    const int valore = testo.size() > 2 ? -1 : numero(testo);
+    if (valore < 1 || valore > 90) errore("\"" + std::string(testo) + "\" non è un numero da 1 a 90");
+    for (int prima = 1; prima < k; ++prima)
+      if (archivio_(estrazioni_, ruota, prima) == valore)
+        errore("il numero " + std::to_string(valore) + " è ripetuto nella stessa ruota");
+    return static_cast<std::uint8_t>(valore);
+  }
+
+  ArchivioEstrazioni archivio_;
+  std::bitset<kRuote> ruote_;
+  Data data_{};
+  int estrazioni_ = 0;
+  int riga_ = 0;
+};
+
+}  // namespace
+
+ArchivioEstrazioni importaEstrazioni(std::string_view testo) {
+  if (testo.empty()) throw ErroreImportazione(1, "il file è vuoto");
+  Lettore lettore;
+  for (int numeroRiga = 1; !testo.empty(); ++numeroRiga) {
+    const auto fine = std::min(testo.find('\n'), testo.size());
+    auto riga = testo.substr(0, fine);
+    testo.remove_prefix(std::min(fine + 1, testo.size()));
+    if (riga.ends_with('\r')) riga.remove_suffix(1);
+    lettore.riga(numeroRiga, riga);
+  }
+  return std::move(lettore).finito();
+}
+
+}  // namespace vaticlo

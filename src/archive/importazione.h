@@ -1,0 +1,24 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "archive/archivio.h"
+
+namespace vaticlo {
+
+/// The public text file of draws could not be taken: which line, and what is wrong with it (Italian).
+class ErroreImportazione : public std::runtime_error {
+ public:
+  ErroreImportazione(int riga, const std::string& motivo)
+      : std::runtime_error("riga " + std::to_string(riga) + ": " + motivo) {}
+};
+
+/// Reads the public text form: a line for each wheel of each draw, oldest draw first,
+/// `yyyy/mm/dd<TAB>BA<TAB>58<TAB>22<TAB>47<TAB>49<TAB>69`, lines ended by LF or CR LF. All lines of one date
+/// are one draw; a wheel without a line keeps 0 in its cells. Throws ErroreImportazione at the first line
+/// that is not right.
+[[nodiscard]] ArchivioEstrazioni importaEstrazioni(std::string_view testo);
+
+}  // namespace vaticlo

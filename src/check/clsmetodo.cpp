@@ -1,0 +1,91 @@
+#include "check/clsmetodo.h"
+
+#include "methods/testi_previsione.h"
+#include "platform/conversione.h"
+#include "platform/failure.h"
+
+namespace vaticlo {
+
+clsMetodo::clsMetodo(Programma& programma, SceltaVerifica scelta)
+    : programma_(programma),
+      g_(programma.globals),
+      scelta_(std::move(scelta)),
+      archivio_(ApriArchivio(programma.cartella)),
+      regole_(archivio_),
+      rapporto_(programma.cartella.esiti()) {
+  g_.ContaGiocabili = 0;
+  g_.ContaVincenti = 0;
+  g_.ContaInGioco = 0;
+}
+
+void clsMetodo::ricerca([[maybe_unused]] int estrazione) {
+  // The draw to match is the one that the dialog shows; the argument plays no part.
+  try {
+    ScorriMetodi();
+  } catch (const RuntimeFailure&) {
+    // The one trap of the run.
+  }
+}
+
+void clsMetodo::rilascia() { rapporto_.chiudi(); }
+
+void clsMetodo::ScorriMetodi() {
+  g_.ElencoMetodi = CaricaElencoMetodi(programma_.cartella, scelta_.metodo);
+  for (const auto& nome : g_.ElencoMetodi) {
+    const auto metodo = LeggiMetodo(programma_.cartella, nome);
+    const int previsioni = ContaPrevisioni(metodo);
+    for (int slot = 1; slot <= previsioni; ++slot) {
+      if (inIntero16(scelta_.lblnestr) != metodo.EstrazioneCalcolo(slot)) continue;
+      decodificatore_.DecodificaPrevisione(metodo, slot, g_.previsione);
+      RiportaPrevisione(g_.previsione.Colpi, nome);
+    }
+  }
+}
+
+void clsMetodo::RiportaPrevisione(int colpi, const std::string& metodo) {
+  auto& previsione = g_.previsione;
+  rapporto_.riga(" Previsione n.°", ++g_.ContaGiocabili);
+  rapporto_.riga(" Metodo: ", metodo);
+  scriviTelefono(rapporto_, previsione);
+  const int ancora = g_.EstrazioneCorrente + colpi - g_.UltimaEstrazione;
+  if (ancora > 0) rapporto_.riga(" Colpi ancora in gioco: ", ancora);
+  scriviGiocate(rapporto_, previsione);
+  rapporto_.riga();
+  rapporto_.riga(" Esito:");
+  if (ControllaColpi(colpi)) ++g_.ContaVincenti;
+  rapporto_.riga(kRigaChiusura);
+  previsione.lasciaGiocate();
+}
+
+bool clsMetodo::ControllaColpi(int colpi) {
+  bool vinto = false;
+  for (ColpoCorrente_ = 1; ColpoCorrente_ <= colpi; ++ColpoCorrente_) {
+    const int d = g_.EstrazioneBase + ColpoCorrente_;
+    if (d > g_.UltimaEstrazione) continue;
+    vinto |= giudicaColpo(g_.previsione, regole_, d, FlagTutte::PrimaRuota, *this);
+  }
+  if (vinto) return true;
+  // One draw stricter than the play period: with all colpi played and lost, the last one on the last draw, a
+  // prediction is still in play. Meant.
+  if (g_.EstrazioneBase + ColpoCorrente_ <= g_.UltimaEstrazione) {
+    rapporto_.riga(" Negativo");
+  } else {
+    ++g_.ContaInGioco;
+    rapporto_.riga(" In gioco");
+  }
+  return false;
+}
+
+void clsMetodo::ambata(int numero, int ruota) { rapporto_.riga(rigaAmbata(numero, ruota, ColpoCorrente_)); }
+
+void clsMetodo::ambo(int a, int b, int ruota) { rapporto_.riga(rigaAmbo(a, b, ruota, ColpoCorrente_)); }
+
+void clsMetodo::amboTutte(int a, int b, int ruota) {
+  rapporto_.riga(rigaAmboTutte(a, b, ruota, ColpoCorrente_));
+}
+
+void clsMetodo::sorte(const std::vector<int>& usciti, int ruota) {
+  rapporto_.riga(rigaNumeri(inizioSorte(usciti.size()), usciti, ruota, ColpoCorrente_));
+}
+
+}  // namespace vaticlo

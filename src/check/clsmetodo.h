@@ -1,0 +1,76 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "archive/regole.h"
+#include "methods/catalogo.h"
+#include "methods/decodifica.h"
+#include "methods/giudizio.h"
+#include "methods/programma.h"
+#include "platform/rapporto.h"
+
+namespace vaticlo {
+
+/// What the check takes from its dialog.
+struct SceltaVerifica {
+  SceltaMetodo metodo;
+  std::string lblnestr;  ///< the number of the draw shown, as its label has it
+};
+
+/// The check: judges every prediction calculated on the draw shown and writes one entry for each into
+/// `Esiti.txt`. One object for one run: created (archive read, counters 0, report emptied), ricerca(),
+/// rilascia().
+class clsMetodo : private EsitoColpo {
+ public:
+  /// Failure 75 or 76 when the archive or the report can't be opened.
+  clsMetodo(Programma& programma, SceltaVerifica scelta);
+
+  /// A whole run. Any failure inside ends it silently: what was written stays, the counters keep their
+  /// values, and the caller goes on as after a normal run.
+  void ricerca(int estrazione);
+
+  /// Closes the report. Only then are report and counters final. Failure 61 or 57 when the disk does not take
+  /// it.
+  void rilascia();
+
+  [[nodiscard]] std::string get_data(int estrazione) const { return archivio_.DataEstrazione(estrazione); }
+
+  // Evaluators and position tables that no run uses; they belong to the check all the same.
+
+  /// Two to five of the five numbers on the wheel; only wheels 1 to 10 are looked at.
+  bool ControllaCinquina(const std::array<int, 5>& numeri, int ruota, int estrazione);
+  /// Two of the three numbers on the wheel, or all three on any wheel from 1 to 10. Failure 9 for an index
+  /// (from 1) that `Terzine` has not.
+  bool ControllaTerzina(int ruota, int indice, int estrazione);
+  void DistanzePosizioni(int estrazione);
+  void DifferenzePosizioni(int estrazione);
+  /// The results of the two: [pair of positions][wheel - 1], wheels 1 to 10. The distances fill the first
+  /// five.
+  [[nodiscard]] const auto& posizioni() const { return posizioni_; }
+  std::vector<std::array<int, 3>> Terzine;
+
+ private:
+  void ScorriMetodi();
+  void RiportaPrevisione(int colpi, const std::string& metodo);
+  [[nodiscard]] bool ControllaColpi(int colpi);
+
+  void ambata(int numero, int ruota) override;
+  void ambo(int a, int b, int ruota) override;
+  void amboTutte(int a, int b, int ruota) override;
+  void sorte(const std::vector<int>& usciti, int ruota) override;
+
+  Programma& programma_;
+  Globals& g_;
+  SceltaVerifica scelta_;
+  ArchivioEstrazioni archivio_;
+  RegoleVincita regole_;
+  Decodificatore decodificatore_;
+  FileRapporto rapporto_;
+  int ColpoCorrente_ = 0;
+  std::array<std::array<std::int16_t, 10>, 10> posizioni_{};
+};
+
+}  // namespace vaticlo

@@ -1,0 +1,42 @@
+#include <iostream>
+#include <memory>
+
+#include <CLI/CLI.hpp>
+
+#include "archive/importazione.h"
+#include "console/sessione.h"
+#include "platform/failure.h"
+#include "platform/file_intero.h"
+
+namespace vaticlo {
+
+namespace {
+
+ArchivioEstrazioni leggiEstrazioni(const std::string& file) {
+  try {
+    return importaEstrazioni(contenutoFile(file));
+  } catch (const RuntimeFailure& failure) {
+    throw UsoErrato("non si può leggere \"" + file + "\": " + descrizione(failure.errore()));
+  } catch (const ErroreImportazione& errore) {
+    throw UsoErrato(file + ", " + errore.what() + "\nL'archivio è rimasto com'era.");
+  }
+}
+
+}  // namespace
+
+void aggiungiImporta(CLI::App& app, Sessione& sessione) {
+  auto* comando =
+      app.add_subcommand("importa", "Crea l'archivio da un file di testo pubblico delle estrazioni");
+  auto file = std::make_shared<std::string>();
+  comando->add_option("FILE", *file, "Righe aaaa/mm/gg, ruota e cinque numeri, separati da tabulazioni")
+      ->required();
+  comando->callback([&sessione, file] {
+    const auto archivio = leggiEstrazioni(*file);
+    ScriviArchivio(sessione.programma().cartella, archivio);
+    const int ultima = archivio.PrimoIndiceLibero() - 1;
+    std::cout << "Importate " << ultima << " estrazioni, dal " << archivio.DataEstrazione(1) << " al "
+              << archivio.DataEstrazione(ultima) << '\n';
+  });
+}
+
+}  // namespace vaticlo

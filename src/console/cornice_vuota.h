@@ -1,0 +1,15 @@
+#pragma once
+
+#include "dialogs/finestra.h"
+
+namespace vaticlo {
+
+/// The main window of a program that has none: a dialog is alone, and closing it means nothing.
+class CorniceVuota : public Cornice {
+ public:
+  void chiudiAltre(Finestra& /*tranne*/) override {}
+  void chiudi(Finestra& /*finestra*/) override {}
+  void riapri(Finestra& /*finestra*/) override {}
+};
+
+}  // namespace vaticlo

@@ -1,0 +1,22 @@
+#include <csignal>
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "console/sessione.h"
+
+int main(int argc, char* argv[]) {
+  // A limit on the size of files shows as a write that fails, not as the end of the process.
+  std::signal(SIGXFSZ, SIG_IGN);
+  try {
+    vaticlo::Sessione sessione;
+    const int esito = sessione.esegui(std::vector<std::string>(argv + 1, argv + argc));
+    std::cout.flush();
+    if (std::cout) return esito;
+    std::cerr << "Errore di run-time 61: lo standard output non accetta altro testo\n";
+  } catch (const std::exception& eccezione) {
+    std::cerr << "Errore di run-time 51: errore interno: " << eccezione.what() << '\n';
+  }
+  return vaticlo::kErrore;
+}

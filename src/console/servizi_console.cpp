@@ -1,0 +1,35 @@
+#include "console/servizi_console.h"
+
+#include <iostream>
+
+#include "platform/orologio.h"
+#include "platform/scaricamento.h"
+
+namespace vaticlo {
+
+Risposta ServiziConsole::mostra(const Messaggio& messaggio) {
+  if (messaggio.pulsanti == Pulsanti::SiNo) return Risposta::Si;
+  std::cout << '[' << messaggio.titolo << "] " << messaggio.testo << '\n';
+  rifiutato_ = rifiutato_ || messaggio.titolo == "Attenzione";
+  return Risposta::Ok;
+}
+
+std::string ServiziConsole::chiedi(const std::string& /*testo*/, const std::string& /*titolo*/) {
+  return risposta_;
+}
+
+void ServiziConsole::stampa(const std::string& /*testo*/) {}
+
+bool ServiziConsole::scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) {
+  return scaricaInFile(indirizzo, destinazione);
+}
+
+void ServiziConsole::apriPagina(const std::string& /*indirizzo*/) {}
+
+std::chrono::year_month_day ServiziConsole::oggi() const { return dataLocale(); }
+
+void ServiziConsole::eventiInAttesa() {
+  if (eventi_) eventi_();
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,17 @@
+#include "dialogs/controlli_estrazione.h"
+
+#include "platform/failure.h"
+
+namespace vaticlo {
+
+std::string ControlliEstrazione::txtestr_Text(int f) const {
+  return txtestr.at(static_cast<std::size_t>(f)).Text();
+}
+
+void ControlliEstrazione::txtestr_Mostra(int f, const std::string& testo) {
+  auto& campo = txtestr.at(static_cast<std::size_t>(f));
+  campo.Mask("");
+  campo.Text(testo);
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <array>
+
+#include "archive/clsgestione.h"
+#include "dialogs/controlli.h"
+
+namespace vaticlo {
+
+/// The controls that show one draw, as the draw store reaches them: number, date, 55 fields, and the scroll
+/// bar that walks the draws. The bar's value stands one above the draw's number; its values 1 and 2 both show
+/// draw 1.
+class ControlliEstrazione : public FinestraEstrazione {
+ public:
+  Etichetta lblnestr, lbldataestr;
+  std::array<CampoTesto, kCampiEstrazione> txtestr;
+  BarraScorrimento VScroll1;
+
+  /// The draw that the scroll bar stands for.
+  [[nodiscard]] int estrazioneDellaBarra() const { return VScroll1.Value() != 1 ? VScroll1.Value() - 1 : 1; }
+
+  [[nodiscard]] std::string txtestr_Text(int f) const override;
+  void txtestr_Mostra(int f, const std::string& testo) override;
+  [[nodiscard]] std::optional<Data> mcdatecombo1_Value() const override { return std::nullopt; }
+  [[nodiscard]] std::string lbldataestr_Caption() const override { return lbldataestr.Caption(); }
+  void lbldataestr_Caption(const std::string& testo) override { lbldataestr.Caption(testo); }
+  void lblnestr_Caption(const std::string& testo) override { lblnestr.Caption(testo); }
+  void VScroll1_Max(int massimo) override { VScroll1.Max(massimo); }
+  void VScroll1_Value(int valore) override { VScroll1.Value(valore); }
+};
+
+}  // namespace vaticlo

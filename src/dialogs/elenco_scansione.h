@@ -1,0 +1,70 @@
+#pragma once
+
+#include "dialogs/controlli.h"
+#include "dialogs/finestra.h"
+#include "dialogs/scelta_metodo.h"
+#include "methods/programma.h"
+#include "methods/scansione.h"
+
+namespace vaticlo {
+
+/// What the windows of the two scans share: the choice of methods, the progress, the report shown.
+class ElencoScansione : public Finestra, protected FinestraScansione {
+ public:
+  ElencoScansione(Programma& programma, Cornice& cornice);
+
+  void Form_Load() override;
+  void optSelMetodo_Click(int indice);
+  void btnCerca_Click();
+  void btnCancella_Click();
+
+  ControlliMetodo metodo;
+  Avanzamento prgbar;
+  AreaTesto RichTextBox1;
+  Etichetta lblPrev;
+  CampoTesto txtColpi;  ///< how many last draws count; on the screen in frmVinc only
+  Pulsante btnStampa{"Stampa", "Stampa Previsioni"};
+  Pulsante btnCancella{"&Esci", "Chiudi la finestra"};
+
+ protected:
+  /// Runs the scan and gives the report file that it wrote.
+  virtual std::filesystem::path scansione() = 0;
+
+  [[nodiscard]] SceltaMetodo scelta() const override { return metodo.scelta(); }
+  [[nodiscard]] std::string txtColpi_Text() const override { return txtColpi.Text(); }
+  void prgbar_Value(int valore) override { prgbar.Value(valore); }
+  void prgbar_Max(int massimo) override { prgbar.Max(massimo); }
+  void mostraRapporto(bool qualcosa) override;
+
+  Programma& programma_;
+
+ private:
+  bool inCorso_ = false;
+};
+
+/// The predictions in play.
+class frmPrev : public ElencoScansione {
+ public:
+  frmPrev(Programma& programma, Cornice& cornice);
+  void btnStampa_Click();
+
+ private:
+  std::filesystem::path scansione() override;
+};
+
+/// The recent winners. Its print button has no command, which is meant.
+class frmVinc : public ElencoScansione {
+ public:
+  frmVinc(Programma& programma, Cornice& cornice);
+
+  static constexpr int kMinimoUltime = 1, kMassimoUltime = 5;
+  /// The arrows have put `ultime` (1 to 5) into txtColpi.
+  void UpDown1_Change(int ultime);
+
+  Riquadro Frame1{"Ultime Estrazioni da Considerare"};
+
+ private:
+  std::filesystem::path scansione() override;
+};
+
+}  // namespace vaticlo

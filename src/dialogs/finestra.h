@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+
+namespace vaticlo {
+
+class Finestra;
+
+/// What a dialog asks of the main window that holds it.
+class Cornice {
+ public:
+  virtual ~Cornice() = default;
+  /// Closes every other child window.
+  virtual void chiudiAltre(Finestra& tranne) = 0;
+  /// Closes the window once its event is over.
+  virtual void chiudi(Finestra& finestra) = 0;
+  /// Closes the window once its event is over and opens it anew.
+  virtual void riapri(Finestra& finestra) = 0;
+};
+
+/// Size of a child window and its place beside the main window's top left corner, in twips (15 are a pixel at
+/// 96 dpi).
+struct Misure {
+  int altezza, larghezza, sopra, sinistra;
+};
+
+/// The logic of a child window: named controls, event procedures as member functions, no toolkit.
+class Finestra {
+ public:
+  explicit Finestra(Cornice& cornice) : cornice_(cornice) {}
+  Finestra(const Finestra&) = delete;
+  Finestra& operator=(const Finestra&) = delete;
+  virtual ~Finestra() = default;
+
+  /// Runs once, before the window is shown.
+  virtual void Form_Load() = 0;
+  /// Runs each time the window becomes the active one.
+  virtual void Form_Activate() {}
+
+  [[nodiscard]] const std::string& Caption() const { return caption_; }
+  [[nodiscard]] const Misure& misure() const { return misure_; }
+
+ protected:
+  [[nodiscard]] Cornice& cornice() const { return cornice_; }
+  void Caption(std::string caption) { caption_ = std::move(caption); }
+  void prendiMisure(Misure misure) { misure_ = misure; }
+
+ private:
+  Cornice& cornice_;
+  std::string caption_;
+  Misure misure_{};
+};
+
+}  // namespace vaticlo

@@ -1,0 +1,127 @@
+#include "dialogs/frm_insprev.h"
+
+#include "methods/catalogo.h"
+#include "platform/failure.h"
+#include "platform/testo.h"
+
+namespace vaticlo {
+
+namespace {
+
+constexpr int kColpiOfferti = 30;
+constexpr int kColpiIniziali = 10;
+// One slot too many for every method, and far more than it has: the walk of a delete always leaves the grid.
+// Meant.
+constexpr int kUltimoSlotDaSpostare = 2000;
+
+std::string dueCifre(int valore) { return (valore < 10 ? "0" : "") + std::to_string(valore); }
+
+// The double slash before the year is wanted.
+std::string voceDiElenco(const FileMetodo& metodo, int slot) {
+  return "Previsione n." + std::to_string(slot) + " del " + dueCifre(metodo(slot, kCampoData, 1)) + "/" +
+         dueCifre(metodo(slot, kCampoData, 2)) + "//" + std::to_string(metodo(slot, kCampoData, 3)) +
+         dueCifre(metodo(slot, kCampoData, 4));
+}
+
+}  // namespace
+
+frmInsPrev::frmInsPrev(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
+  for (auto& nome : metodiOfferti(programma.cartella)) cmbMetodo.AddItem(std::move(nome));
+  estrazione.VScroll1.Change = [this] { VScroll1_Change(); };
+  cmbMetodo.Click = [this] { cmbMetodo_Click(); };
+  cmbPrevisione.Click = [this] { cmbPrevisione_Click(); };
+  btnElabora.Click = [this] { btnElabora_Click(); };
+  btnElimina.Click = [this] { btnElimina_Click(); };
+  btnCancella.Click = [this] { btnCancella_Click(); };
+}
+
+void frmInsPrev::Form_Load() {
+  auto& g = programma_.globals;
+  cornice().chiudiAltre(*this);
+  prendiMisure({8970, 12930, 1000, 2000});
+  g.EstrazioneCorrente = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
+  estrazione.VScroll1.Max(g.EstrazioneCorrente);
+  estrazione.VScroll1.Value(estrazione.VScroll1.Max());
+  visualizza(g.EstrazioneCorrente);
+  for (int colpi = 1; colpi <= kColpiOfferti; ++colpi) cmbColpi.AddItem(std::to_string(colpi));
+  cmbColpi.Text(std::to_string(kColpiIniziali));
+  Caption(g.PrevisioneInModifica ? "Modifica Previsione" : "Inserisci Previsione");
+  Frame10.Visible(g.PrevisioneInModifica);
+  btnElimina.Visible(g.PrevisioneInModifica);
+}
+
+void frmInsPrev::VScroll1_Change() {
+  programma_.globals.EstrazioneCorrente = estrazione.estrazioneDellaBarra();
+  visualizza(programma_.globals.EstrazioneCorrente);
+}
+
+void frmInsPrev::cmbMetodo_Click() {
+  if (!programma_.globals.PrevisioneInModifica) return;
+  cmbPrevisione.Clear();
+  if (!programma_.cartella.esisteMetodo(cmbMetodo.Text())) {
+    rifiuta("Non esiste il file del metodo selezionato!", Icona::Nessuna);
+    return;
+  }
+  // Unlike the scans the list sees every prediction: up to the first draw number 0.
+  const auto metodo = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
+  for (int slot = 1; metodo.EstrazioneCalcolo(slot) != 0; ++slot)
+    cmbPrevisione.AddItem(voceDiElenco(metodo, slot), slot);
+  txtRuote.Text("");
+  txtAmbate.Text("");
+  txtAmbi.Text("");
+  txtSup.Text("");
+}
+
+void frmInsPrev::cmbPrevisione_Click() {
+  const auto metodo = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
+  const int slot = cmbPrevisione.ItemDataScelta();
+  visualizza(metodo.EstrazioneCalcolo(slot));  // the scroll bar stays where it is: meant
+  const auto testi = leggiTesti(metodo, slot);
+  txtNum.Text(testi.numero);
+  txtRuote.Text(testi.ruote);
+  cmbColpi.Text(testi.colpi);
+  txtAmbate.Text(testi.ambate);
+  txtAmbi.Text(testi.ambi);
+  txtSup.Text(testi.sup);
+}
+
+void frmInsPrev::btnElimina_Click() {
+  if (senzaBlanchi(cmbPrevisione.Text()).empty()) {
+    rifiuta("Nessuna previsione selezionata!");
+    return;
+  }
+  const auto risposta =
+      programma_.servizi.mostra({"Sicuro di eliminare la previsione?", "Attenzione", Pulsanti::SiNo});
+  if (risposta != Risposta::Si) return;
+  try {
+    const auto origine = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
+    FileMetodo destinazione;
+    const int eliminato = cmbPrevisione.ItemDataScelta();
+    const auto copia = [&](int da, int a) {
+      for (int campo = 0; campo < FileMetodo::Campi; ++campo)
+        for (int pos = 1; pos <= FileMetodo::Posizioni; ++pos)
+          destinazione(a, campo, pos) = origine(da, campo, pos);
+    };
+    for (int slot = 1; slot < eliminato; ++slot) copia(slot, slot);
+    for (int slot = eliminato + 1; slot <= kUltimoSlotDaSpostare; ++slot) copia(slot, slot - 1);
+    // Never reached with a grid of ten slots: in this program a delete ends in its failure message. Meant.
+    ScriviMetodo(programma_.cartella, cmbMetodo.Text(), destinazione);
+    programma_.servizi.mostra({"Previsione Eliminata!", ""});
+    cornice().riapri(*this);
+  } catch (const RuntimeFailure&) {
+    rifiuta("Errore nell'eliminaizione della previsione!");
+  }
+}
+
+void frmInsPrev::btnCancella_Click() { cornice().chiudi(*this); }
+
+void frmInsPrev::visualizza(int n) {
+  clsGestione(programma_.cartella, programma_.servizi).Visualizza(estrazione, n);
+}
+
+bool frmInsPrev::rifiuta(const std::string& testo, Icona icona) {
+  programma_.servizi.mostra({testo, "Attenzione", Pulsanti::Ok, icona});
+  return false;
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "dialogs/controlli_estrazione.h"
+#include "dialogs/finestra.h"
+#include "methods/metodo.h"
+#include "methods/programma.h"
+#include "methods/testi_campi.h"
+
+namespace vaticlo {
+
+/// The prediction editor, in two variants: to create a prediction, or to modify and delete the stored ones.
+/// Which one it is, PrevisioneInModifica says when it opens.
+class frmInsPrev : public Finestra {
+ public:
+  frmInsPrev(Programma& programma, Cornice& cornice);
+
+  void Form_Load() override;
+  void VScroll1_Change();
+  void cmbMetodo_Click();
+  void cmbPrevisione_Click();
+  void btnElabora_Click();
+  void btnElimina_Click();
+  void btnCancella_Click();
+
+  Riquadro Frame1{"Seleziona Metodo"}, Frame2{"Estrazione di Calcolo"}, Frame3{"Previsione da Salvare"},
+      Frame4{"Ruote di gioco"}, Frame5{"Colpi di gioco"}, Frame6{"Combinazioni da giocare"}, Frame7{"Ambate"},
+      Frame8{"Ambi Secchi"}, Frame9{"Sorti Superiori"}, Frame10{"Seleziona Previsione"},
+      Frame11{"Numero 899"};
+  Etichetta Label1{"Estrazione n"};
+  Elenco cmbMetodo, cmbPrevisione, cmbColpi;
+  ControlliEstrazione estrazione;
+  CampoTesto txtNum, txtRuote, txtAmbate, txtAmbi, txtSup;
+  Pulsante btnElabora{"&Salva", "Salva Previsione"};
+  Pulsante btnCancella{"&Esci", "Chiudi la finestra"};
+  Pulsante btnElimina{"&Elimina", "Elimina la previsione"};
+
+ private:
+  void visualizza(int n);
+  /// The save up to the writing of the file. False when it was refused; the user has been told.
+  [[nodiscard]] bool salva();
+  [[nodiscard]] bool rifiutaCampiVuoti();
+  [[nodiscard]] int primoSlotLibero(const FileMetodo& metodo) const;
+  [[nodiscard]] TestiPrevisione testi() const;
+  bool rifiuta(const std::string& testo, Icona icona = Icona::Esclamazione);
+
+  Programma& programma_;
+};
+
+}  // namespace vaticlo

@@ -1,0 +1,64 @@
+#include "dialogs/frm_modifica.h"
+
+#include "dialogs/ricerca_estrazione.h"
+#include "platform/conversione.h"
+
+namespace vaticlo {
+
+frmModifica::frmModifica(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
+  Caption("Modifica Estrazione");
+  estrazione.VScroll1.Change = [this] { VScroll1_Change(); };
+  btnSalva.Click = [this] { btnSalva_Click(); };
+  btnCancella.Click = [this] { btnCancella_Click(); };
+  btnTrova.Click = [this] { btnTrova_Click(); };
+  btnAnnulla.Click = [this] { btnAnnulla_Click(); };
+}
+
+void frmModifica::Form_Load() {
+  cornice().chiudiAltre(*this);
+  prendiMisure({5475, 7935, 500, 1550});
+}
+
+void frmModifica::Form_Activate() {
+  auto& corrente = programma_.globals.EstrazioneCorrente;
+  corrente = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
+  estrazione.VScroll1.Max(corrente);
+  // A change shows the last draw. Without one, the bar being at its end already, the free slot behind it is
+  // shown: meant.
+  estrazione.VScroll1.Value(estrazione.VScroll1.Max());
+  visualizza(corrente);
+}
+
+void frmModifica::VScroll1_Change() {
+  programma_.globals.EstrazioneCorrente = estrazione.estrazioneDellaBarra();
+  visualizza(programma_.globals.EstrazioneCorrente);
+}
+
+void frmModifica::btnSalva_Click() {
+  const auto risposta = programma_.servizi.mostra(
+      {"Sei sicuro di voler modificare l'estrazione corrente", "Attenzione", Pulsanti::SiNo});
+  if (risposta != Risposta::Si) return;
+  clsGestione(programma_.cartella, programma_.servizi)
+      .salva(estrazione, programma_.globals.EstrazioneCorrente);
+}
+
+void frmModifica::btnCancella_Click() {
+  const auto risposta = programma_.servizi.mostra(
+      {"Sei sicuro di voler cancellare l'estrazione selezionata", "Attenzione", Pulsanti::SiNo});
+  if (risposta != Risposta::Si) return;
+  clsGestione(programma_.cartella, programma_.servizi)
+      .cancella(estrazione, inIntero16(estrazione.lblnestr.Caption()));
+  cornice().riapri(*this);
+}
+
+void frmModifica::btnTrova_Click() {
+  cercaEstrazione(programma_, estrazione.VScroll1, estrazione, [this](int x) { visualizza(x); });
+}
+
+void frmModifica::btnAnnulla_Click() { cornice().chiudi(*this); }
+
+void frmModifica::visualizza(int n) {
+  clsGestione(programma_.cartella, programma_.servizi).Visualizza(estrazione, n);
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <array>
+
+#include "dialogs/controlli_estrazione.h"
+#include "dialogs/finestra.h"
+#include "methods/programma.h"
+
+namespace vaticlo {
+
+/// The sum and distance view of one draw: ten wheels, ten pairs of positions, equal values of a column in
+/// yellow.
+class frmSomdif : public Finestra {
+ public:
+  frmSomdif(Programma& programma, Cornice& cornice);
+
+  void Form_Load() override;
+  void VScroll1_Change();
+  void opzione_Click(TipoSomDif tipo);
+  void btnTrova_Click();
+  void btnAnnulla_Click();
+  /// Shows the values of a draw for the option that is on.
+  void visualizza(int n);
+
+  using Colonna = std::array<CampoTesto, kRuoteSomDif>;
+
+  Etichetta Label1{"Estrazione n°"}, lblnestr, Label13{"del"}, lbldataestr;
+  std::array<Colonna, kCoppiePosizioni.size()>
+      colonne;  ///< txtestr, txtestr1 to txtestr9: index is the wheel - 1
+  Opzione optdistciclo, optdistmat, optsommat;
+  Etichetta Label28{"Distanza Ciclometrica"}, Label27{"Distanza Matematica"}, Label26{"Somma Matematica"};
+  BarraScorrimento VScroll1;
+  Pulsante btnTrova{"", "Cerca Estrazione"};
+  Pulsante btnAnnulla{"&Annulla", "Chiudi la finestra"};
+
+ private:
+  /// The window as the sum and distance view sees it.
+  class VistaSomDif : public FinestraSomDif {
+   public:
+    explicit VistaSomDif(frmSomdif& frm) : frm_(frm) {}
+    [[nodiscard]] std::optional<TipoSomDif> opzione() const override;
+    void lbldataestr_Caption(const std::string& testo) override { frm_.lbldataestr.Caption(testo); }
+    void lblnestr_Caption(const std::string& testo) override { frm_.lblnestr.Caption(testo); }
+    void txtestr_Mostra(int colonna, int i, const std::string& testo) override;
+    void txtestr_Giallo(int colonna, int i) override;
+
+   private:
+    frmSomdif& frm_;
+  };
+
+  /// The window as the search by date sees it, which is not made for it: it has only the ten fields of its
+  /// first column under the name that a draw's numbers go to.
+  class VistaRicerca : public FinestraEstrazione {
+   public:
+    explicit VistaRicerca(frmSomdif& frm) : frm_(frm) {}
+    [[nodiscard]] std::string txtestr_Text(int f) const override;
+    void txtestr_Mostra(int f, const std::string& testo) override;
+    [[nodiscard]] std::optional<Data> mcdatecombo1_Value() const override { return std::nullopt; }
+    [[nodiscard]] std::string lbldataestr_Caption() const override { return frm_.lbldataestr.Caption(); }
+    void lbldataestr_Caption(const std::string& testo) override { frm_.lbldataestr.Caption(testo); }
+    void lblnestr_Caption(const std::string& testo) override { frm_.lblnestr.Caption(testo); }
+    void VScroll1_Max(int massimo) override { frm_.VScroll1.Max(massimo); }
+    void VScroll1_Value(int valore) override { frm_.VScroll1.Value(valore); }
+
+   private:
+    [[nodiscard]] CampoTesto& campo(int f) const;
+    frmSomdif& frm_;
+  };
+
+  void tuttoGrigio();
+
+  Programma& programma_;
+  VistaSomDif vistaSomDif_{*this};
+  VistaRicerca vistaRicerca_{*this};
+};
+
+}  // namespace vaticlo

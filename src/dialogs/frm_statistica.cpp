@@ -1,0 +1,163 @@
+#include "dialogs/frm_statistica.h"
+
+#include "platform/conversione.h"
+#include "platform/failure.h"
+#include "platform/rapporto.h"
+
+namespace vaticlo {
+
+namespace {
+
+// The first draw offered; nothing checks that its number goes with the date beside it.
+constexpr const char* kInizioOfferto = "6877";
+constexpr Data kDataInizioOfferta{std::chrono::year{2000}, std::chrono::January, std::chrono::day{3}};
+
+void mostraNumero(CampoTesto& campo, int numero) {
+  campo.Mask("");
+  campo.Text(std::to_string(numero));
+}
+
+// The date pickers know the whole year, so their century differs from that of a search: 18, 19 or 20.
+int secoloDelSelettore(int anno) { return anno < 1900 ? 18 : anno < 2000 ? 19 : 20; }
+
+}  // namespace
+
+frmStatistica::frmStatistica(Programma& programma, Cornice& cornice)
+    : Finestra(cornice), metodo(programma.cartella), programma_(programma) {
+  Caption("Statistica");
+  for (auto& campo : txtestr) campo.Mask("####");
+  for (int indice : {0, 1})
+    metodo.optSelMetodo[static_cast<std::size_t>(indice)].Click = [this, indice] {
+      metodo.optSelMetodo_Click(indice);  // no run: the choice is read when one starts
+    };
+  DTInizio.Change = [this] { DTInizio_Change(); };
+  DTFine.Change = [this] { DTFine_Change(); };
+  btnElabora.Click = [this] { btnElabora_Click(); };
+  btnStop.Click = [this] { btnStop_Click(); };
+  btnStampa.Click = [this] { btnStampa_Click(); };
+  btnCancella.Click = [this] { btnCancella_Click(); };
+  btnStampa.Enabled(false);
+}
+
+void frmStatistica::Form_Load() {
+  auto& g = programma_.globals;
+  prgbar.Visible(false);
+  cornice().chiudiAltre(*this);
+  btnVincite.Enabled(false);
+  btnPrev.Enabled(false);
+  prendiMisure({7785, 10395, 100, 500});
+  g.EstrazioneCorrente = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
+  g.UltimaEstrazione = g.EstrazioneCorrente - 1;
+  g.UltimaEstrazione16 = static_cast<std::int16_t>(g.UltimaEstrazione);
+  txtestr[0].Mask("");
+  txtestr[0].Text(kInizioOfferto);
+  mostraNumero(txtestr[1], g.UltimaEstrazione);
+  btnStop.Enabled(false);
+  const auto oggi = programma_.servizi.oggi();
+  DTInizio.MaxDate(oggi);
+  DTInizio.Value(kDataInizioOfferta);
+  DTFine.MaxDate(oggi);
+  DTFine.Value(oggi);
+}
+
+void frmStatistica::DTInizio_Change() { cercaData(DTInizio, txtestr[0]); }
+
+void frmStatistica::DTFine_Change() { cercaData(DTFine, txtestr[1]); }
+
+void frmStatistica::cercaData(const SelettoreData& selettore, CampoTesto& campo) {
+  const auto data = selettore.Value();
+  if (!data) throw RuntimeFailure(Errore::TipoNonCorrispondente);
+  campo.Text(std::to_string(
+      CercaData(giorno(*data), mese(*data), annoDueCifre(*data), secoloDelSelettore(anno(*data)))));
+}
+
+int frmStatistica::CercaData(int giorno, int mese, int anno, int secolo) const {
+  int i = 1;
+  try {
+    const auto archivio = ApriArchivio(programma_.cartella);
+    while (archivio(i, 0, 4) != secolo) ++i;
+    while (archivio(i, 0, 3) != anno) ++i;
+    while (archivio(i, 0, 2) != mese) ++i;
+    // Days alone are compared here, whatever month the walk gets into. Meant.
+    while (archivio(i, 0, 1) < giorno && i < programma_.globals.UltimaEstrazione) ++i;
+  } catch (const RuntimeFailure& failure) {
+    if (failure.errore() != Errore::Indice) throw;
+  }
+  return i;
+}
+
+void frmStatistica::btnElabora_Click() {
+  auto& g = programma_.globals;
+  {
+    FileRapporto vuoto(programma_.cartella.stat());
+    vuoto.riga();
+    vuoto.chiudi();
+  }
+  RichTextBox1.Text(testoRapporto(programma_.cartella.stat()));
+  RichTextBox1.Visible(false);
+  btnVincite.Enabled(false);
+  btnPrev.Enabled(false);
+  btnStampa.Enabled(false);
+  if (rifiutaIntervallo()) return;
+
+  prgbar.Visible(true);
+  {
+    clsStatistica statistica(programma_, *this);
+    const auto inizio = inIntero16(txtestr[0].Text()), fine = inIntero16(txtestr[1].Text());
+    statistica.Inizia(inizio, fine);
+    prgbar.Visible(false);
+    statistica.rilascia();
+  }
+  if (!g.StopElaborazione) mostraTotali();
+  comandiACorsaFerma();
+}
+
+bool frmStatistica::rifiutaIntervallo() {
+  const auto a = inIntero16(txtestr[0].Text()), b = inIntero16(txtestr[1].Text());
+  if (a > b || a == b) {
+    programma_.servizi.mostra({std::string("L'estrazione di inzio non può essere ") +
+                                   (a > b ? "maggiore dell'" : "uguale all'") + "estrazione di fine!",
+                               "Attenzione"});
+    return true;
+  }
+  // The repairs come behind the comparison and no new one follows: meant.
+  if (a == 0) mostraNumero(txtestr[0], 1);
+  if (b > programma_.globals.UltimaEstrazione) mostraNumero(txtestr[1], programma_.globals.UltimaEstrazione);
+  return false;
+}
+
+void frmStatistica::mostraTotali() {
+  RichTextBox1.Visible(true);
+  RichTextBox1.Text(testoRapporto(programma_.cartella.stat()));
+  btnVincite.Enabled(programma_.globals.ContaVincenti >= 1);
+  btnPrev.Enabled(programma_.globals.ContaInGioco >= 1);
+  btnStampa.Enabled(true);
+}
+
+void frmStatistica::btnStop_Click() { programma_.globals.StopElaborazione = true; }
+
+void frmStatistica::btnStampa_Click() {
+  if (programma_.servizi.mostra({"Stampo la statistica?", "Ambolino", Pulsanti::SiNo}) == Risposta::Si)
+    programma_.servizi.stampa(RichTextBox1.Text());
+}
+
+void frmStatistica::btnCancella_Click() { cornice().chiudi(*this); }
+
+void frmStatistica::corsaIniziata() {
+  btnStop.Enabled(true);
+  btnElabora.Enabled(false);
+  btnCancella.Enabled(false);
+}
+
+void frmStatistica::corsaInterrotta() {
+  prgbar.Visible(false);
+  comandiACorsaFerma();
+}
+
+void frmStatistica::comandiACorsaFerma() {
+  btnStop.Enabled(false);
+  btnElabora.Enabled(true);
+  btnCancella.Enabled(true);
+}
+
+}  // namespace vaticlo

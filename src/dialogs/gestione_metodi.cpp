@@ -1,0 +1,89 @@
+#include "dialogs/gestione_metodi.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <string_view>
+
+#include "methods/metodo.h"
+#include "platform/failure.h"
+#include "platform/testo.h"
+
+namespace vaticlo {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kEstensione = ".dat";
+constexpr std::size_t kMassimoOttetti = 200;  // both systems take 255 with the extension
+constexpr std::array<std::string_view, 22> kRiservati = {
+    "CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4", "COM5", "COM6", "COM7",
+    "COM8", "COM9", "LPT1", "LPT2", "LPT3", "LPT4", "LPT5", "LPT6", "LPT7", "LPT8", "LPT9"};
+
+bool nomeDiFile(const std::string& nome) {
+  if (nome.empty() || nome.size() > kMassimoOttetti) return false;
+  if (nome.front() == '.' || nome.back() == '.') return false;
+  const auto vietato = [](char c) {
+    const auto ottetto = static_cast<unsigned char>(c);
+    return ottetto < 0x20 || ottetto == 0x7F ||
+           std::string_view("<>:\"/\\|?*").find(c) != std::string_view::npos;
+  };
+  if (std::any_of(nome.begin(), nome.end(), vietato)) return false;
+  const auto radice = maiuscolo(senzaBlanchi(std::string_view(nome).substr(0, nome.find('.'))));
+  return std::find(kRiservati.begin(), kRiservati.end(), radice) == kRiservati.end();
+}
+
+}  // namespace
+
+bool GestioneMetodi::crea(const std::string& nome) {
+  const std::string pulito(senzaBlanchi(nome));
+  if (!nomeAmmesso(pulito)) return false;
+  ScriviMetodo(programma_.cartella, pulito, FileMetodo{});
+  return true;
+}
+
+bool GestioneMetodi::rinomina(const std::string& nome, const std::string& nuovo) {
+  const std::string pulito(senzaBlanchi(nuovo));
+  if (!esiste(nome) || !nomeAmmesso(pulito, std::string(senzaBlanchi(nome)))) return false;
+  std::error_code codice;
+  fs::rename(programma_.cartella.metodo(nome), programma_.cartella.metodo(pulito), codice);
+  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nome);
+  return true;
+}
+
+bool GestioneMetodi::elimina(const std::string& nome) {
+  if (!esiste(nome)) return false;
+  std::error_code codice;
+  fs::remove(programma_.cartella.metodo(nome), codice);
+  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nome);
+  return true;
+}
+
+// `tranne`: the name that a rename gives up, so that only its upper and lower case may change.
+bool GestioneMetodi::nomeAmmesso(const std::string& nome, const std::string& tranne) {
+  if (nome.empty()) return rifiuta("Bisogna indicare il nome del metodo!");
+  if (!nomeDiFile(nome)) return rifiuta("Il nome \"" + nome + "\" non può essere quello di un file!");
+  if (maiuscolo(nome).find(maiuscolo(kEstensione)) != std::string::npos)
+    return rifiuta("Il nome del metodo non può contenere \".dat\"!");
+  const auto cercato = maiuscolo(nome + std::string(kEstensione));
+  const auto ceduto = maiuscolo(tranne + std::string(kEstensione));
+  for (const auto& file : programma_.cartella.elencaMetodi()) {
+    const auto trovato = maiuscolo(file);
+    if (trovato == cercato && (tranne.empty() || trovato != ceduto))
+      return rifiuta("Esiste già un metodo con il nome \"" + nome + "\"!");
+  }
+  return true;
+}
+
+bool GestioneMetodi::esiste(const std::string& nome) {
+  if (programma_.cartella.esisteMetodo(nome)) return true;
+  return rifiuta("Non esiste il file del metodo selezionato!");
+}
+
+bool GestioneMetodi::rifiuta(const std::string& testo) {
+  programma_.servizi.mostra({testo, "Attenzione", Pulsanti::Ok, Icona::Esclamazione});
+  return false;
+}
+
+}  // namespace vaticlo

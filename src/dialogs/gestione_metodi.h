@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "methods/programma.h"
+
+namespace vaticlo {
+
+/// Creates, renames and deletes methods. A name must be usable as a file name on Windows and Linux, without
+/// ".dat" inside, and new (case ignored). Each tells the user why it refuses and gives false; the methods are
+/// then as they were. Failures of the disk go on to the caller.
+class GestioneMetodi {
+ public:
+  explicit GestioneMetodi(Programma& programma) : programma_(programma) {}
+
+  bool crea(const std::string& nome);
+  bool rinomina(const std::string& nome, const std::string& nuovo);
+  bool elimina(const std::string& nome);
+
+ private:
+  [[nodiscard]] bool nomeAmmesso(const std::string& nome, const std::string& tranne = {});
+  [[nodiscard]] bool esiste(const std::string& nome);
+  bool rifiuta(const std::string& testo);
+
+  Programma& programma_;
+};
+
+}  // namespace vaticlo

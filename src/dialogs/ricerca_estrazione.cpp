@@ -1,0 +1,36 @@
+#include "dialogs/ricerca_estrazione.h"
+
+#include "platform/conversione.h"
+#include "platform/testo.h"
+
+namespace vaticlo {
+
+void cercaEstrazione(Programma& programma, BarraScorrimento& VScroll1, FinestraEstrazione& frm,
+                     const std::function<void(int)>& mostra) {
+  auto& servizi = programma.servizi;
+  const auto primo = std::to_string(VScroll1.Min()), ultimo = std::to_string(VScroll1.Max() - 1);
+  const auto risposta =
+      servizi.chiedi("Inserisci il numero dell'estrazione (compreso tra " + primo + " e " + ultimo +
+                         ") da ricercare oppure la data dell'estrazione in uno dei seguenti "
+                         "formati:(gg/mm/aaaa oppure gg-mm-aaaa oppure gg.mm.aaaa).",
+                     "Cerca Estrazione");
+
+  if (numeroDaTesto(risposta)) {
+    const int x = inIntero16(risposta);
+    if (x > 1 && x < VScroll1.Max()) {
+      VScroll1.Value(x + 1);
+      mostra(x);
+    } else {
+      servizi.mostra(
+          {"Inserisci un valore corretto compreso tra " + primo + " e " + ultimo + ".", "Attenzione"});
+    }
+  } else if (const auto data = dataDaTesto(risposta)) {
+    const int anno = annoDueCifre(*data);
+    clsGestione(programma.cartella, servizi)
+        .Trova(frm, giorno(*data), mese(*data), secoloDiRicerca(anno), anno);
+  } else if (!risposta.empty()) {
+    servizi.mostra({"Inserisci un valore numerico", "Attenzione"});
+  }
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <functional>
+
+#include "archive/clsgestione.h"
+#include "dialogs/controlli.h"
+#include "methods/programma.h"
+
+namespace vaticlo {
+
+/// The search for a draw that three dialogs share: asks for a number or a date, moves the scroll bar to the
+/// draw. After a search by number `mostra` shows that draw; a search by date goes through clsGestione::Trova
+/// on `frm`. Draw 1 can't be reached by number, though prompt and message offer it: meant. Failure 6 for a
+/// number beyond 16 bits.
+void cercaEstrazione(Programma& programma, BarraScorrimento& VScroll1, FinestraEstrazione& frm,
+                     const std::function<void(int)>& mostra);
+
+}  // namespace vaticlo

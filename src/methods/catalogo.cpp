@@ -1,0 +1,34 @@
+#include "methods/catalogo.h"
+
+#include <algorithm>
+
+#include "platform/failure.h"
+
+namespace vaticlo {
+
+std::vector<std::string> CaricaElencoMetodi(const CartellaProgramma& cartella, const SceltaMetodo& scelta,
+                                            NomeSenzaDat senzaDat) {
+  if (!scelta.tutti) return {scelta.nome};
+  auto elenco = cartella.elencaMetodi();
+  for (auto& nome : elenco) {
+    const auto fine = nome.find(".dat");
+    if (fine == std::string::npos && senzaDat == NomeSenzaDat::Failure)
+      throw RuntimeFailure(Errore::ArgomentoNonValido, nome);
+    nome.resize(fine == std::string::npos ? 0 : fine);
+  }
+  return elenco;
+}
+
+std::vector<std::string> metodiOfferti(const CartellaProgramma& cartella) {
+  std::vector<std::string> offerti = {"Metodo 1", "Metodo 2"};
+  try {
+    for (auto& nome : CaricaElencoMetodi(cartella, {}, NomeSenzaDat::VoceVuota))
+      if (!nome.empty() && std::find(offerti.begin(), offerti.end(), nome) == offerti.end())
+        offerti.push_back(std::move(nome));
+  } catch (const RuntimeFailure&) {
+    // The two that every program folder has are offered all the same.
+  }
+  return offerti;
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/cartella.h"
+
+namespace vaticlo {
+
+/// Which methods an operation looks at: all of the folder ("Tutti") or the one named ("Scegli").
+struct SceltaMetodo {
+  bool tutti = true;
+  std::string nome;
+};
+
+/// What the listing does with a file whose name has no ".dat" in it.
+enum class NomeSenzaDat {
+  Failure,    ///< failure 5, at once
+  VoceVuota,  ///< its entry stays empty and the listing goes on
+};
+
+/// The list of methods of a run: with "Tutti" the names of the files, each up to the first ".dat" (case
+/// matters), in the order of the folder; with "Scegli" the one name as it stands. Failure 5 (see above)
+/// or 75.
+[[nodiscard]] std::vector<std::string> CaricaElencoMetodi(const CartellaProgramma& cartella,
+                                                          const SceltaMetodo& scelta,
+                                                          NomeSenzaDat senzaDat = NomeSenzaDat::Failure);
+
+/// The names that the selection lists offer: "Metodo 1" and "Metodo 2", then every other method of the
+/// folder. A folder that can't be read adds none.
+[[nodiscard]] std::vector<std::string> metodiOfferti(const CartellaProgramma& cartella);
+
+}  // namespace vaticlo

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "archive/regole.h"
+#include "methods/catalogo.h"
+#include "methods/decodifica.h"
+#include "methods/giudizio.h"
+#include "methods/programma.h"
+#include "platform/rapporto.h"
+
+namespace vaticlo {
+
+/// What a scan asks of its window and shows on it.
+class FinestraScansione {
+ public:
+  virtual ~FinestraScansione() = default;
+
+  [[nodiscard]] virtual SceltaMetodo scelta() const = 0;
+  /// How many last draws count for the recent winners, as text ("1" to "5").
+  [[nodiscard]] virtual std::string txtColpi_Text() const = 0;
+  virtual void prgbar_Value(int valore) = 0;
+  virtual void prgbar_Max(int massimo) = 0;
+  /// The end of a scan: the report is shown and can be printed, or the note that there is nothing.
+  virtual void mostraRapporto(bool qualcosa) = 0;
+};
+
+/// The two scans over all predictions whose play period reaches beyond the last draw: which are still in play
+/// without a hit (`PrevGioco.txt`), and which have won in the last draws (`Vincenti.txt`). One object for
+/// each use. No failure is trapped: a report then holds every line written before it.
+class ScansionePrevisioni : private EsitoColpo {
+ public:
+  /// Reads the archive.
+  ScansionePrevisioni(Programma& programma, FinestraScansione& frm);
+
+  void PrevInGioco();
+  void PrevVincenti();
+
+ private:
+  void scorriMetodi(const std::filesystem::path& rapporto);
+  void RiportaPrevisione(FileRapporto& rapporto, const std::string& metodo);
+  /// The draw of the first colpo with a hit; later colpi are not looked at.
+  [[nodiscard]] std::optional<int> ControllaColpi(int colpi);
+  void scriviVoce(FileRapporto& rapporto, const std::string& metodo);
+
+  void ambata(int numero, int ruota) override;
+  void ambo(int a, int b, int ruota) override;
+  void amboTutte(int a, int b, int ruota) override;
+  void sorte(const std::vector<int>& usciti, int ruota) override;
+  void annota(bool conta, const std::string& riga);
+  [[nodiscard]] int limite() const;
+
+  Programma& programma_;
+  Globals& g_;
+  FinestraScansione& frm_;
+  ArchivioEstrazioni archivio_;
+  RegoleVincita regole_;
+  Decodificatore decodificatore_;
+  int ColpoCorrente_ = 0;
+  int UltimeEstrazioni_ = 0;
+};
+
+}  // namespace vaticlo

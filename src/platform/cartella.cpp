@@ -1,0 +1,50 @@
+#include "platform/cartella.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+#include "platform/failure.h"
+#include "platform/testo.h"
+
+namespace vaticlo {
+
+namespace fs = std::filesystem;
+
+fs::path CartellaProgramma::metodo(std::string_view nome) const {
+  if (nome.find('/') != nome.npos || nome.find('\0') != nome.npos)
+    throw RuntimeFailure(Errore::NomeFile, std::string(nome));
+  return metodi() / (std::string(senzaBlanchi(nome)) + ".dat");
+}
+
+bool CartellaProgramma::esisteMetodo(std::string_view nome) const {
+  if (nome.find('/') != nome.npos || nome.find('\0') != nome.npos) return false;
+  std::error_code ignorato;
+  return fs::is_regular_file(metodo(nome), ignorato);
+}
+
+std::vector<std::string> CartellaProgramma::elencaMetodi() const {
+  std::error_code codice;
+  fs::directory_iterator voce(metodi(), codice);
+  if (codice == std::errc::no_such_file_or_directory) return {};
+  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, "Metodi");
+
+  std::vector<std::pair<std::string, std::string>> chiavi;
+  for (const fs::directory_iterator fine; voce != fine; voce.increment(codice)) {
+    if (codice) throw RuntimeFailure(Errore::AccessoAlFile, "Metodi");
+    std::error_code ignorato;
+    auto nome = voce->path().filename().string();
+    if (!nome.starts_with('.') && voce->is_regular_file(ignorato)) {
+      auto chiave = maiuscolo(nome);
+      chiavi.emplace_back(std::move(chiave), std::move(nome));
+    }
+  }
+  std::sort(chiavi.begin(), chiavi.end());
+
+  std::vector<std::string> nomi;
+  nomi.reserve(chiavi.size());
+  for (auto& chiave : chiavi) nomi.push_back(std::move(chiave.second));
+  return nomi;
+}
+
+}  // namespace vaticlo

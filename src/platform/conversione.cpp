@@ -1,0 +1,73 @@
+#include "platform/conversione.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+
+#include "platform/failure.h"
+#include "platform/testo.h"
+
+namespace vaticlo {
+
+namespace {
+
+bool cifra(char c) { return c >= '0' && c <= '9'; }
+
+// nearbyint() follows the default rounding mode: to nearest, halves to even.
+template <class Intero>
+Intero inIntero(std::string_view testo) {
+  const auto numero = numeroDaTesto(testo);
+  if (!numero) throw RuntimeFailure(Errore::TipoNonCorrispondente);
+  const double intero = std::nearbyint(*numero);
+  if (intero < std::numeric_limits<Intero>::min() || intero > std::numeric_limits<Intero>::max())
+    throw RuntimeFailure(Errore::Overflow);
+  return static_cast<Intero>(intero);
+}
+
+}  // namespace
+
+std::optional<double> numeroDaTesto(std::string_view testo) {
+  auto resto = senzaBlanchi(testo);
+  const bool negativo = resto.starts_with('-');
+  if (negativo || resto.starts_with('+')) resto.remove_prefix(1);
+  if (resto.empty() || !cifra(resto.front())) return std::nullopt;
+
+  double valore = 0;
+  while (!resto.empty() && cifra(resto.front())) {
+    valore = valore * 10 + (resto.front() - '0');
+    resto.remove_prefix(1);
+  }
+  if (resto.starts_with(',')) {
+    resto.remove_prefix(1);
+    double decimali = 0, scala = 1;
+    for (; !resto.empty() && cifra(resto.front()); resto.remove_prefix(1)) {
+      if (scala >= 1e15) continue;  // digits behind the fifteenth decimal move no rounding
+      decimali = decimali * 10 + (resto.front() - '0');
+      scala *= 10;
+    }
+    valore += decimali / scala;
+  }
+  if (!resto.empty()) return std::nullopt;
+  return negativo ? -valore : valore;
+}
+
+std::uint8_t inByte(std::string_view testo) { return inIntero<std::uint8_t>(testo); }
+
+std::int16_t inIntero16(std::string_view testo) { return inIntero<std::int16_t>(testo); }
+
+double arrotonda(double valore, int decimali) {
+  const double scala = std::pow(10, decimali);
+  return std::nearbyint(valore * scala) / scala;
+}
+
+std::string testoDiNumero(double valore) {
+  std::array<char, 32> cifre{};
+  const int lunghezza = std::snprintf(cifre.data(), cifre.size(), "%.15g", valore);
+  std::string testo(cifre.data(), static_cast<std::size_t>(lunghezza));
+  std::replace(testo.begin(), testo.end(), '.', ',');
+  return testo;
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,50 @@
+#include "platform/descrittore.h"
+
+#include <cerrno>
+#include <string>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace vaticlo {
+
+Descrittore::Descrittore(const std::filesystem::path& percorso, int opzioni)
+    : fd_(::open(percorso.c_str(), opzioni | O_CLOEXEC | O_NONBLOCK, 0666)) {
+  if (fd_ < 0) throw failureDiSistema(errno, percorso);
+}
+
+Descrittore::~Descrittore() {
+  if (fd_ >= 0) ::close(fd_);
+}
+
+RuntimeFailure failureDiSistema(int codice, const std::filesystem::path& percorso) {
+  const auto nome = percorso.filename().string();
+  switch (codice) {
+    case ENOENT:
+      return {percorso.has_parent_path() && !std::filesystem::exists(percorso.parent_path())
+                  ? Errore::PercorsoNonTrovato
+                  : Errore::FileNonTrovato,
+              nome};
+    case ENOTDIR:
+      return {Errore::PercorsoNonTrovato, nome};
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return {Errore::DiscoPieno, nome};
+    case EIO:
+      return {Errore::DispositivoIO, nome};
+    default:
+      return {Errore::AccessoAlFile, nome};
+  }
+}
+
+void Descrittore::scrivi(std::string_view dati, const std::filesystem::path& percorso) const {
+  while (!dati.empty()) {
+    const auto scritti = ::write(fd_, dati.data(), dati.size());
+    if (scritti < 0 && errno == EINTR) continue;
+    if (scritti <= 0) throw failureDiSistema(errno, percorso);
+    dati.remove_prefix(static_cast<std::size_t>(scritti));
+  }
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+namespace vaticlo {
+
+/// The numbers of the run-time failures, as the user sees them in the closing message.
+enum class Errore {
+  ArgomentoNonValido = 5,
+  Overflow = 6,
+  Indice = 9,
+  DivisionePerZero = 11,
+  TipoNonCorrispondente = 13,
+  NomeFile = 52,
+  FileNonTrovato = 53,
+  DispositivoIO = 57,
+  DiscoPieno = 61,
+  AccessoAlFile = 75,
+  PercorsoNonTrovato = 76,
+  ElementoInesistente = 340,
+  ValoreProprieta = 380,
+};
+
+/// The Italian text of a failure.
+[[nodiscard]] std::string descrizione(Errore errore);
+
+/// A run-time failure. It is caught only where the behaviour asks for it; anywhere else it ends the program
+/// with its number and its text.
+class RuntimeFailure : public std::exception {
+ public:
+  explicit RuntimeFailure(Errore errore);
+  /// `dettaglio` (a file's name, say) is shown behind the text of the failure.
+  RuntimeFailure(Errore errore, const std::string& dettaglio);
+
+  [[nodiscard]] Errore errore() const { return errore_; }
+  [[nodiscard]] int numero() const { return static_cast<int>(errore_); }
+  [[nodiscard]] const char* what() const noexcept override { return testo_.c_str(); }
+
+ private:
+  Errore errore_;
+  std::string testo_;
+};
+
+}  // namespace vaticlo

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <chrono>
+
+namespace vaticlo {
+
+/// Today in the local time of the machine. Only main programs ask; the logic is told through the services.
+[[nodiscard]] std::chrono::year_month_day dataLocale();
+
+}  // namespace vaticlo

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <charconv>
+#include <concepts>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "platform/descrittore.h"
+#include "platform/pagina_codici.h"
+
+namespace vaticlo {
+
+/// The text of a report as a person reads it: UTF-8, lines ended by "\n". Failure 53 when there is no such
+/// file.
+[[nodiscard]] std::string testoRapporto(const std::filesystem::path& percorso);
+
+/// A report file: text lines in the 8-bit code page, each ended by carriage return and line feed. Opening
+/// creates or empties it. Whole lines reach the disk: when some are waiting, on chiudi(), and at the end of
+/// its life whatever happens, so that a failure leaves every line written before it.
+class FileRapporto {
+ public:
+  /// Failure 75 or 76 when the file can't be opened for writing.
+  explicit FileRapporto(const std::filesystem::path& percorso);
+  FileRapporto(FileRapporto&&) = delete;
+  FileRapporto& operator=(FileRapporto&&) = delete;
+  ~FileRapporto();
+
+  /// Writes one line made of texts (UTF-8) and whole numbers. Failure 61 or 57 when the disk does not take
+  /// it.
+  template <class... Pezzi>
+  void riga(const Pezzi&... pezzi) {
+    (aggiungi(pezzi), ...);
+    fineRiga();
+  }
+
+  /// Brings the last lines to the disk and closes the file. Failure 61 or 57.
+  void chiudi();
+
+ private:
+  void aggiungi(std::string_view testo) { aggiungiInPagina(attesa_, testo); }
+  void aggiungi(std::integral auto numero) {
+    char cifre[24];
+    attesa_.append(cifre, std::to_chars(cifre, cifre + sizeof cifre, numero).ptr);
+  }
+  void fineRiga();
+  void svuota();
+
+  std::filesystem::path percorso_;
+  Descrittore file_;
+  std::string attesa_;
+};
+
+}  // namespace vaticlo

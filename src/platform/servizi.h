@@ -1,0 +1,40 @@
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+
+namespace vaticlo {
+
+enum class Pulsanti { Ok, SiNo };
+enum class Icona { Nessuna, Esclamazione };
+enum class Risposta { Ok, Si, No };
+
+/// A message box: what the user reads, and under which title.
+struct Messaggio {
+  std::string testo;
+  std::string titolo = "Vaticlo";  ///< a box without a title of its own bears the program's name
+  Pulsanti pulsanti = Pulsanti::Ok;
+  Icona icona = Icona::Nessuna;
+};
+
+/// What the logic asks of a person or a device. The windows, the console and each test give their own.
+class Servizi {
+ public:
+  virtual ~Servizi() = default;
+
+  virtual Risposta mostra(const Messaggio& messaggio) = 0;
+  /// The text typed into an input box; empty when it was cancelled.
+  virtual std::string chiedi(const std::string& testo, const std::string& titolo) = 0;
+  /// Prints the text (UTF-8) on the default printer; without one it does nothing.
+  virtual void stampa(const std::string& testo) = 0;
+  /// Fetches an address into a file and waits for the end. The file is written only when the transfer was
+  /// complete and good. False on any failure.
+  virtual bool scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) = 0;
+  virtual void apriPagina(const std::string& indirizzo) = 0;
+  [[nodiscard]] virtual std::chrono::year_month_day oggi() const = 0;
+  /// Gives pending events of the user their turn.
+  virtual void eventiInAttesa() = 0;
+};
+
+}  // namespace vaticlo
