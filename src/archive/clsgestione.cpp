@@ -18,7 +18,7 @@ int posizioneDelCampo(int f) { return 1 + f % ArchivioEstrazioni::Colonne; }
 clsGestione::clsGestione(const CartellaProgramma& cartella, Servizi& servizi)
     : cartella_(cartella), servizi_(servizi), archivio_(ApriArchivio(cartella)) {}
 
-void clsGestione::salva(FinestraEstrazione& frm, std::optional<int> n) {
+int clsGestione::salva(FinestraEstrazione& frm, std::optional<int> n) {
   auto archivio = ApriArchivio(cartella_);
   std::optional<Data> data;
   if (n) {
@@ -38,6 +38,7 @@ void clsGestione::salva(FinestraEstrazione& frm, std::optional<int> n) {
   for (int f = 0; f < kCampiEstrazione; ++f)
     archivio(*n, ruotaDelCampo(f), posizioneDelCampo(f)) = inByte(frm.txtestr_Text(f));
   ScriviArchivio(cartella_, archivio);
+  return *n;
 }
 
 void clsGestione::Visualizza(FinestraEstrazione& frm, int n) {

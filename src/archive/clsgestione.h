@@ -52,7 +52,7 @@ class clsGestione {
   /// Writes the numbers of the dialog into slot n, or into the first free slot. Nothing is validated, and the
   /// century is 20 on every save. Failure 13 or 6 (a text that is no byte, a caption that is no date), 9
   /// (archive full): the file is then unchanged.
-  void salva(FinestraEstrazione& frm, std::optional<int> n = std::nullopt);
+  int salva(FinestraEstrazione& frm, std::optional<int> n = std::nullopt);
 
   /// Shows slot n, a free one too (0/0/000 and zeros). Failure 9 outside the grid.
   void Visualizza(FinestraEstrazione& frm, int n);

@@ -56,9 +56,8 @@ void inserisci(Sessione& sessione, const std::string& data, const std::vector<st
   nuova.data = dataDaTesto(data);
   if (!nuova.data) throw UsoErrato("DATA deve avere la forma gg/mm/aaaa, non \"" + data + "\"");
   riempi(nuova, numeri);
-  const auto& cartella = sessione.programma().cartella;
-  clsGestione(cartella, sessione.servizi).salva(nuova);
-  std::cout << "Salvata l'estrazione n° " << ApriArchivio(cartella).PrimoIndiceLibero() - 1 << '\n';
+  const int n = clsGestione(sessione.programma().cartella, sessione.servizi).salva(nuova);
+  std::cout << "Salvata l'estrazione n° " << n << '\n';
 }
 
 void modifica(Sessione& sessione, int n, const std::vector<std::string>& numeri) {

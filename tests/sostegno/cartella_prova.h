@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "methods/programma.h"
+
+namespace vaticlo::prova {
+
+/// Services that answer as they are told and remember what they were asked.
+class ServiziProva : public Servizi {
+ public:
+  Risposta mostra(const Messaggio& messaggio) override {
+    messaggi.push_back(messaggio);
+    return messaggio.pulsanti == Pulsanti::SiNo ? risposta : Risposta::Ok;
+  }
+  std::string chiedi(const std::string& testo, const std::string& titolo) override {
+    domande.push_back({testo, titolo});
+    return digitato;
+  }
+  void stampa(const std::string& testo) override { stampati.push_back(testo); }
+  bool scarica(const std::string& indirizzo, const std::filesystem::path& /*destinazione*/) override {
+    scaricati.push_back(indirizzo);
+    return scaricamentoRiesce;
+  }
+  void apriPagina(const std::string& indirizzo) override { pagine.push_back(indirizzo); }
+  [[nodiscard]] std::chrono::year_month_day oggi() const override { return giornoDiOggi; }
+  void eventiInAttesa() override {
+    ++pause;
+    if (allaPausa) allaPausa();
+  }
+
+  /// The texts of the message boxes so far, as "[title] text".
+  [[nodiscard]] std::vector<std::string> detti() const;
+
+  Risposta risposta = Risposta::Si;
+  std::string digitato;
+  bool scaricamentoRiesce = true;
+  std::chrono::year_month_day giornoDiOggi{std::chrono::year{2026}, std::chrono::March, std::chrono::day{14}};
+  std::function<void()> allaPausa;
+  std::vector<Messaggio> messaggi;
+  std::vector<std::pair<std::string, std::string>> domande;
+  std::vector<std::string> stampati, scaricati, pagine;
+  int pause = 0;
+};
+
+/// A program in a folder of its own under the temporary files, with `Metodi` in it, gone at the end.
+class ProgrammaProva {
+ public:
+  ProgrammaProva();
+  ProgrammaProva(const ProgrammaProva&) = delete;
+  ProgrammaProva& operator=(const ProgrammaProva&) = delete;
+  ~ProgrammaProva();
+
+  ServiziProva servizi;
+
+ private:
+  std::filesystem::path radice_;
+
+ public:
+  Programma programma;
+
+  [[nodiscard]] const CartellaProgramma& cartella() const { return programma.cartella; }
+  [[nodiscard]] Globals& globals() { return programma.globals; }
+  /// The bytes of a file of the folder; an empty text when there is none.
+  [[nodiscard]] std::string contenuto(std::string_view nome) const;
+  [[nodiscard]] bool esiste(std::string_view nome) const;
+  void scrivi(std::string_view nome, std::string_view ottetti) const;
+};
+
+/// `righe`, each ended by CR LF, with the "°" of the code page where the text has a UTF-8 one.
+[[nodiscard]] std::string rapporto(const std::vector<std::string>& righe);
+
+}  // namespace vaticlo::prova
