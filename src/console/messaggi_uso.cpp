@@ -38,14 +38,14 @@ std::string dopo(const std::string& testo, const std::string& segno) {
 }
 
 std::string motivo(const CLI::App& comando, const CLI::ParseError& errore) {
-  const std::string inglese = errore.what();
+  std::string inglese = errore.what();
   if (dynamic_cast<const CLI::RequiredError*>(&errore) != nullptr) {
     if (inglese.find("subcommand") != std::string::npos) return "manca il comando";
     return "manca " + inglese.substr(0, inglese.find(" is required"));
   }
   if (dynamic_cast<const CLI::ExtrasError*>(&errore) != nullptr) {
     const auto parole = dopo(inglese, "not expected: ");
-    const bool attesoComando = comando.get_require_subcommand_max() > 0 && comando.get_subcommands().empty();
+    const bool attesoComando = !comando.get_subcommands([](const CLI::App*) { return true; }).empty();
     return (attesoComando ? "comando sconosciuto: " : "argomento di troppo o sconosciuto: ") + parole;
   }
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&errore) != nullptr)
@@ -60,9 +60,13 @@ std::string motivo(const CLI::App& comando, const CLI::ParseError& errore) {
 void parlaItaliano(CLI::App& app) {
   app.formatter(std::make_shared<FormatoItaliano>());
   app.set_help_flag("-h,--help,--aiuto", "Mostra questo aiuto ed esce");
-  app.get_help_ptr()->group("Opzioni");
   app.option_defaults()->group("Opzioni");
   app.group("Comandi");
+}
+
+void parlaItalianoAiuto(CLI::App& app) {
+  app.get_help_ptr()->group("Opzioni");
+  for (auto* comando : app.get_subcommands([](const CLI::App*) { return true; })) parlaItalianoAiuto(*comando);
 }
 
 std::string spiegaErrore(const CLI::App& app, const CLI::ParseError& errore) {

@@ -5,8 +5,6 @@
 #include <iostream>
 
 #include <CLI/CLI.hpp>
-#include <unistd.h>
-
 #include "console/messaggi_uso.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"
@@ -56,6 +54,7 @@ int Sessione::esegui(std::vector<std::string> parole, Luogo luogo, const std::st
   aggiungiComandiRapporti(app, *this);
   aggiungiDimostrazione(app, *this);
   if (luogo == Luogo::RigaDiComando) aggiungiEsegui(app, *this);
+  parlaItalianoAiuto(app);
 
   esito = kFatto;
   servizi.dimentica();

@@ -9,7 +9,7 @@
 namespace vaticlo {
 
 namespace {
-constexpr std::size_t kAttesa = 64 * 1024;
+constexpr std::size_t kAttesa = 65536;
 }
 
 std::string testoRapporto(const std::filesystem::path& percorso) {

@@ -28,10 +28,10 @@ class ArchivioProva {
 /// One slot, given cell by cell: what stands in each list, closing cells included.
 struct SlotProva {
   int estrazione = 0;
-  std::vector<int> telefono;  ///< the cells from position 3 on
-  std::vector<int> ruote;
+  std::vector<int> telefono = {};  ///< the cells from position 3 on
+  std::vector<int> ruote = {};
   int colpi = 10;
-  std::vector<int> ambate, ambi, sup;
+  std::vector<int> ambate = {}, ambi = {}, sup = {};
 };
 
 /// A method file made of its slots, from the first one on.

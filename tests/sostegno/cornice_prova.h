@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "dialogs/finestra.h"
+
+namespace vaticlo::prova {
+
+/// A main window that notes what a dialog asks of it.
+class CorniceProva : public Cornice {
+ public:
+  void chiudiAltre(Finestra& /*tranne*/) override { chiesto += "altre "; }
+  void chiudi(Finestra& /*finestra*/) override { chiesto += "chiudi "; }
+  void riapri(Finestra& /*finestra*/) override { chiesto += "riapri "; }
+
+  std::string chiesto;
+};
+
+}  // namespace vaticlo::prova
