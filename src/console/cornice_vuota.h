@@ -10,6 +10,7 @@ class CorniceVuota : public Cornice {
   void chiudiAltre(Finestra& /*tranne*/) override {}
   void chiudi(Finestra& /*finestra*/) override {}
   void riapri(Finestra& /*finestra*/) override {}
+  void apriRisultati() override {}
 };
 
 }  // namespace vaticlo

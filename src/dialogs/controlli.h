@@ -73,6 +73,10 @@ class CampoTesto : public Controllo {
   Proprieta<std::string> Text{*this, ""};
   Proprieta<std::string> Mask{*this, ""};  ///< "##": two digits at most; empty: anything
   Proprieta<int> BackColor{*this, kSfondoNormale};
+  bool Locked = false;         ///< it only displays
+  bool InvioComeTab = false;   ///< Enter moves on to the next field
+  /// The focus is about to leave: true keeps it in the field.
+  std::function<bool()> Validate;
 };
 
 /// A pane that shows a whole text (UTF-8, lines ended by "\n").
@@ -88,6 +92,7 @@ class Pulsante : public Controllo {
       : Caption{*this, std::move(caption)}, ToolTipText{*this, std::move(toolTip)} {}
   Proprieta<std::string> Caption{*this, ""};
   Proprieta<std::string> ToolTipText{*this, ""};
+  bool CausesValidation = true;  ///< going to it lets the field that is left validate itself
   std::function<void()> Click;
 };
 

@@ -14,6 +14,7 @@ class ElencoScansione : public Finestra, protected FinestraScansione {
   ElencoScansione(Programma& programma, Cornice& cornice);
 
   void Form_Load() override;
+  [[nodiscard]] bool occupata() const override { return inCorso_; }
   void optSelMetodo_Click(int indice);
   void btnCerca_Click();
   void btnCancella_Click();

@@ -16,6 +16,8 @@ class Cornice {
   virtual void chiudi(Finestra& finestra) = 0;
   /// Closes the window once its event is over and opens it anew.
   virtual void riapri(Finestra& finestra) = 0;
+  /// Opens the viewer of the two lists of a statistics run, or brings it up again.
+  virtual void apriRisultati() = 0;
 };
 
 /// Size of a child window and its place beside the main window's top left corner, in twips (15 are a pixel at
@@ -36,6 +38,8 @@ class Finestra {
   virtual void Form_Load() = 0;
   /// Runs each time the window becomes the active one.
   virtual void Form_Activate() {}
+  /// Long work is under way inside one of its events: it can't be closed and no other window opened.
+  [[nodiscard]] virtual bool occupata() const { return false; }
 
   [[nodiscard]] const std::string& Caption() const { return caption_; }
   [[nodiscard]] const Misure& misure() const { return misure_; }

@@ -27,6 +27,7 @@ std::string voceDiElenco(const FileMetodo& metodo, int slot) {
 
 frmInsPrev::frmInsPrev(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
   for (auto& nome : metodiOfferti(programma.cartella)) cmbMetodo.AddItem(std::move(nome));
+  for (auto& campo : estrazione.txtestr) campo.Locked = true;
   estrazione.VScroll1.Change = [this] { VScroll1_Change(); };
   cmbMetodo.Click = [this] { cmbMetodo_Click(); };
   cmbPrevisione.Click = [this] { cmbPrevisione_Click(); };

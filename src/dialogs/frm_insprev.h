@@ -26,7 +26,7 @@ class frmInsPrev : public Finestra {
       Frame4{"Ruote di gioco"}, Frame5{"Colpi di gioco"}, Frame6{"Combinazioni da giocare"}, Frame7{"Ambate"},
       Frame8{"Ambi Secchi"}, Frame9{"Sorti Superiori"}, Frame10{"Seleziona Previsione"},
       Frame11{"Numero 899"};
-  Etichetta Label1{"Estrazione n"};
+  Etichetta Label1{"Estrazione n"}, Label13{"del"};
   Elenco cmbMetodo, cmbPrevisione, cmbColpi;
   ControlliEstrazione estrazione;
   CampoTesto txtNum, txtRuote, txtAmbate, txtAmbi, txtSup;

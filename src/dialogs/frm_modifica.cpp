@@ -7,6 +7,7 @@ namespace vaticlo {
 
 frmModifica::frmModifica(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
   Caption("Modifica Estrazione");
+  for (auto& campo : estrazione.txtestr) campo.InvioComeTab = true;
   estrazione.VScroll1.Change = [this] { VScroll1_Change(); };
   btnSalva.Click = [this] { btnSalva_Click(); };
   btnCancella.Click = [this] { btnCancella_Click(); };

@@ -34,9 +34,12 @@ frmStatistica::frmStatistica(Programma& programma, Cornice& cornice)
   DTFine.Change = [this] { DTFine_Change(); };
   btnElabora.Click = [this] { btnElabora_Click(); };
   btnStop.Click = [this] { btnStop_Click(); };
+  btnVincite.Click = [this] { btnVincite_Click(); };
+  btnPrev.Click = [this] { btnPrev_Click(); };
   btnStampa.Click = [this] { btnStampa_Click(); };
   btnCancella.Click = [this] { btnCancella_Click(); };
   btnStampa.Enabled(false);
+  btnStop.Enabled(false);
 }
 
 void frmStatistica::Form_Load() {
@@ -135,6 +138,19 @@ void frmStatistica::mostraTotali() {
 }
 
 void frmStatistica::btnStop_Click() { programma_.globals.StopElaborazione = true; }
+
+void frmStatistica::btnVincite_Click() { apriRisultati(true); }
+
+void frmStatistica::btnPrev_Click() { apriRisultati(false); }
+
+void frmStatistica::apriRisultati(bool vincite) {
+  try {
+    programma_.globals.VistaVincite = vincite;
+    cornice().apriRisultati();
+  } catch (const RuntimeFailure&) {
+    // Ignored in these two events.
+  }
+}
 
 void frmStatistica::btnStampa_Click() {
   if (programma_.servizi.mostra({"Stampo la statistica?", "Ambolino", Pulsanti::SiNo}) == Risposta::Si)

@@ -16,10 +16,13 @@ class frmStatistica : public Finestra, private FinestraCorsa {
   frmStatistica(Programma& programma, Cornice& cornice);
 
   void Form_Load() override;
+  [[nodiscard]] bool occupata() const override { return btnStop.Enabled(); }
   void DTInizio_Change();
   void DTFine_Change();
   void btnElabora_Click();
   void btnStop_Click();
+  void btnVincite_Click();
+  void btnPrev_Click();
   void btnStampa_Click();
   void btnCancella_Click();
 
@@ -45,6 +48,7 @@ class frmStatistica : public Finestra, private FinestraCorsa {
   void cercaData(const SelettoreData& selettore, CampoTesto& campo);
   [[nodiscard]] bool rifiutaIntervallo();
   void mostraTotali();
+  void apriRisultati(bool vincite);
 
   [[nodiscard]] SceltaMetodo scelta() const override { return metodo.scelta(); }
   void prgbar_Value(int valore) override { prgbar.Value(valore); }

@@ -1,0 +1,27 @@
+#include "desktop/confine.h"
+
+#include <QMessageBox>
+
+#include <cstdlib>
+
+namespace vaticlo {
+
+void Confine::esegui(const std::function<void()>& evento) const {
+  try {
+    evento();
+  } catch (const RuntimeFailure& failure) {
+    fine_(failure);
+  }
+}
+
+void Confine::terminaProgramma(const RuntimeFailure& failure) {
+  QMessageBox::critical(nullptr, QStringLiteral("Vaticlo"),
+                        QStringLiteral("Errore di run-time %1: %2.\n\nIl programma termina; i file sono rimasti "
+                                       "com'erano.")
+                            .arg(failure.numero())
+                            .arg(QString::fromUtf8(failure.what())));
+  // The failure has unwound the logic and closed its files. No window lives on to meet another event.
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace vaticlo

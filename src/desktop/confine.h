@@ -1,0 +1,26 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/failure.h"
+
+namespace vaticlo {
+
+/// The boundary between toolkit and logic: every event of a widget reaches the logic through it. A run-time failure
+/// that nothing caught ends the program with one message box.
+class Confine {
+ public:
+  using Fine = std::function<void(const RuntimeFailure&)>;
+
+  /// `fine` takes a failure to its end; a test gives its own.
+  explicit Confine(Fine fine = &Confine::terminaProgramma) : fine_(std::move(fine)) {}
+
+  void esegui(const std::function<void()>& evento) const;
+
+ private:
+  [[noreturn]] static void terminaProgramma(const RuntimeFailure& failure);
+
+  Fine fine_;
+};
+
+}  // namespace vaticlo

@@ -1,0 +1,190 @@
+#include "desktop/finestra_principale.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <array>
+
+#include "desktop/immagini.h"
+#include "desktop/viste.h"
+
+namespace vaticlo {
+
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+constexpr int kLatoImmagini = 32;
+
+QString daUtf8(std::string_view testo) { return QString::fromUtf8(testo.data(), static_cast<int>(testo.size())); }
+
+int pixel(int twips) { return twips / kTwipsPerPixel; }
+
+/// A child window that knows its dialog.
+class Figlia : public QMdiSubWindow {
+ public:
+  explicit Figlia(std::shared_ptr<Finestra> finestra) : finestra_(std::move(finestra)) {}
+  [[nodiscard]] const std::shared_ptr<Finestra>& finestra() const { return finestra_; }
+
+ private:
+  std::shared_ptr<Finestra> finestra_;
+};
+
+}  // namespace
+
+FinestraPrincipale::FinestraPrincipale(frmPrincipale& principale, const Confine& confine)
+    : principale_(principale), confine_(confine), area_(new QMdiArea(this)) {
+  setObjectName(QStringLiteral("frmPrincipale"));
+  setWindowTitle(QLatin1String(frmPrincipale::kCaption));
+  setWindowIcon(immagine(QStringLiteral("vaticlo")));
+  resize(pixel(frmPrincipale::kLarghezza), pixel(frmPrincipale::kAltezza));
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+  setCentralWidget(area_);
+  creaMenu();
+  creaBarra();
+  connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* attivata) {
+    if (const auto finestra = finestraDi(attivata)) confine_.esegui([&] { principale_.attivata(*finestra); });
+  });
+  principale_.disegnataDa(this);
+}
+
+FinestraPrincipale::~FinestraPrincipale() { principale_.disegnataDa(nullptr); }
+
+void FinestraPrincipale::creaMenu() {
+  std::array<QMenu*, 4> aperti{};  // the submenu under construction at each level
+  for (const auto& voce : tavolaMenu()) {
+    const auto livello = static_cast<std::size_t>(voce.livello);
+    const auto caption = daUtf8(voce.caption), nome = daUtf8(voce.nome);
+    if (voce.comando == Comando::Sottomenu) {
+      aperti.at(livello) = livello == 1 ? menuBar()->addMenu(caption) : aperti.at(livello - 1)->addMenu(caption);
+      aperti.at(livello)->menuAction()->setObjectName(nome);
+      continue;
+    }
+    auto* azione = livello == 1 ? menuBar()->addAction(caption) : aperti.at(livello - 1)->addAction(caption);
+    azione->setObjectName(nome);
+    connect(azione, &QAction::triggered, this,
+            [this, comando = voce.comando] { confine_.esegui([&] { principale_.comando(comando); }); });
+  }
+}
+
+void FinestraPrincipale::creaBarra() {
+  auto* barra = addToolBar(QStringLiteral("Barra degli strumenti"));
+  barra->setObjectName(QStringLiteral("Toolbar1"));
+  barra->setMovable(false);
+  barra->setContextMenuPolicy(Qt::PreventContextMenu);
+  barra->setIconSize(QSize(kLatoImmagini, kLatoImmagini));
+  for (const auto& pulsante : tavolaBarra()) {
+    const auto toolTip = daUtf8(pulsante.toolTip);
+    auto* bottone = new QToolButton(barra);
+    bottone->setObjectName(daUtf8(pulsante.chiave));
+    bottone->setIcon(immagine(daUtf8(pulsante.immagine)));
+    bottone->setToolTip(toolTip);
+    bottone->setStatusTip(toolTip);
+    bottone->setAccessibleName(toolTip);
+    bottone->setFocusPolicy(Qt::TabFocus);
+    bottone->setAutoRaise(true);
+    connect(bottone, &QToolButton::clicked, this, [this, chiave = pulsante.chiave] {
+      confine_.esegui([&] { principale_.Toolbar1_ButtonClick(chiave); });
+    });
+    if (!pulsante.calcolaPrevisione.empty()) {
+      auto* menu = new QMenu(bottone);
+      const auto voce = [&](std::string_view chiave, std::string_view caption) {
+        auto* azione = menu->addAction(daUtf8(caption));
+        azione->setObjectName(daUtf8(chiave));
+        connect(azione, &QAction::triggered, this,
+                [this, chiave] { confine_.esegui([&] { principale_.Toolbar1_ButtonMenuClick(chiave); }); });
+      };
+      voce(pulsante.calcolaPrevisione, kCaptionCalcolaPrevisione);
+      voce(pulsante.statistica, kCaptionStatistica);
+      bottone->setMenu(menu);
+      bottone->setPopupMode(QToolButton::MenuButtonPopup);
+    }
+    barra->addWidget(bottone);
+  }
+}
+
+void FinestraPrincipale::mostra(const std::shared_ptr<Finestra>& finestra) {
+  auto* figlia = new Figlia(finestra);
+  figlia->setAttribute(Qt::WA_DeleteOnClose, false);
+  auto* contenuto = disegna(finestra, confine_);
+  figlia->setWidget(contenuto);
+  figlia->setWindowTitle(QString::fromStdString(finestra->Caption()));
+  figlia->setWindowIcon(windowIcon());
+  figlia->installEventFilter(this);
+  area_->addSubWindow(figlia);
+
+  const auto& misure = finestra->misure();
+  const QSize disegno(pixel(misure.larghezza), pixel(misure.altezza));
+  figlia->resize(disegno.expandedTo(figlia->sizeHint()));
+  figlia->move(pixel(misure.sinistra), pixel(misure.sopra));
+  faiPosto(*figlia);
+  figlia->show();
+  contenuto->setFocus(Qt::OtherFocusReason);
+}
+
+// A child that does not fit makes the main window grow, as far as the screen allows; then scroll bars appear.
+void FinestraPrincipale::faiPosto(const QMdiSubWindow& figlia) {
+  const auto serve = figlia.geometry().bottomRight() - QPoint(area_->width() - 1, area_->height() - 1);
+  if ((serve.x() <= 0 && serve.y() <= 0) || isMaximized()) return;
+  const auto libero = screen()->availableGeometry();
+  const auto cornice = frameGeometry().size() - size();
+  const auto voluto = size() + QSize(std::max(0, serve.x()), std::max(0, serve.y()));
+  resize(voluto.boundedTo(libero.size() - cornice));
+  auto posto = pos();
+  posto.setX(std::max(libero.left(), std::min(posto.x(), libero.right() + 1 - width() - cornice.width())));
+  posto.setY(std::max(libero.top(), std::min(posto.y(), libero.bottom() + 1 - height() - cornice.height())));
+  if (isVisible() && posto != pos()) move(posto);
+}
+
+void FinestraPrincipale::portaSu(Finestra& finestra) {
+  if (auto* sotto = figlia(finestra)) area_->setActiveSubWindow(sotto);
+}
+
+void FinestraPrincipale::togli(Finestra& finestra) {
+  auto* sotto = figlia(finestra);
+  if (sotto == nullptr) return;
+  sotto->removeEventFilter(this);
+  sotto->hide();
+  area_->removeSubWindow(sotto);
+  sotto->deleteLater();
+}
+
+bool FinestraPrincipale::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() == QEvent::Close) {
+    if (const auto finestra = finestraDi(oggetto)) {
+      evento->ignore();
+      if (!finestra->occupata()) confine_.esegui([&] { principale_.chiudi(*finestra); });
+      return true;
+    }
+  }
+  return QMainWindow::eventFilter(oggetto, evento);
+}
+
+void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
+  if (principale_.occupata()) {
+    evento->ignore();
+    return;
+  }
+  confine_.esegui([this] { principale_.Form_Unload(); });
+  QMainWindow::closeEvent(evento);
+}
+
+QMdiSubWindow* FinestraPrincipale::figlia(const Finestra& finestra) const {
+  for (auto* sotto : area_->subWindowList())
+    if (finestraDi(sotto).get() == &finestra) return sotto;
+  return nullptr;
+}
+
+std::shared_ptr<Finestra> FinestraPrincipale::finestraDi(const QObject* figlia) const {
+  const auto* nota = dynamic_cast<const Figlia*>(figlia);
+  return nota == nullptr ? nullptr : nota->finestra();
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "desktop/confine.h"
+#include "dialogs/frm_principale.h"
+
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace vaticlo {
+
+/// Draws the main window: menu and toolbar from their tables, the open dialogs as child windows of a multiple-document
+/// area.
+class FinestraPrincipale : public QMainWindow, private VistaPrincipale {
+ public:
+  FinestraPrincipale(frmPrincipale& principale, const Confine& confine);
+  ~FinestraPrincipale() override;
+
+ protected:
+  void closeEvent(QCloseEvent* evento) override;
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+ private:
+  void mostra(const std::shared_ptr<Finestra>& finestra) override;
+  void portaSu(Finestra& finestra) override;
+  void togli(Finestra& finestra) override;
+  void chiudiPrincipale() override { close(); }
+
+  void creaMenu();
+  void creaBarra();
+  void faiPosto(const QMdiSubWindow& figlia);
+  [[nodiscard]] QMdiSubWindow* figlia(const Finestra& finestra) const;
+  [[nodiscard]] std::shared_ptr<Finestra> finestraDi(const QObject* figlia) const;
+
+  frmPrincipale& principale_;
+  const Confine& confine_;
+  QMdiArea* area_;
+};
+
+}  // namespace vaticlo

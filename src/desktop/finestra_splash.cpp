@@ -1,0 +1,50 @@
+#include "desktop/finestra_splash.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QSvgRenderer>
+
+#include <utility>
+
+#include "desktop/immagini.h"
+
+namespace vaticlo {
+
+FinestraSplash::FinestraSplash(std::function<void()> apriPrincipale)
+    : QWidget(nullptr, Qt::FramelessWindowHint), apriPrincipale_(std::move(apriPrincipale)) {
+  setObjectName(QStringLiteral("frmSplash"));
+  setWindowTitle(QStringLiteral("Vaticlo"));
+  setWindowIcon(immagine(QStringLiteral("vaticlo")));
+  setFocusPolicy(Qt::StrongFocus);
+  setFixedSize(560, 340);
+  if (const auto* schermo = QGuiApplication::primaryScreen())
+    move(schermo->availableGeometry().center() - rect().center());
+  timer1_.setSingleShot(true);
+  timer1_.setInterval(kIntervallo);
+  connect(&timer1_, &QTimer::timeout, this, &FinestraSplash::avanti);
+  timer1_.start();
+}
+
+void FinestraSplash::paintEvent(QPaintEvent* /*evento*/) {
+  QPainter pittore(this);
+  QSvgRenderer(QStringLiteral(":/artwork/splash.svg")).render(&pittore, rect());
+}
+
+void FinestraSplash::keyPressEvent(QKeyEvent* /*evento*/) { avanti(); }
+
+void FinestraSplash::closeEvent(QCloseEvent* evento) {
+  timer1_.stop();
+  QWidget::closeEvent(evento);
+}
+
+void FinestraSplash::avanti() {
+  timer1_.stop();
+  if (const auto apri = std::exchange(apriPrincipale_, {})) {
+    apri();
+    close();
+  }
+}
+
+}  // namespace vaticlo

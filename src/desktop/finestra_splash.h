@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+#include <QTimer>
+
+namespace vaticlo {
+
+/// The splash: one picture, in the middle of the screen, until its timer fires or any key is pressed. A mouse click
+/// does nothing.
+class FinestraSplash : public QWidget {
+ public:
+  static constexpr int kIntervallo = 5000;  ///< milliseconds
+
+  explicit FinestraSplash(std::function<void()> apriPrincipale);
+
+ protected:
+  void paintEvent(QPaintEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+  void closeEvent(QCloseEvent* evento) override;
+
+ private:
+  void avanti();
+
+  std::function<void()> apriPrincipale_;
+  QTimer timer1_;
+};
+
+}  // namespace vaticlo

@@ -1,0 +1,228 @@
+#include "desktop/legame.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include "controls/xpcmdbutton.h"
+#include "controls/xpgroupbox.h"
+#include "controls/xpradiobutton.h"
+
+namespace vaticlo {
+
+namespace {
+
+QString testo(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+QDate giornoQt(const Data& data) { return {anno(data), mese(data), giorno(data)}; }
+
+Data daGiornoQt(const QDate& giorno) {
+  return Data{std::chrono::year{giorno.year()}, std::chrono::month{static_cast<unsigned>(giorno.month())},
+              std::chrono::day{static_cast<unsigned>(giorno.day())}};
+}
+
+void disegnaVoci(QComboBox& combo, const Elenco& modello) {
+  const auto& voci = modello.voci();
+  bool uguali = combo.count() == static_cast<int>(voci.size());
+  for (int n = 0; uguali && n < combo.count(); ++n)
+    uguali = combo.itemText(n) == testo(voci[static_cast<std::size_t>(n)].testo);
+  if (uguali) return;
+  combo.clear();
+  for (const auto& voce : voci) combo.addItem(testo(voce.testo));
+}
+
+}  // namespace
+
+Legame::Legame(QWidget* vista, std::shared_ptr<Finestra> finestra, const Confine& confine)
+    : QObject(vista), vista_(vista), finestra_(std::move(finestra)), confine_(confine), validatore_(this, confine) {}
+
+Legame::~Legame() {
+  for (auto* modello : seguiti_) modello->osserva({});
+}
+
+template <class Widget>
+Widget* Legame::chiamato(Widget* widget, const QString& nome) {
+  widget->setObjectName(nome);
+  return widget;
+}
+
+void Legame::segui(Controllo& modello, std::function<void()> disegna) {
+  disegna();
+  modello.osserva(std::move(disegna));
+  seguiti_.push_back(&modello);
+}
+
+QLabel* Legame::etichetta(Etichetta& modello, const QString& nome) {
+  auto* widget = chiamato(new QLabel(vista_), nome);
+  widget->setTextFormat(Qt::PlainText);
+  segui(modello, [&modello, widget] {
+    widget->setText(testo(modello.Caption()));
+    widget->setVisible(modello.Visible());
+  });
+  return widget;
+}
+
+CampoTestoVista* Legame::campo(CampoTesto& modello, const QString& nome) {
+  auto* widget = chiamato(new CampoTestoVista(modello, validatore_, vista_), nome);
+  segui(modello, [widget] { widget->aggiorna(); });
+  return widget;
+}
+
+QScrollBar* Legame::barra(BarraScorrimento& modello, const QString& nome) {
+  auto* widget = chiamato(new QScrollBar(Qt::Vertical, vista_), nome);
+  widget->setFocusPolicy(Qt::StrongFocus);
+  widget->setSingleStep(modello.SmallChange);
+  widget->setPageStep(modello.LargeChange);
+  segui(modello, [&modello, widget] {
+    const QSignalBlocker silenzio(widget);
+    widget->setRange(modello.Min(), modello.Max());
+    widget->setValue(modello.Value());
+  });
+  connect(widget, &QScrollBar::valueChanged, this,
+          [this, &modello](int valore) { confine_.esegui([&] { modello.Value(valore); }); });
+  return widget;
+}
+
+QComboBox* Legame::elenco(Elenco& modello, const QString& nome, Tipo tipo) {
+  auto* widget = chiamato(new QComboBox(vista_), nome);
+  widget->setEditable(tipo == Tipo::Modificabile);
+  widget->setInsertPolicy(QComboBox::NoInsert);
+  widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  segui(modello, [&modello, widget] {
+    const QSignalBlocker silenzio(widget);
+    disegnaVoci(*widget, modello);
+    const auto mostrato = testo(modello.Text());
+    const int indice = modello.ListIndex() >= 0 ? modello.ListIndex() : widget->findText(mostrato, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (widget->currentIndex() != indice) widget->setCurrentIndex(indice);
+    if (widget->isEditable() && widget->currentText() != mostrato) widget->setEditText(mostrato);
+    if (!widget->isEditable()) widget->setPlaceholderText(mostrato);
+    widget->setEnabled(modello.Enabled());
+    widget->setVisible(modello.Visible());
+  });
+  connect(widget, &QComboBox::activated, this,
+          [this, &modello](int indice) { confine_.esegui([&] { modello.scegli(indice); }); });
+  if (widget->isEditable())
+    connect(widget->lineEdit(), &QLineEdit::textEdited, this,
+            [&modello](const QString& digitato) { modello.Text(digitato.toStdString()); });
+  return widget;
+}
+
+QRadioButton* Legame::opzione(Opzione& modello, const QString& nome) {
+  auto* widget = chiamato(new QRadioButton(vista_), nome);
+  segui(modello, [&modello, widget] {
+    widget->setText(testo(modello.Caption()));
+    if (modello.Value()) widget->setChecked(true);
+    widget->setEnabled(modello.Enabled());
+  });
+  connect(widget, &QRadioButton::clicked, this, [this, &modello] {
+    confine_.esegui([&] {
+      if (modello.Click) modello.Click();
+    });
+  });
+  return widget;
+}
+
+xpradiobutton* Legame::opzioneDisegnata(Opzione& modello, const QString& caption, const QString& nome) {
+  auto* widget = chiamato(new xpradiobutton(caption, vista_), nome);
+  segui(modello, [&modello, widget] {
+    widget->setValue(modello.Value());
+    widget->setEnabled(modello.Enabled());
+  });
+  connect(widget, &xpradiobutton::Click, this, [this, &modello] {
+    confine_.esegui([&] {
+      if (modello.Click) modello.Click();
+    });
+  });
+  // What the control makes of its value after the click is the value.
+  connect(widget, &xpradiobutton::toggled, this, [&modello](bool acceso) { modello.Value(acceso); });
+  return widget;
+}
+
+xpcmdbutton* Legame::pulsante(Pulsante& modello, const QString& nome) {
+  auto* widget = chiamato(new xpcmdbutton(vista_), nome);
+  widget->setProperty(kSenzaValidazione, !modello.CausesValidation);
+  segui(modello, [&modello, widget] {
+    widget->setCaption(testo(modello.Caption()));
+    widget->setToolTip(testo(modello.ToolTipText()));
+    widget->setEnabled(modello.Enabled());
+    widget->setVisible(modello.Visible());
+  });
+  connect(widget, &xpcmdbutton::Click, this, [this, &modello] {
+    if (modello.CausesValidation && !validatore_.ammette()) return;
+    confine_.esegui([&] {
+      if (modello.Click) modello.Click();
+    });
+  });
+  return widget;
+}
+
+QDateEdit* Legame::selettoreData(SelettoreData& modello, const QString& nome) {
+  auto* widget = chiamato(new QDateEdit(vista_), nome);
+  widget->setCalendarPopup(true);
+  widget->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+  segui(modello, [&modello, widget] {
+    const QSignalBlocker silenzio(widget);
+    if (modello.MaxDate()) widget->setMaximumDate(giornoQt(*modello.MaxDate()));
+    if (modello.Value()) widget->setDate(giornoQt(*modello.Value()));
+    widget->setEnabled(modello.Enabled());
+  });
+  connect(widget, &QDateEdit::dateChanged, this, [this, &modello](const QDate& giorno) {
+    confine_.esegui([&] {
+      modello.Value(daGiornoQt(giorno));
+      if (modello.Change) modello.Change();
+    });
+  });
+  return widget;
+}
+
+QProgressBar* Legame::avanzamento(Avanzamento& modello, const QString& nome) {
+  auto* widget = chiamato(new QProgressBar(vista_), nome);
+  segui(modello, [&modello, widget] {
+    widget->setRange(0, std::max(1, modello.Max()));
+    widget->setValue(modello.Value());
+    widget->setVisible(modello.Visible());
+  });
+  return widget;
+}
+
+QGroupBox* Legame::riquadro(Riquadro& modello, const QString& nome) {
+  auto* widget = chiamato(new QGroupBox(vista_), nome);
+  segui(modello, [&modello, widget] {
+    widget->setTitle(testo(modello.Caption()));
+    widget->setVisible(modello.Visible());
+  });
+  return widget;
+}
+
+xpgroupbox* Legame::riquadroDisegnato(Riquadro& modello, const QString& nome) {
+  auto* widget = chiamato(new xpgroupbox(vista_), nome);
+  segui(modello, [&modello, widget] {
+    widget->setCaption(testo(modello.Caption()));
+    widget->setVisible(modello.Visible());
+  });
+  return widget;
+}
+
+QPlainTextEdit* Legame::area(AreaTesto& modello, const QString& nome) {
+  auto* widget = chiamato(new QPlainTextEdit(vista_), nome);
+  widget->setReadOnly(true);
+  widget->setTabChangesFocus(true);
+  widget->setUndoRedoEnabled(false);
+  segui(modello, [&modello, widget, mostrato = std::string()]() mutable {
+    if (modello.Text() != mostrato) {
+      mostrato = modello.Text();
+      widget->setPlainText(testo(mostrato));
+    }
+    widget->setVisible(modello.Visible());
+  });
+  return widget;
+}
+
+}  // namespace vaticlo

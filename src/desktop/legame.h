@@ -1,0 +1,65 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QObject>
+
+#include "desktop/campo_testo.h"
+#include "desktop/confine.h"
+#include "dialogs/controlli.h"
+#include "dialogs/finestra.h"
+
+class QComboBox;
+class QDateEdit;
+class QGroupBox;
+class QLabel;
+class QPlainTextEdit;
+class QProgressBar;
+class QRadioButton;
+class QScrollBar;
+class QWidget;
+
+namespace vaticlo {
+
+class xpcmdbutton;
+class xpgroupbox;
+class xpradiobutton;
+
+/// Binds the controls of a dialog to the widgets that draw them, two ways. Each call makes the widget of a model,
+/// gives it the control's name, and keeps the two alike: the model's changes are drawn, what the user does goes to the
+/// model and runs its event procedure inside the failure boundary. The dialog lives at least as long as its widgets.
+class Legame : public QObject {
+ public:
+  Legame(QWidget* vista, std::shared_ptr<Finestra> finestra, const Confine& confine);
+  ~Legame() override;
+
+  QLabel* etichetta(Etichetta& modello, const QString& nome);
+  CampoTestoVista* campo(CampoTesto& modello, const QString& nome);
+  QScrollBar* barra(BarraScorrimento& modello, const QString& nome);
+  enum class Tipo { Modificabile, Chiuso };
+  QComboBox* elenco(Elenco& modello, const QString& nome, Tipo tipo = Tipo::Modificabile);
+  QRadioButton* opzione(Opzione& modello, const QString& nome);
+  xpradiobutton* opzioneDisegnata(Opzione& modello, const QString& caption, const QString& nome);
+  xpcmdbutton* pulsante(Pulsante& modello, const QString& nome);
+  QDateEdit* selettoreData(SelettoreData& modello, const QString& nome);
+  QProgressBar* avanzamento(Avanzamento& modello, const QString& nome);
+  QGroupBox* riquadro(Riquadro& modello, const QString& nome);
+  xpgroupbox* riquadroDisegnato(Riquadro& modello, const QString& nome);
+  QPlainTextEdit* area(AreaTesto& modello, const QString& nome);
+
+  [[nodiscard]] QWidget* vista() const { return vista_; }
+
+ private:
+  template <class Widget>
+  Widget* chiamato(Widget* widget, const QString& nome);
+  void segui(Controllo& modello, std::function<void()> disegna);
+
+  QWidget* vista_;
+  std::shared_ptr<Finestra> finestra_;
+  const Confine& confine_;
+  Validatore validatore_;
+  std::vector<Controllo*> seguiti_;
+};
+
+}  // namespace vaticlo

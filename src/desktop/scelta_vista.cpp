@@ -1,0 +1,23 @@
+#include "desktop/scelta_vista.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QRadioButton>
+
+namespace vaticlo {
+
+QGroupBox* sceltaMetodo(Legame& legame, ControlliMetodo& metodo) {
+  auto* riquadro = legame.riquadro(metodo.Frame2, QStringLiteral("Frame2"));
+  auto* riga = new QHBoxLayout(riquadro);
+  riga->setSpacing(12);
+  riga->addWidget(legame.opzione(metodo.optSelMetodo[0], QStringLiteral("optSelMetodo_0")));
+  riga->addWidget(legame.opzione(metodo.optSelMetodo[1], QStringLiteral("optSelMetodo_1")));
+  auto* lista = legame.elenco(metodo.cmbMetodo, QStringLiteral("cmbMetodo"));
+  lista->setAccessibleName(riquadro->title());
+  lista->setMinimumContentsLength(14);
+  riga->addWidget(lista, 1);
+  return riquadro;
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,74 @@
+#include "desktop/servizi_desktop.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QTextDocument>
+#include <QUrl>
+
+#include "platform/orologio.h"
+#include "platform/scaricamento.h"
+
+namespace vaticlo {
+
+namespace {
+
+QString qt(const std::string& testo) { return QString::fromStdString(testo); }
+
+}  // namespace
+
+Risposta ServiziDesktop::mostra(const Messaggio& messaggio) {
+  QMessageBox box(padre_);
+  box.setWindowTitle(qt(messaggio.titolo));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(qt(messaggio.testo));
+  if (messaggio.icona == Icona::Esclamazione) box.setIcon(QMessageBox::Warning);
+  if (messaggio.pulsanti == Pulsanti::SiNo) {
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::Yes);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes ? Risposta::Si : Risposta::No;
+  }
+  box.setStandardButtons(QMessageBox::Ok);
+  box.exec();
+  return Risposta::Ok;
+}
+
+std::string ServiziDesktop::chiedi(const std::string& testo, const std::string& titolo) {
+  QInputDialog box(padre_);
+  box.setWindowTitle(qt(titolo));
+  box.setLabelText(qt(testo));
+  // A long prompt is broken into lines instead of making the box as wide as the screen.
+  for (auto* etichetta : box.findChildren<QLabel*>()) etichetta->setWordWrap(true);
+  box.resize(box.fontMetrics().averageCharWidth() * 70, box.sizeHint().height());
+  return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+}
+
+void ServiziDesktop::stampa(const std::string& testo) {
+  const auto predefinita = QPrinterInfo::defaultPrinter();
+  if (predefinita.isNull()) return;
+  QPrinter stampante(predefinita, QPrinter::HighResolution);
+  stampante.setDocName(QStringLiteral("Vaticlo"));
+  QTextDocument documento;
+  documento.setPlainText(qt(testo));
+  documento.print(&stampante);
+}
+
+bool ServiziDesktop::scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  const bool riuscito = scaricaInFile(indirizzo, destinazione);
+  QApplication::restoreOverrideCursor();
+  return riuscito;
+}
+
+void ServiziDesktop::apriPagina(const std::string& indirizzo) { QDesktopServices::openUrl(QUrl(qt(indirizzo))); }
+
+std::chrono::year_month_day ServiziDesktop::oggi() const { return dataLocale(); }
+
+void ServiziDesktop::eventiInAttesa() { QApplication::processEvents(); }
+
+}  // namespace vaticlo

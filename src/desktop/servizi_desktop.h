@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/servizi.h"
+
+class QWidget;
+
+namespace vaticlo {
+
+/// The services of the desktop: message boxes, input boxes, the default printer, the network, the browser.
+class ServiziDesktop : public Servizi {
+ public:
+  Risposta mostra(const Messaggio& messaggio) override;
+  std::string chiedi(const std::string& testo, const std::string& titolo) override;
+  void stampa(const std::string& testo) override;
+  bool scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) override;
+  void apriPagina(const std::string& indirizzo) override;
+  [[nodiscard]] std::chrono::year_month_day oggi() const override;
+  void eventiInAttesa() override;
+
+  /// The window that boxes belong to.
+  void padre(QWidget* padre) { padre_ = padre; }
+
+ private:
+  QWidget* padre_ = nullptr;
+};
+
+}  // namespace vaticlo

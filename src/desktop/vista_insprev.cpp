@@ -1,0 +1,99 @@
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "controls/xpcmdbutton.h"
+#include "desktop/tavola_estrazione.h"
+#include "desktop/viste.h"
+#include "dialogs/frm_insprev.h"
+
+namespace vaticlo {
+
+namespace {
+
+/// A frame with one field in it; the hint shows as the tool tip and in the empty field.
+QGroupBox* cornice(Legame& legame, Riquadro& riquadro, const QString& nome, QWidget* dentro, const QString& esempio = {}) {
+  auto* gruppo = legame.riquadro(riquadro, nome);
+  auto* riga = new QVBoxLayout(gruppo);
+  riga->addWidget(dentro);
+  dentro->setAccessibleName(gruppo->title());
+  dentro->setToolTip(esempio);
+  if (auto* campo = qobject_cast<QLineEdit*>(dentro)) campo->setPlaceholderText(esempio);
+  return gruppo;
+}
+
+QWidget* selezione(Legame& legame, frmInsPrev& frm) {
+  auto* widget = new QWidget(legame.vista());
+  auto* riga = new QHBoxLayout(widget);
+  riga->setContentsMargins(0, 0, 0, 0);
+  riga->addWidget(cornice(legame, frm.Frame1, QStringLiteral("Frame1"), legame.elenco(frm.cmbMetodo, QStringLiteral("cmbMetodo"))));
+  auto* previsioni = legame.elenco(frm.cmbPrevisione, QStringLiteral("cmbPrevisione"));
+  previsioni->setMinimumContentsLength(32);
+  riga->addWidget(cornice(legame, frm.Frame10, QStringLiteral("Frame10"), previsioni));
+  riga->addStretch(1);
+  return widget;
+}
+
+QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
+  auto* gruppo = legame.riquadro(frm.Frame2, QStringLiteral("Frame2"));
+  auto* colonna = new QVBoxLayout(gruppo);
+  colonna->addLayout(intestazione(legame, frm.Label1, frm.estrazione.lblnestr, frm.Label13, frm.estrazione.lbldataestr));
+  colonna->addLayout(tavolaConBarra(legame, frm.estrazione));
+  colonna->addStretch(1);
+  return gruppo;
+}
+
+QWidget* previsione(Legame& legame, frmInsPrev& frm) {
+  auto* gruppo = legame.riquadro(frm.Frame3, QStringLiteral("Frame3"));
+  auto* prima = new QHBoxLayout;
+  prima->addWidget(cornice(legame, frm.Frame11, QStringLiteral("Frame11"), legame.campo(frm.txtNum, QStringLiteral("txtNum")), QStringLiteral("Es. 899.11.22.33")), 3);
+  prima->addWidget(cornice(legame, frm.Frame4, QStringLiteral("Frame4"), legame.campo(frm.txtRuote, QStringLiteral("txtRuote")), QStringLiteral("Es.:Ba-Ca-Tutte")), 3);
+  prima->addWidget(cornice(legame, frm.Frame5, QStringLiteral("Frame5"), legame.elenco(frm.cmbColpi, QStringLiteral("cmbColpi"), Legame::Tipo::Chiuso)), 2);
+
+  auto* combinazioni = legame.riquadro(frm.Frame6, QStringLiteral("Frame6"));
+  auto* colonna = new QVBoxLayout(combinazioni);
+  colonna->addWidget(cornice(legame, frm.Frame7, QStringLiteral("Frame7"), legame.campo(frm.txtAmbate, QStringLiteral("txtAmbate")), QStringLiteral("Es.:21;36")));
+  colonna->addWidget(cornice(legame, frm.Frame8, QStringLiteral("Frame8"), legame.campo(frm.txtAmbi, QStringLiteral("txtAmbi")), QStringLiteral("Es.:15-50;25-12;66-10")));
+  colonna->addWidget(cornice(legame, frm.Frame9, QStringLiteral("Frame9"), legame.campo(frm.txtSup, QStringLiteral("txtSup")), QStringLiteral("Es.:15-50-66-71;25-12-10")));
+
+  auto* tutto = new QVBoxLayout(gruppo);
+  tutto->addLayout(prima);
+  tutto->addWidget(combinazioni);
+  tutto->addStretch(1);
+  return gruppo;
+}
+
+}  // namespace
+
+QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine) {
+  auto* widget = new QWidget;
+  auto* legame = new Legame(widget, frm, confine);
+
+  auto* sopra = selezione(*legame, *frm);
+  auto* sinistra = calcolo(*legame, *frm);
+  auto* destra = previsione(*legame, *frm);
+
+  auto* pulsanti = new QHBoxLayout;
+  pulsanti->addStretch(1);
+  pulsanti->addWidget(legame->pulsante(frm->btnElabora, QStringLiteral("btnElabora")));
+  pulsanti->addWidget(legame->pulsante(frm->btnElimina, QStringLiteral("btnElimina")));
+  pulsanti->addWidget(legame->pulsante(frm->btnCancella, QStringLiteral("btnCancella")));
+
+  auto* centro = new QHBoxLayout;
+  centro->setSpacing(14);
+  centro->addWidget(sinistra);
+  centro->addWidget(destra, 1);
+
+  auto* tutto = new QVBoxLayout(widget);
+  tutto->setContentsMargins(14, 12, 14, 12);
+  tutto->setSpacing(10);
+  tutto->addWidget(sopra);
+  tutto->addLayout(centro, 1);
+  tutto->addLayout(pulsanti);
+  widget->setFocusProxy(widget->findChild<QWidget*>(QStringLiteral("cmbMetodo")));
+  return widget;
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,71 @@
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include "controls/xpcmdbutton.h"
+#include "desktop/scelta_vista.h"
+#include "desktop/viste.h"
+#include "dialogs/elenco_scansione.h"
+
+namespace vaticlo {
+
+namespace {
+
+/// The number of last draws with its arrows: least and greatest value, no text typed in, no wrap-around.
+QWidget* ultimeEstrazioni(Legame& legame, const std::shared_ptr<frmVinc>& frm, const Confine& confine) {
+  auto* gruppo = legame.riquadro(frm->Frame1, QStringLiteral("Frame1"));
+  auto* frecce = new QSpinBox(gruppo);
+  frecce->setObjectName(QStringLiteral("UpDown1"));
+  frecce->setAccessibleName(gruppo->title());
+  frecce->setRange(frmVinc::kMinimoUltime, frmVinc::kMassimoUltime);
+  frecce->findChild<QLineEdit*>()->setReadOnly(true);
+  frecce->findChild<QLineEdit*>()->setObjectName(QStringLiteral("txtColpi"));
+  QObject::connect(frecce, &QSpinBox::valueChanged, &legame, [frm, &confine](int ultime) {
+    confine.esegui([&] { frm->UpDown1_Change(ultime); });
+  });
+  auto* riga = new QHBoxLayout(gruppo);
+  riga->addWidget(frecce);
+  riga->addStretch(1);
+  return gruppo;
+}
+
+}  // namespace
+
+QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confine) {
+  auto* widget = new QWidget;
+  auto* legame = new Legame(widget, frm, confine);
+
+  auto* sopra = new QHBoxLayout;
+  sopra->addWidget(sceltaMetodo(*legame, frm->metodo), 1);
+  if (const auto vincenti = std::dynamic_pointer_cast<frmVinc>(frm))
+    sopra->addWidget(ultimeEstrazioni(*legame, vincenti, confine));
+
+  auto* nota = legame->etichetta(frm->lblPrev, QStringLiteral("lblPrev"));
+  auto colori = nota->palette();
+  colori.setColor(QPalette::WindowText, QColor(0xC0, 0x28, 0x28));
+  nota->setPalette(colori);
+  nota->setAlignment(Qt::AlignCenter);
+  auto* area = legame->area(frm->RichTextBox1, QStringLiteral("RichTextBox1"));
+  area->setAccessibleName(QString::fromStdString(frm->Caption()));
+
+  auto* pulsanti = new QHBoxLayout;
+  pulsanti->addWidget(legame->avanzamento(frm->prgbar, QStringLiteral("prgbar")), 1);
+  pulsanti->addStretch(1);
+  pulsanti->addWidget(legame->pulsante(frm->btnStampa, QStringLiteral("btnStampa")));
+  pulsanti->addWidget(legame->pulsante(frm->btnCancella, QStringLiteral("btnCancella")));
+
+  auto* tutto = new QVBoxLayout(widget);
+  tutto->setContentsMargins(14, 12, 14, 12);
+  tutto->setSpacing(10);
+  tutto->addLayout(sopra);
+  tutto->addWidget(nota, 1);
+  tutto->addWidget(area, 1);
+  tutto->addLayout(pulsanti);
+  return widget;
+}
+
+}  // namespace vaticlo

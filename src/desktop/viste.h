@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+
+#include "desktop/confine.h"
+#include "dialogs/finestra.h"
+
+class QWidget;
+
+namespace vaticlo {
+
+class ElencoScansione;
+class frmAggiornamento;
+class frmInfo;
+class frmInserisci;
+class frmInsPrev;
+class frmMetodi;
+class frmMetodo;
+class frmMigliore;
+class frmModifica;
+class frmSomdif;
+class frmStatistica;
+
+/// Makes the widgets of a dialog: a layout and its binding. The widget keeps the dialog alive as long as it lives.
+[[nodiscard]] QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine);
+
+[[nodiscard]] QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmAggiornamento>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmInfo>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmInserisci>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmMetodi>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmMetodo>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmMigliore>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmModifica>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmSomdif>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmStatistica>& frm, const Confine& confine);
+
+}  // namespace vaticlo

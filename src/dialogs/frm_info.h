@@ -1,0 +1,20 @@
+#pragma once
+
+#include "dialogs/controlli.h"
+#include "dialogs/finestra.h"
+
+namespace vaticlo {
+
+/// The about window: three lines of text and nothing else.
+class frmInfo : public Finestra {
+ public:
+  explicit frmInfo(Cornice& cornice);
+
+  void Form_Load() override;
+
+  Etichetta Label1{"Vaticlo"};
+  Etichetta Label2{"Archivio, previsioni e verifiche per chi gioca al Lotto"};
+  Etichetta Label3;
+};
+
+}  // namespace vaticlo

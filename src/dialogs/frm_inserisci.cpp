@@ -1,0 +1,72 @@
+#include "dialogs/frm_inserisci.h"
+
+#include "platform/conversione.h"
+
+namespace vaticlo {
+
+namespace {
+
+/// The form as the draw store saves it.
+class FormDaSalvare : public ControlliEstrazione {
+ public:
+  explicit FormDaSalvare(const frmInserisci& frm) : frm_(frm) {}
+  [[nodiscard]] std::string txtestr_Text(int f) const override {
+    return frm_.txtestr.at(static_cast<std::size_t>(f)).Text();
+  }
+  [[nodiscard]] std::optional<Data> mcdatecombo1_Value() const override { return frm_.mcdatecombo1.Value(); }
+
+ private:
+  const frmInserisci& frm_;
+};
+
+}  // namespace
+
+frmInserisci::frmInserisci(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
+  Caption("Inserimento Estrazioni");
+  for (int f = 0; f < kCampiEstrazione; ++f) {
+    auto& campo = txtestr.at(static_cast<std::size_t>(f));
+    campo.Mask("##");
+    campo.Text("  ");
+    campo.Validate = [this, f] { return txtestr_Validate(f); };
+  }
+  btnSalva.Click = [this] { btnSalva_Click(); };
+  btnCancella.Click = [this] { btnCancella_Click(); };
+  btnCancella.CausesValidation = false;  // leaving is always possible
+}
+
+void frmInserisci::Form_Load() {
+  cornice().chiudiAltre(*this);
+  prendiMisure({5475, 7530, 500, 1750});
+  mcdatecombo1.Value(programma_.servizi.oggi());
+}
+
+bool frmInserisci::txtestr_Validate(int f) {
+  const auto numero = numeroDaTesto(testo(f));
+  if (!numero || *numero <= 0 || *numero > 90) {
+    programma_.servizi.mostra(
+        {"Inserire un valore valido compreso tra 1 e 90", "Attenzione", Pulsanti::Ok, Icona::Esclamazione});
+    return true;
+  }
+  // Texts are compared, and only with the fields at the left: a digit typed in the right-hand place of the mask is
+  // another text than the same digit in the left-hand place. Meant.
+  for (int i = 1; i <= f % ArchivioEstrazioni::Colonne; ++i)
+    if (testo(f) == testo(f - i)) {
+      programma_.servizi.mostra({"''" + testo(f) + "'' è stato già inserito come estratto nella ruota", "Attenzione",
+                                 Pulsanti::Ok, Icona::Esclamazione});
+      return true;
+    }
+  return false;
+}
+
+void frmInserisci::btnSalva_Click() {
+  const auto risposta =
+      programma_.servizi.mostra({"Sei sicuro di voler salvare l'estrazione", "Attenzione", Pulsanti::SiNo});
+  if (risposta != Risposta::Si) return;
+  FormDaSalvare form(*this);
+  clsGestione(programma_.cartella, programma_.servizi).salva(form);
+  cornice().riapri(*this);
+}
+
+void frmInserisci::btnCancella_Click() { cornice().chiudi(*this); }
+
+}  // namespace vaticlo

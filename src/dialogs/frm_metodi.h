@@ -1,0 +1,35 @@
+#pragma once
+
+#include "dialogs/controlli.h"
+#include "dialogs/finestra.h"
+#include "methods/programma.h"
+
+namespace vaticlo {
+
+/// Renames or deletes a method, after a question.
+class frmMetodi : public Finestra {
+ public:
+  frmMetodi(Programma& programma, Cornice& cornice);
+
+  void Form_Load() override;
+  void cmbMetodo_Click();
+  void btnRinomina_Click();
+  void btnElimina_Click();
+  void btnEsci_Click();
+
+  Riquadro Frame1{"Seleziona Metodo"}, Frame2{"Nuovo nome"};
+  Elenco cmbMetodo;
+  CampoTesto txtNome;
+  Pulsante btnRinomina{"&Rinomina", "Cambia il nome del metodo"};
+  Pulsante btnElimina{"E&limina", "Elimina il metodo con le sue previsioni"};
+  Pulsante btnEsci{"&Esci", "Chiudi la finestra"};
+
+ private:
+  [[nodiscard]] bool conferma(const std::string& domanda);
+  void fatto(const std::string& testo);
+  void riempi();
+
+  Programma& programma_;
+};
+
+}  // namespace vaticlo

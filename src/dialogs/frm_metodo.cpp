@@ -1,0 +1,77 @@
+#include "dialogs/frm_metodo.h"
+
+#include "check/clsmetodo.h"
+#include "dialogs/ricerca_estrazione.h"
+#include "platform/rapporto.h"
+
+namespace vaticlo {
+
+frmMetodo::frmMetodo(Programma& programma, Cornice& cornice)
+    : Finestra(cornice), metodo(programma.cartella), programma_(programma) {
+  Caption("Vaticla");
+  for (auto& campo : estrazione.txtestr) campo.Locked = true;
+  for (auto* campo : {&txtgiocabili, &txtvincenti, &txtingioco}) campo->Locked = true;
+  for (int indice : {0, 1})
+    metodo.optSelMetodo[static_cast<std::size_t>(indice)].Click = [this, indice] { optSelMetodo_Click(indice); };
+  metodo.cmbMetodo.Click = [this] { cmbMetodo_Click(); };
+  estrazione.VScroll1.Change = [this] { VScroll1_Change(); };
+  btnTrova.Click = [this] { btnTrova_Click(); };
+  btnStampa.Click = [this] { btnStampa_Click(); };
+  btnAnnulla.Click = [this] { btnAnnulla_Click(); };
+}
+
+void frmMetodo::Form_Load() {
+  auto& g = programma_.globals;
+  cornice().chiudiAltre(*this);
+  prendiMisure({6960, 12660, 200, 630});
+  g.EstrazioneCorrente = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
+  g.UltimaEstrazione = g.EstrazioneCorrente - 1;
+  estrazione.VScroll1.Max(g.EstrazioneCorrente);
+  estrazione.VScroll1.Value(estrazione.VScroll1.Max());
+  visualizza(g.EstrazioneCorrente);
+}
+
+void frmMetodo::VScroll1_Change() {
+  auto& g = programma_.globals;
+  g.EstrazioneCorrente = estrazione.estrazioneDellaBarra();
+  visualizza(g.EstrazioneCorrente);
+  g.EstrazioneBase = g.EstrazioneCorrente;
+  for (auto& campo : estrazione.txtestr) campo.BackColor(kGrigio);
+  verifica();
+}
+
+void frmMetodo::optSelMetodo_Click(int indice) {
+  // With "Scegli" the list's own event may have run the check just before: it then runs twice, which is meant.
+  metodo.optSelMetodo_Click(indice);
+  verifica();
+}
+
+void frmMetodo::cmbMetodo_Click() { verifica(); }
+
+void frmMetodo::btnTrova_Click() {
+  cercaEstrazione(programma_, estrazione.VScroll1, estrazione, [this](int x) { visualizza(x); });
+}
+
+void frmMetodo::btnStampa_Click() {
+  if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Pulsanti::SiNo}) == Risposta::Si)
+    programma_.servizi.stampa(RichTextBox1.Text());
+}
+
+void frmMetodo::btnAnnulla_Click() { cornice().chiudi(*this); }
+
+void frmMetodo::visualizza(int n) { clsGestione(programma_.cartella, programma_.servizi).Visualizza(estrazione, n); }
+
+void frmMetodo::verifica() {
+  const auto& g = programma_.globals;
+  {
+    clsMetodo controllo(programma_, {metodo.scelta(), estrazione.lblnestr.Caption()});
+    controllo.ricerca(g.EstrazioneCorrente);
+    controllo.rilascia();
+  }
+  txtvincenti.Text(std::to_string(g.ContaVincenti));
+  txtgiocabili.Text(std::to_string(g.ContaGiocabili));
+  txtingioco.Text(std::to_string(g.ContaInGioco));
+  RichTextBox1.Text(testoRapporto(programma_.cartella.esiti()));
+}
+
+}  // namespace vaticlo

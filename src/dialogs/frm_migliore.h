@@ -1,0 +1,24 @@
+#pragma once
+
+#include "dialogs/controlli.h"
+#include "dialogs/finestra.h"
+#include "methods/programma.h"
+
+namespace vaticlo {
+
+/// Shows one of the two lists of the last statistics run, read anew each time the window becomes the active one. Its
+/// caption is that of its first opening, which is meant.
+class frmMigliore : public Finestra {
+ public:
+  frmMigliore(Programma& programma, Cornice& cornice);
+
+  void Form_Load() override;
+  void Form_Activate() override;
+
+  AreaTesto RichTextBox1;
+
+ private:
+  Programma& programma_;
+};
+
+}  // namespace vaticlo

@@ -1,0 +1,185 @@
+#include "dialogs/frm_principale.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <type_traits>
+
+#include "dialogs/aggiornamento.h"
+#include "dialogs/elenco_scansione.h"
+#include "dialogs/frm_aggiornamento.h"
+#include "dialogs/frm_info.h"
+#include "dialogs/frm_inserisci.h"
+#include "dialogs/frm_insprev.h"
+#include "dialogs/frm_metodi.h"
+#include "dialogs/frm_metodo.h"
+#include "dialogs/frm_migliore.h"
+#include "dialogs/frm_modifica.h"
+#include "dialogs/frm_somdif.h"
+#include "dialogs/frm_statistica.h"
+#include "dialogs/gestione_metodi.h"
+#include "platform/failure.h"
+
+namespace vaticlo {
+
+namespace {
+
+constexpr const char* kPaginaEstrazioni = "https://www.lotto-italia.it/lotto/estrazioni-ultime";
+constexpr const char* kPaginaRegole = "https://www.adm.gov.it/portale/lotto";
+
+// A statement of a toolbar handler, which runs on past any failure.
+template <class Istruzione>
+void oltreOgniFailure(Istruzione istruzione) {
+  try {
+    istruzione();
+  } catch (const RuntimeFailure&) {
+    // The next statement runs all the same.
+  }
+}
+
+}  // namespace
+
+template <class F>
+std::shared_ptr<Finestra> frmPrincipale::nuova() {
+  if constexpr (std::is_constructible_v<F, Programma&, Cornice&>)
+    return std::make_shared<F>(programma_, *this);
+  else
+    return std::make_shared<F>(*this);
+}
+
+template <class F>
+void frmPrincipale::apri() {
+  if (auto* finestra = aperta<F>()) {
+    if (vista_ != nullptr) vista_->portaSu(*finestra);
+    attivata(*finestra);
+  } else {
+    apriNuova(nuova<F>());
+  }
+}
+
+void frmPrincipale::apriNuova(std::shared_ptr<Finestra> finestra) {
+  finestra->Form_Load();
+  finestre_.push_back(finestra);
+  if (vista_ != nullptr) vista_->mostra(finestra);
+  attivata(*finestra);
+}
+
+void frmPrincipale::comando(Comando comando) {
+  if (occupata()) return;
+  chiuse_.clear();
+  auto& g = programma_.globals;
+  switch (comando) {
+    case Comando::Sottomenu: break;
+    case Comando::InserisciEstrazione: apri<frmInserisci>(); break;
+    case Comando::ModificaEstrazione: apri<frmModifica>(); break;
+    case Comando::Aggiorna: aggiornaArchivio(programma_); break;
+    case Comando::Vaticla: apri<frmMetodo>(); break;
+    case Comando::Statistica:
+      g.MetodoScelto = 1;
+      apri<frmStatistica>();
+      break;
+    case Comando::CreaMetodo: creaMetodo(); break;
+    case Comando::ModificaMetodo: apri<frmMetodi>(); break;
+    case Comando::CreaPrevisione:
+      g.PrevisioneInModifica = false;
+      apri<frmInsPrev>();
+      break;
+    case Comando::ModificaPrevisione:
+      g.PrevisioneInModifica = true;
+      apri<frmInsPrev>();
+      break;
+    case Comando::InGioco: apri<frmPrev>(); break;
+    case Comando::Vincenti: apri<frmVinc>(); break;
+    case Comando::Somdif: apri<frmSomdif>(); break;
+    case Comando::Riserva: apri<frmAggiornamento>(); break;
+    case Comando::PaginaEstrazioni: programma_.servizi.apriPagina(kPaginaEstrazioni); break;
+    case Comando::PaginaRegole: programma_.servizi.apriPagina(kPaginaRegole); break;
+    case Comando::Informazioni: apri<frmInfo>(); break;
+  }
+}
+
+void frmPrincipale::Toolbar1_ButtonClick(std::string_view chiave) {
+  if (occupata()) return;
+  oltreOgniFailure([&] {
+    if (chiave == "Insert") apri<frmInserisci>();
+    if (chiave == "Modify") apri<frmModifica>();
+    // MetodoScelto stays as it was, unlike with the menu's "Statistica".
+    if (chiave == "Sirvan") apri<frmMetodo>();
+    if (chiave == "Sirvan1") apri<frmStatistica>();
+    if (chiave == "Exit" && vista_ != nullptr) vista_->chiudiPrincipale();
+  });
+  if (chiave == "Info") {
+    oltreOgniFailure([&] { chiudiTutte(); });
+    oltreOgniFailure([&] { apri<frmInfo>(); });
+  }
+}
+
+void frmPrincipale::Toolbar1_ButtonMenuClick(std::string_view chiave) {
+  const bool previsione = chiave.starts_with("NumPrev");
+  if (occupata() || (!previsione && !chiave.starts_with("NumStat"))) return;
+  const auto cifra = chiave.substr(7);
+  if (cifra.size() > 1 || (cifra.size() == 1 && (cifra[0] < '1' || cifra[0] > '9'))) return;
+
+  oltreOgniFailure([&] { chiudiTutte(); });
+  // The key counts from 0, the method from 1: "NumPrev2" is "Metodo 3".
+  programma_.globals.MetodoScelto = static_cast<std::int16_t>(cifra.empty() ? 1 : cifra[0] - '0' + 1);
+  oltreOgniFailure([&] {
+    if (previsione)
+      apri<frmMetodo>();
+    else
+      apri<frmStatistica>();
+  });
+}
+
+void frmPrincipale::attivata(Finestra& finestra) {
+  if (attiva_ == &finestra) return;
+  attiva_ = &finestra;
+  finestra.Form_Activate();
+}
+
+void frmPrincipale::Form_Unload() {
+  std::error_code codice;
+  std::filesystem::remove(programma_.cartella.esiti(), codice);
+  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, "Esiti.txt");
+}
+
+bool frmPrincipale::occupata() const {
+  return std::any_of(finestre_.begin(), finestre_.end(), [](const auto& f) { return f->occupata(); });
+}
+
+void frmPrincipale::chiudi(Finestra& finestra) {
+  const auto posto =
+      std::find_if(finestre_.begin(), finestre_.end(), [&](const auto& f) { return f.get() == &finestra; });
+  if (posto == finestre_.end()) return;
+  chiuse_.push_back(*posto);
+  finestre_.erase(posto);
+  if (attiva_ == &finestra) attiva_ = nullptr;
+  if (vista_ != nullptr) vista_->togli(finestra);
+}
+
+void frmPrincipale::riapri(Finestra& finestra) {
+  const auto rifai = [this, &finestra]() -> std::shared_ptr<Finestra> {
+    if (dynamic_cast<frmInserisci*>(&finestra) != nullptr) return nuova<frmInserisci>();
+    if (dynamic_cast<frmModifica*>(&finestra) != nullptr) return nuova<frmModifica>();
+    if (dynamic_cast<frmInsPrev*>(&finestra) != nullptr) return nuova<frmInsPrev>();
+    return nullptr;
+  };
+  auto nuovaFinestra = rifai();
+  chiudi(finestra);
+  if (nuovaFinestra) apriNuova(std::move(nuovaFinestra));
+}
+
+void frmPrincipale::apriRisultati() { apri<frmMigliore>(); }
+
+void frmPrincipale::chiudiTutte(const Finestra* tranne) {
+  const auto aperte = finestre_;
+  for (const auto& finestra : aperte)
+    if (finestra.get() != tranne) chiudi(*finestra);
+}
+
+void frmPrincipale::creaMetodo() {
+  const auto nome = programma_.servizi.chiedi("Nome del nuovo metodo:", "Crea Metodo");
+  if (nome.empty()) return;
+  if (GestioneMetodi(programma_).crea(nome)) programma_.servizi.mostra({"Il metodo è stato creato!"});
+}
+
+}  // namespace vaticlo

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "dialogs/finestra.h"
+#include "dialogs/frm_principale_tavole.h"
+#include "methods/programma.h"
+
+namespace vaticlo {
+
+/// What draws the main window and its child windows.
+class VistaPrincipale {
+ public:
+  virtual ~VistaPrincipale() = default;
+  virtual void mostra(const std::shared_ptr<Finestra>& finestra) = 0;
+  virtual void portaSu(Finestra& finestra) = 0;
+  virtual void togli(Finestra& finestra) = 0;
+  virtual void chiudiPrincipale() = 0;
+};
+
+/// The main window: the commands of its menu and its toolbar, the child windows that are open, and which of them is
+/// the active one. A dialog is open once at most.
+class frmPrincipale : public Cornice {
+ public:
+  explicit frmPrincipale(Programma& programma) : programma_(programma) {}
+
+  static constexpr const char* kCaption = "Vaticlo";
+  static constexpr int kLarghezza = 12000, kAltezza = 9000;  ///< twips
+
+  void disegnataDa(VistaPrincipale* vista) { vista_ = vista; }
+
+  /// A menu entry. Failures go on to the caller and end the program.
+  void comando(Comando comando);
+  /// A press on the main part of a toolbar button. Runs on past any failure; unknown keys do nothing.
+  void Toolbar1_ButtonClick(std::string_view chiave);
+  /// An item of a drop-down button: `NumPrev` or `NumStat` with an optional digit. Runs on past any failure.
+  void Toolbar1_ButtonMenuClick(std::string_view chiave);
+
+  /// The window became the active one.
+  void attivata(Finestra& finestra);
+  /// The main window closes: the report of the last check is deleted. Failure 75 when it can't be.
+  void Form_Unload();
+  /// Long work is under way: only its own stop is listened to.
+  [[nodiscard]] bool occupata() const;
+
+  void chiudiAltre(Finestra& tranne) override { chiudiTutte(&tranne); }
+  void chiudi(Finestra& finestra) override;
+  void riapri(Finestra& finestra) override;
+  void apriRisultati() override;
+
+  [[nodiscard]] const std::vector<std::shared_ptr<Finestra>>& finestre() const { return finestre_; }
+  template <class F>
+  [[nodiscard]] F* aperta() const {
+    for (const auto& finestra : finestre_)
+      if (auto* trovata = dynamic_cast<F*>(finestra.get())) return trovata;
+    return nullptr;
+  }
+
+ private:
+  template <class F>
+  void apri();
+  template <class F>
+  [[nodiscard]] std::shared_ptr<Finestra> nuova();
+  void apriNuova(std::shared_ptr<Finestra> finestra);
+  void chiudiTutte(const Finestra* tranne = nullptr);
+  void creaMetodo();
+
+  Programma& programma_;
+  VistaPrincipale* vista_ = nullptr;
+  std::vector<std::shared_ptr<Finestra>> finestre_;
+  std::vector<std::shared_ptr<Finestra>> chiuse_;  ///< kept until the next command: an event of theirs may be running
+  Finestra* attiva_ = nullptr;
+};
+
+}  // namespace vaticlo
