@@ -12,6 +12,7 @@
 #include <array>
 
 #include "desktop/immagini.h"
+#include "desktop/tasti_accesso.h"
 #include "desktop/viste.h"
 
 namespace vaticlo {
@@ -52,6 +53,7 @@ FinestraPrincipale::FinestraPrincipale(frmPrincipale& principale, const Confine&
   connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* attivata) {
     if (const auto finestra = finestraDi(attivata)) confine_.esegui([&] { principale_.attivata(*finestra); });
   });
+  new TastiAccesso(area_);
   principale_.disegnataDa(this);
 }
 

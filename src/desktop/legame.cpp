@@ -148,6 +148,7 @@ xpradiobutton* Legame::opzioneDisegnata(Opzione& modello, const QString& caption
 xpcmdbutton* Legame::pulsante(Pulsante& modello, const QString& nome) {
   auto* widget = chiamato(new xpcmdbutton(vista_), nome);
   widget->setProperty(kSenzaValidazione, !modello.CausesValidation);
+  widget->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
   segui(modello, [&modello, widget] {
     widget->setCaption(testo(modello.Caption()));
     widget->setToolTip(testo(modello.ToolTipText()));

@@ -2,13 +2,15 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QInputDialog>
+#include <QDialogButtonBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTextDocument>
 #include <QUrl>
+#include <QVBoxLayout>
 
 #include "platform/orologio.h"
 #include "platform/scaricamento.h"
@@ -39,13 +41,25 @@ Risposta ServiziDesktop::mostra(const Messaggio& messaggio) {
 }
 
 std::string ServiziDesktop::chiedi(const std::string& testo, const std::string& titolo) {
-  QInputDialog box(padre_);
+  QDialog box(padre_);
   box.setWindowTitle(qt(titolo));
-  box.setLabelText(qt(testo));
-  // A long prompt is broken into lines instead of making the box as wide as the screen.
-  for (auto* etichetta : box.findChildren<QLabel*>()) etichetta->setWordWrap(true);
-  box.resize(box.fontMetrics().averageCharWidth() * 70, box.sizeHint().height());
-  return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+  auto* domanda = new QLabel(qt(testo), &box);
+  domanda->setTextFormat(Qt::PlainText);
+  domanda->setWordWrap(true);
+  domanda->setMinimumWidth(domanda->fontMetrics().averageCharWidth() * 64);
+  auto* risposta = new QLineEdit(&box);
+  risposta->setObjectName(QStringLiteral("risposta"));
+  domanda->setBuddy(risposta);
+  auto* pulsanti = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &box);
+  QObject::connect(pulsanti, &QDialogButtonBox::accepted, &box, &QDialog::accept);
+  QObject::connect(pulsanti, &QDialogButtonBox::rejected, &box, &QDialog::reject);
+  auto* colonna = new QVBoxLayout(&box);
+  colonna->setSpacing(12);
+  colonna->addWidget(domanda);
+  colonna->addWidget(risposta);
+  colonna->addWidget(pulsanti);
+  risposta->setFocus();
+  return box.exec() == QDialog::Accepted ? risposta->text().toStdString() : std::string();
 }
 
 void ServiziDesktop::stampa(const std::string& testo) {

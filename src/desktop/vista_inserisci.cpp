@@ -25,6 +25,7 @@ QWidget* vista(const std::shared_ptr<frmInserisci>& frm, const Confine& confine)
   data->addStretch(1);
 
   auto* pulsanti = new QVBoxLayout;
+  pulsanti->setSpacing(10);
   pulsanti->addWidget(legame->pulsante(frm->btnSalva, QStringLiteral("btnSalva")));
   pulsanti->addWidget(legame->pulsante(frm->btnCancella, QStringLiteral("btnCancella")));
   pulsanti->addStretch(1);

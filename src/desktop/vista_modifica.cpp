@@ -16,6 +16,7 @@ QWidget* vista(const std::shared_ptr<frmModifica>& frm, const Confine& confine) 
   auto* tavola = tavolaConBarra(*legame, frm->estrazione);
 
   auto* pulsanti = new QVBoxLayout;
+  pulsanti->setSpacing(10);
   pulsanti->addWidget(legame->pulsante(frm->btnSalva, QStringLiteral("btnSalva")));
   pulsanti->addWidget(legame->pulsante(frm->btnCancella, QStringLiteral("btnCancella")));
   pulsanti->addWidget(legame->pulsante(frm->btnTrova, QStringLiteral("btnTrova")));

@@ -32,7 +32,6 @@ QWidget* tavola(Legame& legame, frmSomdif& frm) {
     for (int i = 0; i < kRuoteSomDif; ++i) {
       auto* campo = legame.campo(frm.colonne[colonna][static_cast<std::size_t>(i)],
                                  QStringLiteral("txtestr%1_%2").arg(c == 0 ? QString() : QString::number(c)).arg(i));
-      campo->setReadOnly(true);
       campo->setAlignment(Qt::AlignCenter);
       campo->setMinimumWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 8);
       griglia->addWidget(campo, i + 1, c + 1);

@@ -51,12 +51,14 @@ QWidget* vista(const std::shared_ptr<frmStatistica>& frm, const Confine& confine
   sinistra->addWidget(intervallo(*legame, *frm));
   auto* area = legame->area(frm->RichTextBox1, QStringLiteral("RichTextBox1"));
   area->setAccessibleName(QStringLiteral("Totali della statistica"));
-  auto* pannello = new QVBoxLayout;
-  pannello->addWidget(area, 1);
-  sinistra->addLayout(pannello, 1);
+  auto misura = area->sizePolicy();
+  misura.setRetainSizeWhenHidden(true);  // what stands above stays in its place
+  area->setSizePolicy(misura);
+  sinistra->addWidget(area, 1);
   sinistra->addWidget(legame->avanzamento(frm->prgbar, QStringLiteral("prgbar")));
 
   auto* pulsanti = new QVBoxLayout;
+  pulsanti->setSpacing(10);
   pulsanti->addWidget(legame->pulsante(frm->btnElabora, QStringLiteral("btnElabora")));
   pulsanti->addWidget(legame->pulsante(frm->btnStop, QStringLiteral("btnStop")));
   pulsanti->addSpacing(12);

@@ -17,6 +17,8 @@ void mostraInCampo(CampoTesto& campo, const std::string& testo) {
 frmSomdif::frmSomdif(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
   Caption("Somma/Distanza Estratti");
   optdistciclo.Value(true);
+  for (auto& colonna : colonne)
+    for (auto& campo : colonna) campo.Locked = true;
   tuttoGrigio();
   VScroll1.Change = [this] { VScroll1_Change(); };
   optdistciclo.Click = [this] { opzione_Click(TipoSomDif::Ciclometrica); };

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QObject>
+
+class QKeyEvent;
+class QMdiArea;
+
+namespace vaticlo {
+
+/// Access keys of the active child window come before those of the menu bar: in a draw window Alt+S is "&Salva", not
+/// "&Statistica". Ctrl+F4 and Ctrl+W close the active child window.
+class TastiAccesso : public QObject {
+ public:
+  explicit TastiAccesso(QMdiArea* area);
+
+ protected:
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+ private:
+  [[nodiscard]] bool premi(const QKeyEvent& tasto, bool davvero) const;
+
+  QMdiArea* area_;
+};
+
+}  // namespace vaticlo
