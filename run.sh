@@ -6,13 +6,16 @@ cd "$(dirname "$0")"
 installa_pacchetti
 costruisci release
 
-programma=build/release/programma
-mkdir -p "$programma"
-cli=$PWD/build/release/src/console/vaticlo-cli
+programma=$PWD/build/release/programma
 if [ ! -s "$programma/archivion71.dat" ]; then
-  echo "Prima esecuzione: nella cartella $programma ci sono estrazioni e previsioni inventate, per provare."
-  "$cli" --cartella "$programma" dimostrazione || true
+  echo "Prima esecuzione: $programma non ha ancora estrazioni, eccone di inventate per provare."
+  "$programma/vaticlo-cli" dimostrazione || true
+fi
+
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  exec "$programma/vaticlo"
 fi
 echo
-echo "\$ vaticlo-cli --cartella $programma verifica 315"
-exec "$cli" --cartella "$programma" verifica 315
+echo "Nessuno schermo: una verifica nel terminale."
+echo "\$ vaticlo-cli verifica 315"
+exec "$programma/vaticlo-cli" verifica 315

@@ -7,7 +7,7 @@ build=${1:?build folder}
 runs=${2:-15}
 dir=$(mktemp -d)
 trap 'rm -rf "$dir"' EXIT
-cli=$build/src/console/vaticlo-cli
+cli=$build/programma/vaticlo-cli
 for n in 1000 2000; do "$build/bench/crea_cartella_grande" "$dir/$n" 7270 $n; done
 
 once() { # microseconds of one run of a command

@@ -10,10 +10,12 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QToolButton>
 
 #include "controls/xpcmdbutton.h"
 #include "controls/xpgroupbox.h"
 #include "controls/xpradiobutton.h"
+#include "desktop/immagini.h"
 
 namespace vaticlo {
 
@@ -155,13 +157,29 @@ xpcmdbutton* Legame::pulsante(Pulsante& modello, const QString& nome) {
     widget->setEnabled(modello.Enabled());
     widget->setVisible(modello.Visible());
   });
-  connect(widget, &xpcmdbutton::Click, this, [this, &modello] {
-    if (modello.CausesValidation && !validatore_.ammette()) return;
-    confine_.esegui([&] {
-      if (modello.Click) modello.Click();
-    });
-  });
+  connect(widget, &xpcmdbutton::Click, this, [this, &modello] { premuto(modello); });
   return widget;
+}
+
+QToolButton* Legame::pulsanteConImmagine(Pulsante& modello, const QString& nome, const QString& chiave) {
+  auto* widget = chiamato(new QToolButton(vista_), nome);
+  widget->setIcon(immagine(chiave));
+  widget->setIconSize(QSize(24, 24));
+  widget->setFocusPolicy(Qt::StrongFocus);
+  segui(modello, [&modello, widget] {
+    widget->setToolTip(testo(modello.ToolTipText()));
+    widget->setAccessibleName(widget->toolTip());
+    widget->setEnabled(modello.Enabled());
+  });
+  connect(widget, &QToolButton::clicked, this, [this, &modello] { premuto(modello); });
+  return widget;
+}
+
+void Legame::premuto(Pulsante& modello) {
+  if (modello.CausesValidation && !validatore_.ammette()) return;
+  confine_.esegui([&] {
+    if (modello.Click) modello.Click();
+  });
 }
 
 QDateEdit* Legame::selettoreData(SelettoreData& modello, const QString& nome) {

@@ -18,6 +18,7 @@ class QPlainTextEdit;
 class QProgressBar;
 class QRadioButton;
 class QScrollBar;
+class QToolButton;
 class QWidget;
 
 namespace vaticlo {
@@ -42,6 +43,8 @@ class Legame : public QObject {
   QRadioButton* opzione(Opzione& modello, const QString& nome);
   xpradiobutton* opzioneDisegnata(Opzione& modello, const QString& caption, const QString& nome);
   xpcmdbutton* pulsante(Pulsante& modello, const QString& nome);
+  /// A button that shows a picture instead of a caption.
+  QToolButton* pulsanteConImmagine(Pulsante& modello, const QString& nome, const QString& chiave);
   QDateEdit* selettoreData(SelettoreData& modello, const QString& nome);
   QProgressBar* avanzamento(Avanzamento& modello, const QString& nome);
   QGroupBox* riquadro(Riquadro& modello, const QString& nome);
@@ -53,6 +56,7 @@ class Legame : public QObject {
  private:
   template <class Widget>
   Widget* chiamato(Widget* widget, const QString& nome);
+  void premuto(Pulsante& modello);
   void segui(Controllo& modello, std::function<void()> disegna);
 
   QWidget* vista_;

@@ -2,12 +2,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScrollBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "archive/ruota.h"
 #include "controls/xpcmdbutton.h"
 #include "controls/xpradiobutton.h"
-#include "desktop/immagini.h"
 #include "desktop/tavola_estrazione.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_somdif.h"
@@ -66,7 +66,7 @@ QWidget* vista(const std::shared_ptr<frmSomdif>& frm, const Confine& confine) {
   sotto->addWidget(legame->opzioneDisegnata(frm->optdistmat, QString::fromStdString(frm->Label27.Caption()), QStringLiteral("optdistmat")));
   sotto->addWidget(legame->opzioneDisegnata(frm->optsommat, QString::fromStdString(frm->Label26.Caption()), QStringLiteral("optsommat")));
   sotto->addStretch(1);
-  sotto->addWidget(legame->pulsante(frm->btnTrova, QStringLiteral("btnTrova")));
+  sotto->addWidget(legame->pulsanteConImmagine(frm->btnTrova, QStringLiteral("btnTrova"), QStringLiteral("Trova")));
   sotto->addWidget(legame->pulsante(frm->btnAnnulla, QStringLiteral("btnAnnulla")));
 
   auto* tutto = new QVBoxLayout(widget);
