@@ -31,7 +31,7 @@ aspetta() { sleep "${1:-0.8}"; }
 aspetta 2
 scatta 00-splash
 xdotool key space
-aspetta 1.5
+aspetta 2.5
 scatta 01-principale
 tasti alt+a; scatta 02-menu-archivio; tasti Escape Escape
 tasti alt+a i; aspetta; scatta 03-inserisci
@@ -47,7 +47,7 @@ tasti ctrl+F4; tasti alt+g p m; aspetta; tasti Down; aspetta; scatta 11-modifica
 tasti alt+g m c; aspetta; scatta 12-crea-metodo; tasti Escape
 tasti alt+g m m; aspetta; scatta 13-modifica-metodo
 tasti alt+s; aspetta; tasti alt+e; aspetta; scatta 14-statistica-messaggio; tasti Return
-tasti shift+Tab shift+Tab 3 0 0 alt+e; aspetta; scatta 15-statistica
+tasti shift+Tab shift+Tab shift+Tab shift+Tab shift+Tab 3 0 0 alt+e; aspetta; scatta 15-statistica
 tasti alt+v; aspetta; scatta 15-vincite; tasti ctrl+F4
 tasti alt+u Down; scatta 15-menu-utility; tasti Escape Escape
 tasti alt+u Return; aspetta; scatta 16-in-gioco

@@ -131,17 +131,25 @@ void FinestraPrincipale::mostra(const std::shared_ptr<Finestra>& finestra) {
   contenuto->setFocus(Qt::OtherFocusReason);
 }
 
-// A child that does not fit makes the main window grow, as far as the screen allows; then scroll bars appear.
-void FinestraPrincipale::faiPosto(const QMdiSubWindow& figlia) {
-  const auto serve = figlia.geometry().bottomRight() - QPoint(area_->width() - 1, area_->height() - 1);
-  if ((serve.x() <= 0 && serve.y() <= 0) || isMaximized()) return;
+// A child that does not fit makes the main window grow, as far as the screen allows; then the child moves towards the
+// top left corner, and at last scroll bars appear.
+void FinestraPrincipale::faiPosto(QMdiSubWindow& figlia) {
+  const auto manca = [&](const QSize& cresciuta) {
+    const auto fuori = figlia.geometry().bottomRight() - QPoint(area_->width() - 1, area_->height() - 1);
+    return QSize(std::max(0, fuori.x() - cresciuta.width()), std::max(0, fuori.y() - cresciuta.height()));
+  };
+  const auto serve = manca(QSize(0, 0));
+  if (serve.isNull()) return;
   const auto libero = screen()->availableGeometry();
-  const auto cornice = frameGeometry().size() - size();
-  const auto voluto = size() + QSize(std::max(0, serve.x()), std::max(0, serve.y()));
-  resize(voluto.boundedTo(libero.size() - cornice));
-  auto posto = pos();
-  posto.setX(std::max(libero.left(), std::min(posto.x(), libero.right() + 1 - width() - cornice.width())));
-  posto.setY(std::max(libero.top(), std::min(posto.y(), libero.bottom() + 1 - height() - cornice.height())));
+  const auto bordo = frameGeometry().size() - size();
+  const auto voluta = isMaximized() ? size() : (size() + serve).boundedTo(libero.size() - bordo).expandedTo(size());
+  const auto resto = manca(voluta - size());
+  figlia.move(std::max(0, figlia.x() - resto.width()), std::max(0, figlia.y() - resto.height()));
+  if (voluta == size()) return;
+  resize(voluta);
+  const QPoint estremo(libero.right() + 1 - width() - bordo.width(), libero.bottom() + 1 - height() - bordo.height());
+  const QPoint posto(std::max(libero.left(), std::min(pos().x(), estremo.x())),
+                     std::max(libero.top(), std::min(pos().y(), estremo.y())));
   if (isVisible() && posto != pos()) move(posto);
 }
 

@@ -29,7 +29,7 @@ class FinestraPrincipale : public QMainWindow, private VistaPrincipale {
 
   void creaMenu();
   void creaBarra();
-  void faiPosto(const QMdiSubWindow& figlia);
+  void faiPosto(QMdiSubWindow& figlia);
   [[nodiscard]] QMdiSubWindow* figlia(const Finestra& finestra) const;
   [[nodiscard]] std::shared_ptr<Finestra> finestraDi(const QObject* figlia) const;
 

@@ -34,6 +34,7 @@ QWidget* tavola(Legame& legame, frmSomdif& frm) {
                                  QStringLiteral("txtestr%1_%2").arg(c == 0 ? QString() : QString::number(c)).arg(i));
       campo->setAlignment(Qt::AlignCenter);
       campo->setMinimumWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 8);
+      campo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
       griglia->addWidget(campo, i + 1, c + 1);
     }
   }
