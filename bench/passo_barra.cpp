@@ -1,10 +1,9 @@
-// Times one step of the scroll bar in the check window: read, show, check, report loaded, painted. Beside it the time
-// that reading the same files alone takes. Prints medians.
+// Times one step of the scroll bar in the check window: read, show, check, report loaded, painted. Beside it
+// the time that reading the same files alone takes. Prints medians.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QScrollBar>
 #include <QTemporaryDir>
-
 #include <algorithm>
 #include <cstdio>
 #include <vector>
@@ -59,10 +58,12 @@ int main(int argc, char* argv[]) {
     }));
     letture.push_back(millisecondi([&] {
       (void)ApriArchivio(programma.cartella);
-      for (const auto& nome : CaricaElencoMetodi(programma.cartella, {})) (void)LeggiMetodo(programma.cartella, nome);
+      for (const auto& nome : CaricaElencoMetodi(programma.cartella, {}))
+        (void)LeggiMetodo(programma.cartella, nome);
     }));
   }
-  std::printf("a step of the scroll bar, 100 methods: %.2f ms\nreading the same files alone:         %.2f ms\n",
-              mediana(passi), mediana(letture));
+  std::printf(
+      "a step of the scroll bar, 100 methods: %.2f ms\nreading the same files alone:         %.2f ms\n",
+      mediana(passi), mediana(letture));
   return 0;
 }

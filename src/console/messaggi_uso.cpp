@@ -40,13 +40,14 @@ std::string dopo(const std::string& testo, const std::string& segno) {
 std::string motivo(const CLI::App& comando, const CLI::ParseError& errore) {
   std::string inglese = errore.what();
   if (dynamic_cast<const CLI::RequiredError*>(&errore) != nullptr) {
-    if (inglese.find("subcommand") != std::string::npos) return "manca il comando";
+    if (inglese.find("subcommand") != std::string::npos) {
+      const auto parole = comando.remaining();
+      return parole.empty() ? "manca il comando" : "comando sconosciuto: " + parole.front();
+    }
     return "manca " + inglese.substr(0, inglese.find(" is required"));
   }
   if (dynamic_cast<const CLI::ExtrasError*>(&errore) != nullptr) {
-    const auto parole = dopo(inglese, "not expected: ");
-    const bool attesoComando = !comando.get_subcommands([](const CLI::App*) { return true; }).empty();
-    return (attesoComando ? "comando sconosciuto: " : "argomento di troppo o sconosciuto: ") + parole;
+    return "argomento di troppo o sconosciuto: " + dopo(inglese, "not expected: ");
   }
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&errore) != nullptr)
     return "numero di valori sbagliato per " + inglese.substr(0, inglese.find(':'));
@@ -66,7 +67,8 @@ void parlaItaliano(CLI::App& app) {
 
 void parlaItalianoAiuto(CLI::App& app) {
   app.get_help_ptr()->group("Opzioni");
-  for (auto* comando : app.get_subcommands([](const CLI::App*) { return true; })) parlaItalianoAiuto(*comando);
+  for (auto* comando : app.get_subcommands([](const CLI::App*) { return true; }))
+    parlaItalianoAiuto(*comando);
 }
 
 std::string spiegaErrore(const CLI::App& app, const CLI::ParseError& errore) {

@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include <CLI/CLI.hpp>
+
 #include "console/messaggi_uso.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"

@@ -10,9 +10,9 @@ namespace vaticlo {
 
 class CampoTestoVista;
 
-/// Lets the field that the focus leaves validate itself, once for a window. The validation runs when the toolkit has
-/// finished moving the focus, or before that when a button is pressed meanwhile; a field that holds the focus back
-/// gets it again, and the press is lost.
+/// Lets the field that the focus leaves validate itself, once for a window. The validation runs when the
+/// toolkit has finished moving the focus, or before that when a button is pressed meanwhile; a field that
+/// holds the focus back gets it again, and the press is lost.
 class Validatore : public QObject {
  public:
   Validatore(QObject* padre, const Confine& confine) : QObject(padre), confine_(confine) {}

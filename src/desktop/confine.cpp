@@ -1,7 +1,6 @@
 #include "desktop/confine.h"
 
 #include <QMessageBox>
-
 #include <cstdlib>
 
 namespace vaticlo {
@@ -15,11 +14,12 @@ void Confine::esegui(const std::function<void()>& evento) const {
 }
 
 void Confine::terminaProgramma(const RuntimeFailure& failure) {
-  QMessageBox::critical(nullptr, QStringLiteral("Vaticlo"),
-                        QStringLiteral("Errore di run-time %1: %2.\n\nIl programma termina; i file sono rimasti "
-                                       "com'erano.")
-                            .arg(failure.numero())
-                            .arg(QString::fromUtf8(failure.what())));
+  QMessageBox::critical(
+      nullptr, QStringLiteral("Vaticlo"),
+      QStringLiteral("Errore di run-time %1: %2.\n\nIl programma termina; i file sono rimasti "
+                     "com'erano.")
+          .arg(failure.numero())
+          .arg(QString::fromUtf8(failure.what())));
   // The failure has unwound the logic and closed its files. No window lives on to meet another event.
   std::_Exit(EXIT_FAILURE);
 }

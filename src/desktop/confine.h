@@ -6,8 +6,8 @@
 
 namespace vaticlo {
 
-/// The boundary between toolkit and logic: every event of a widget reaches the logic through it. A run-time failure
-/// that nothing caught ends the program with one message box.
+/// The boundary between toolkit and logic: every event of a widget reaches the logic through it. A run-time
+/// failure that nothing caught ends the program with one message box.
 class Confine {
  public:
   using Fine = std::function<void(const RuntimeFailure&)>;

@@ -8,7 +8,6 @@
 #include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
-
 #include <array>
 
 #include "desktop/immagini.h"
@@ -22,7 +21,9 @@ namespace {
 constexpr int kTwipsPerPixel = 15;
 constexpr int kLatoImmagini = 32;
 
-QString daUtf8(std::string_view testo) { return QString::fromUtf8(testo.data(), static_cast<int>(testo.size())); }
+QString daUtf8(std::string_view testo) {
+  return QString::fromUtf8(testo.data(), static_cast<int>(testo.size()));
+}
 
 int pixel(int twips) { return twips / kTwipsPerPixel; }
 
@@ -65,7 +66,8 @@ void FinestraPrincipale::creaMenu() {
     const auto livello = static_cast<std::size_t>(voce.livello);
     const auto caption = daUtf8(voce.caption), nome = daUtf8(voce.nome);
     if (voce.comando == Comando::Sottomenu) {
-      aperti.at(livello) = livello == 1 ? menuBar()->addMenu(caption) : aperti.at(livello - 1)->addMenu(caption);
+      aperti.at(livello) =
+          livello == 1 ? menuBar()->addMenu(caption) : aperti.at(livello - 1)->addMenu(caption);
       aperti.at(livello)->menuAction()->setObjectName(nome);
       continue;
     }
@@ -131,8 +133,8 @@ void FinestraPrincipale::mostra(const std::shared_ptr<Finestra>& finestra) {
   contenuto->setFocus(Qt::OtherFocusReason);
 }
 
-// A child that does not fit makes the main window grow, as far as the screen allows; then the child moves towards the
-// top left corner, and at last scroll bars appear.
+// A child that does not fit makes the main window grow, as far as the screen allows; then the child moves
+// towards the top left corner, and at last scroll bars appear.
 void FinestraPrincipale::faiPosto(QMdiSubWindow& figlia) {
   const auto manca = [&](const QSize& cresciuta) {
     const auto fuori = figlia.geometry().bottomRight() - QPoint(area_->width() - 1, area_->height() - 1);
@@ -142,12 +144,14 @@ void FinestraPrincipale::faiPosto(QMdiSubWindow& figlia) {
   if (serve.isNull()) return;
   const auto libero = screen()->availableGeometry();
   const auto bordo = frameGeometry().size() - size();
-  const auto voluta = isMaximized() ? size() : (size() + serve).boundedTo(libero.size() - bordo).expandedTo(size());
+  const auto voluta =
+      isMaximized() ? size() : (size() + serve).boundedTo(libero.size() - bordo).expandedTo(size());
   const auto resto = manca(voluta - size());
   figlia.move(std::max(0, figlia.x() - resto.width()), std::max(0, figlia.y() - resto.height()));
   if (voluta == size()) return;
   resize(voluta);
-  const QPoint estremo(libero.right() + 1 - width() - bordo.width(), libero.bottom() + 1 - height() - bordo.height());
+  const QPoint estremo(libero.right() + 1 - width() - bordo.width(),
+                       libero.bottom() + 1 - height() - bordo.height());
   const QPoint posto(std::max(libero.left(), std::min(pos().x(), estremo.x())),
                      std::max(libero.top(), std::min(pos().y(), estremo.y())));
   if (isVisible() && posto != pos()) move(posto);

@@ -10,8 +10,8 @@ class QMdiSubWindow;
 
 namespace vaticlo {
 
-/// Draws the main window: menu and toolbar from their tables, the open dialogs as child windows of a multiple-document
-/// area.
+/// Draws the main window: menu and toolbar from their tables, the open dialogs as child windows of a
+/// multiple-document area.
 class FinestraPrincipale : public QMainWindow, private VistaPrincipale {
  public:
   FinestraPrincipale(frmPrincipale& principale, const Confine& confine);

@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QScreen>
 #include <QSvgRenderer>
-
 #include <utility>
 
 #include "desktop/immagini.h"

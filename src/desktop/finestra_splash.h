@@ -1,15 +1,13 @@
 #pragma once
 
-#include <QWidget>
-
-#include <functional>
-
 #include <QTimer>
+#include <QWidget>
+#include <functional>
 
 namespace vaticlo {
 
-/// The splash: one picture, in the middle of the screen, until its timer fires or any key is pressed. A mouse click
-/// does nothing.
+/// The splash: one picture, in the middle of the screen, until its timer fires or any key is pressed. A mouse
+/// click does nothing.
 class FinestraSplash : public QWidget {
  public:
   static constexpr int kIntervallo = 5000;  ///< milliseconds

@@ -3,7 +3,6 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QSvgRenderer>
-
 #include <memory>
 
 namespace vaticlo {

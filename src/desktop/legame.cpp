@@ -43,7 +43,11 @@ void disegnaVoci(QComboBox& combo, const Elenco& modello) {
 }  // namespace
 
 Legame::Legame(QWidget* vista, std::shared_ptr<Finestra> finestra, const Confine& confine)
-    : QObject(vista), vista_(vista), finestra_(std::move(finestra)), confine_(confine), validatore_(this, confine) {}
+    : QObject(vista),
+      vista_(vista),
+      finestra_(std::move(finestra)),
+      confine_(confine),
+      validatore_(this, confine) {}
 
 Legame::~Legame() {
   for (auto* modello : seguiti_) modello->osserva({});
@@ -101,7 +105,9 @@ QComboBox* Legame::elenco(Elenco& modello, const QString& nome, Tipo tipo) {
     const QSignalBlocker silenzio(widget);
     disegnaVoci(*widget, modello);
     const auto mostrato = testo(modello.Text());
-    const int indice = modello.ListIndex() >= 0 ? modello.ListIndex() : widget->findText(mostrato, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    const int indice = modello.ListIndex() >= 0
+                           ? modello.ListIndex()
+                           : widget->findText(mostrato, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (widget->currentIndex() != indice) widget->setCurrentIndex(indice);
     if (widget->isEditable() && widget->currentText() != mostrato) widget->setEditText(mostrato);
     if (!widget->isEditable()) widget->setPlaceholderText(mostrato);

@@ -1,9 +1,8 @@
 #pragma once
 
+#include <QObject>
 #include <memory>
 #include <vector>
-
-#include <QObject>
 
 #include "desktop/campo_testo.h"
 #include "desktop/confine.h"
@@ -27,9 +26,10 @@ class xpcmdbutton;
 class xpgroupbox;
 class xpradiobutton;
 
-/// Binds the controls of a dialog to the widgets that draw them, two ways. Each call makes the widget of a model,
-/// gives it the control's name, and keeps the two alike: the model's changes are drawn, what the user does goes to the
-/// model and runs its event procedure inside the failure boundary. The dialog lives at least as long as its widgets.
+/// Binds the controls of a dialog to the widgets that draw them, two ways. Each call makes the widget of a
+/// model, gives it the control's name, and keeps the two alike: the model's changes are drawn, what the user
+/// does goes to the model and runs its event procedure inside the failure boundary. The dialog lives at least
+/// as long as its widgets.
 class Legame : public QObject {
  public:
   Legame(QWidget* vista, std::shared_ptr<Finestra> finestra, const Confine& confine);

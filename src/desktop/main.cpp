@@ -2,7 +2,6 @@
 #include <QLocale>
 #include <QStyleFactory>
 #include <QTranslator>
-
 #include <csignal>
 #include <filesystem>
 #include <memory>

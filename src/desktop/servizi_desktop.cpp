@@ -79,7 +79,9 @@ bool ServiziDesktop::scarica(const std::string& indirizzo, const std::filesystem
   return riuscito;
 }
 
-void ServiziDesktop::apriPagina(const std::string& indirizzo) { QDesktopServices::openUrl(QUrl(qt(indirizzo))); }
+void ServiziDesktop::apriPagina(const std::string& indirizzo) {
+  QDesktopServices::openUrl(QUrl(qt(indirizzo)));
+}
 
 std::chrono::year_month_day ServiziDesktop::oggi() const { return dataLocale(); }
 

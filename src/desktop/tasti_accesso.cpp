@@ -13,7 +13,8 @@ namespace vaticlo {
 TastiAccesso::TastiAccesso(QMdiArea* area) : QObject(area), area_(area) {
   qApp->installEventFilter(this);
   for (const auto& tasti : {QKeySequence(Qt::CTRL | Qt::Key_F4), QKeySequence(Qt::CTRL | Qt::Key_W)})
-    connect(new QShortcut(tasti, area->window()), &QShortcut::activated, area, &QMdiArea::closeActiveSubWindow);
+    connect(new QShortcut(tasti, area->window()), &QShortcut::activated, area,
+            &QMdiArea::closeActiveSubWindow);
 }
 
 bool TastiAccesso::eventFilter(QObject* oggetto, QEvent* evento) {
@@ -30,7 +31,8 @@ bool TastiAccesso::eventFilter(QObject* oggetto, QEvent* evento) {
 
 bool TastiAccesso::premi(const QKeyEvent& tasto, bool davvero) const {
   if (tasto.modifiers() != Qt::AltModifier) return false;
-  if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr) return false;
+  if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr)
+    return false;
   const auto* figlia = area_->activeSubWindow();
   if (figlia == nullptr || QApplication::activeWindow() != area_->window()) return false;
   const QKeySequence cercata(Qt::ALT | static_cast<Qt::Key>(tasto.key()));

@@ -14,7 +14,8 @@ namespace vaticlo {
 namespace {
 
 /// A frame with one field in it; the hint shows as the tool tip and in the empty field.
-QGroupBox* cornice(Legame& legame, Riquadro& riquadro, const QString& nome, QWidget* dentro, const QString& esempio = {}) {
+QGroupBox* cornice(Legame& legame, Riquadro& riquadro, const QString& nome, QWidget* dentro,
+                   const QString& esempio = {}) {
   auto* gruppo = legame.riquadro(riquadro, nome);
   auto* riga = new QVBoxLayout(gruppo);
   riga->addWidget(dentro);
@@ -28,7 +29,8 @@ QWidget* selezione(Legame& legame, frmInsPrev& frm) {
   auto* widget = new QWidget(legame.vista());
   auto* riga = new QHBoxLayout(widget);
   riga->setContentsMargins(0, 0, 0, 0);
-  riga->addWidget(cornice(legame, frm.Frame1, QStringLiteral("Frame1"), legame.elenco(frm.cmbMetodo, QStringLiteral("cmbMetodo"))));
+  riga->addWidget(cornice(legame, frm.Frame1, QStringLiteral("Frame1"),
+                          legame.elenco(frm.cmbMetodo, QStringLiteral("cmbMetodo"))));
   auto* previsioni = legame.elenco(frm.cmbPrevisione, QStringLiteral("cmbPrevisione"));
   previsioni->setMinimumContentsLength(32);
   riga->addWidget(cornice(legame, frm.Frame10, QStringLiteral("Frame10"), previsioni));
@@ -39,7 +41,8 @@ QWidget* selezione(Legame& legame, frmInsPrev& frm) {
 QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
   auto* gruppo = legame.riquadro(frm.Frame2, QStringLiteral("Frame2"));
   auto* colonna = new QVBoxLayout(gruppo);
-  colonna->addLayout(intestazione(legame, frm.Label1, frm.estrazione.lblnestr, frm.Label13, frm.estrazione.lbldataestr));
+  colonna->addLayout(
+      intestazione(legame, frm.Label1, frm.estrazione.lblnestr, frm.Label13, frm.estrazione.lbldataestr));
   colonna->addLayout(tavolaConBarra(legame, frm.estrazione));
   colonna->addStretch(1);
   return gruppo;
@@ -48,15 +51,29 @@ QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
 QWidget* previsione(Legame& legame, frmInsPrev& frm) {
   auto* gruppo = legame.riquadro(frm.Frame3, QStringLiteral("Frame3"));
   auto* prima = new QHBoxLayout;
-  prima->addWidget(cornice(legame, frm.Frame11, QStringLiteral("Frame11"), legame.campo(frm.txtNum, QStringLiteral("txtNum")), QStringLiteral("Es. 899.11.22.33")), 3);
-  prima->addWidget(cornice(legame, frm.Frame4, QStringLiteral("Frame4"), legame.campo(frm.txtRuote, QStringLiteral("txtRuote")), QStringLiteral("Es.:Ba-Ca-Tutte")), 3);
-  prima->addWidget(cornice(legame, frm.Frame5, QStringLiteral("Frame5"), legame.elenco(frm.cmbColpi, QStringLiteral("cmbColpi"), Legame::Tipo::Chiuso)), 2);
+  prima->addWidget(
+      cornice(legame, frm.Frame11, QStringLiteral("Frame11"),
+              legame.campo(frm.txtNum, QStringLiteral("txtNum")), QStringLiteral("Es. 899.11.22.33")),
+      3);
+  prima->addWidget(
+      cornice(legame, frm.Frame4, QStringLiteral("Frame4"),
+              legame.campo(frm.txtRuote, QStringLiteral("txtRuote")), QStringLiteral("Es.:Ba-Ca-Tutte")),
+      3);
+  prima->addWidget(cornice(legame, frm.Frame5, QStringLiteral("Frame5"),
+                           legame.elenco(frm.cmbColpi, QStringLiteral("cmbColpi"), Legame::Tipo::Chiuso)),
+                   2);
 
   auto* combinazioni = legame.riquadro(frm.Frame6, QStringLiteral("Frame6"));
   auto* colonna = new QVBoxLayout(combinazioni);
-  colonna->addWidget(cornice(legame, frm.Frame7, QStringLiteral("Frame7"), legame.campo(frm.txtAmbate, QStringLiteral("txtAmbate")), QStringLiteral("Es.:21;36")));
-  colonna->addWidget(cornice(legame, frm.Frame8, QStringLiteral("Frame8"), legame.campo(frm.txtAmbi, QStringLiteral("txtAmbi")), QStringLiteral("Es.:15-50;25-12;66-10")));
-  colonna->addWidget(cornice(legame, frm.Frame9, QStringLiteral("Frame9"), legame.campo(frm.txtSup, QStringLiteral("txtSup")), QStringLiteral("Es.:15-50-66-71;25-12-10")));
+  colonna->addWidget(cornice(legame, frm.Frame7, QStringLiteral("Frame7"),
+                             legame.campo(frm.txtAmbate, QStringLiteral("txtAmbate")),
+                             QStringLiteral("Es.:21;36")));
+  colonna->addWidget(cornice(legame, frm.Frame8, QStringLiteral("Frame8"),
+                             legame.campo(frm.txtAmbi, QStringLiteral("txtAmbi")),
+                             QStringLiteral("Es.:15-50;25-12;66-10")));
+  colonna->addWidget(cornice(legame, frm.Frame9, QStringLiteral("Frame9"),
+                             legame.campo(frm.txtSup, QStringLiteral("txtSup")),
+                             QStringLiteral("Es.:15-50-66-71;25-12-10")));
 
   auto* tutto = new QVBoxLayout(gruppo);
   tutto->addLayout(prima);

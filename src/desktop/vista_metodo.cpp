@@ -43,7 +43,8 @@ QWidget* vista(const std::shared_ptr<frmMetodo>& frm, const Confine& confine) {
   auto* legame = new Legame(widget, frm, confine);
 
   auto* scelta = sceltaMetodo(*legame, frm->metodo);
-  auto* testa = intestazione(*legame, frm->Label1, frm->estrazione.lblnestr, frm->Label13, frm->estrazione.lbldataestr);
+  auto* testa =
+      intestazione(*legame, frm->Label1, frm->estrazione.lblnestr, frm->Label13, frm->estrazione.lbldataestr);
   auto* tavola = tavolaConBarra(*legame, frm->estrazione);
   auto* sinistra = new QVBoxLayout;
   sinistra->setSpacing(10);

@@ -12,7 +12,8 @@ QWidget* vista(const std::shared_ptr<frmModifica>& frm, const Confine& confine) 
   auto* widget = new QWidget;
   auto* legame = new Legame(widget, frm, confine);
 
-  auto* testa = intestazione(*legame, frm->Label1, frm->estrazione.lblnestr, frm->Label13, frm->estrazione.lbldataestr);
+  auto* testa =
+      intestazione(*legame, frm->Label1, frm->estrazione.lblnestr, frm->Label13, frm->estrazione.lbldataestr);
   auto* tavola = tavolaConBarra(*legame, frm->estrazione);
 
   auto* pulsanti = new QVBoxLayout;

@@ -24,9 +24,8 @@ QWidget* ultimeEstrazioni(Legame& legame, const std::shared_ptr<frmVinc>& frm, c
   frecce->setRange(frmVinc::kMinimoUltime, frmVinc::kMassimoUltime);
   frecce->findChild<QLineEdit*>()->setReadOnly(true);
   frecce->findChild<QLineEdit*>()->setObjectName(QStringLiteral("txtColpi"));
-  QObject::connect(frecce, &QSpinBox::valueChanged, &legame, [frm, &confine](int ultime) {
-    confine.esegui([&] { frm->UpDown1_Change(ultime); });
-  });
+  QObject::connect(frecce, &QSpinBox::valueChanged, &legame,
+                   [frm, &confine](int ultime) { confine.esegui([&] { frm->UpDown1_Change(ultime); }); });
   auto* riga = new QHBoxLayout(gruppo);
   riga->addWidget(frecce);
   riga->addStretch(1);

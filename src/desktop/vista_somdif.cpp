@@ -16,7 +16,9 @@ namespace vaticlo {
 
 namespace {
 
-QString daUtf8(std::string_view testo) { return QString::fromUtf8(testo.data(), static_cast<int>(testo.size())); }
+QString daUtf8(std::string_view testo) {
+  return QString::fromUtf8(testo.data(), static_cast<int>(testo.size()));
+}
 
 QWidget* tavola(Legame& legame, frmSomdif& frm) {
   auto* widget = new QWidget(legame.vista());
@@ -30,8 +32,9 @@ QWidget* tavola(Legame& legame, frmSomdif& frm) {
     testa->setObjectName(c == 0 ? QStringLiteral("Label12") : QStringLiteral("Label%1").arg(13 + c));
     griglia->addWidget(testa, 0, c + 1, Qt::AlignCenter);
     for (int i = 0; i < kRuoteSomDif; ++i) {
-      auto* campo = legame.campo(frm.colonne[colonna][static_cast<std::size_t>(i)],
-                                 QStringLiteral("txtestr%1_%2").arg(c == 0 ? QString() : QString::number(c)).arg(i));
+      auto* campo =
+          legame.campo(frm.colonne[colonna][static_cast<std::size_t>(i)],
+                       QStringLiteral("txtestr%1_%2").arg(c == 0 ? QString() : QString::number(c)).arg(i));
       campo->setAlignment(Qt::AlignCenter);
       campo->setMinimumWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 8);
       campo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -63,11 +66,15 @@ QWidget* vista(const std::shared_ptr<frmSomdif>& frm, const Confine& confine) {
 
   auto* sotto = new QHBoxLayout;
   sotto->setSpacing(18);
-  sotto->addWidget(legame->opzioneDisegnata(frm->optdistciclo, QString::fromStdString(frm->Label28.Caption()), QStringLiteral("optdistciclo")));
-  sotto->addWidget(legame->opzioneDisegnata(frm->optdistmat, QString::fromStdString(frm->Label27.Caption()), QStringLiteral("optdistmat")));
-  sotto->addWidget(legame->opzioneDisegnata(frm->optsommat, QString::fromStdString(frm->Label26.Caption()), QStringLiteral("optsommat")));
+  sotto->addWidget(legame->opzioneDisegnata(frm->optdistciclo, QString::fromStdString(frm->Label28.Caption()),
+                                            QStringLiteral("optdistciclo")));
+  sotto->addWidget(legame->opzioneDisegnata(frm->optdistmat, QString::fromStdString(frm->Label27.Caption()),
+                                            QStringLiteral("optdistmat")));
+  sotto->addWidget(legame->opzioneDisegnata(frm->optsommat, QString::fromStdString(frm->Label26.Caption()),
+                                            QStringLiteral("optsommat")));
   sotto->addStretch(1);
-  sotto->addWidget(legame->pulsanteConImmagine(frm->btnTrova, QStringLiteral("btnTrova"), QStringLiteral("Trova")));
+  sotto->addWidget(
+      legame->pulsanteConImmagine(frm->btnTrova, QStringLiteral("btnTrova"), QStringLiteral("Trova")));
   sotto->addWidget(legame->pulsante(frm->btnAnnulla, QStringLiteral("btnAnnulla")));
 
   auto* tutto = new QVBoxLayout(widget);

@@ -20,8 +20,8 @@ QWidget* intervallo(Legame& legame, frmStatistica& frm) {
   auto* gruppo = legame.riquadro(frm.Frame1, QStringLiteral("Frame1"));
   auto* griglia = new QGridLayout(gruppo);
   griglia->setHorizontalSpacing(10);
-  const auto riga = [&](int n, Etichetta& titolo, const QString& nome, SelettoreData& data, const QString& nomeData,
-                        Etichetta& numero, const QString& nomeNumero) {
+  const auto riga = [&](int n, Etichetta& titolo, const QString& nome, SelettoreData& data,
+                        const QString& nomeData, Etichetta& numero, const QString& nomeNumero) {
     auto* etichetta = legame.etichetta(titolo, nome);
     auto* selettore = legame.selettoreData(data, nomeData);
     etichetta->setBuddy(selettore);
@@ -33,8 +33,10 @@ QWidget* intervallo(Legame& legame, frmStatistica& frm) {
     griglia->addWidget(legame.etichetta(numero, nomeNumero), n, 2);
     griglia->addWidget(campo, n, 3);
   };
-  riga(0, frm.Label2Inizio, QStringLiteral("Label2_5"), frm.DTInizio, QStringLiteral("DTInizio"), frm.Label4, QStringLiteral("Label4"));
-  riga(1, frm.Label2Fine, QStringLiteral("Label2_0"), frm.DTFine, QStringLiteral("DTFine"), frm.Label5, QStringLiteral("Label5"));
+  riga(0, frm.Label2Inizio, QStringLiteral("Label2_5"), frm.DTInizio, QStringLiteral("DTInizio"), frm.Label4,
+       QStringLiteral("Label4"));
+  riga(1, frm.Label2Fine, QStringLiteral("Label2_0"), frm.DTFine, QStringLiteral("DTFine"), frm.Label5,
+       QStringLiteral("Label5"));
   griglia->setColumnStretch(4, 1);
   return gruppo;
 }

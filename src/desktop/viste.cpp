@@ -32,8 +32,8 @@ QWidget* traQueste(const std::shared_ptr<Finestra>& finestra, const Confine& con
 }  // namespace
 
 QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine) {
-  return traQueste<frmInserisci, frmModifica, frmMetodo, frmInsPrev, frmStatistica, ElencoScansione, frmSomdif,
-                   frmMetodi, frmMigliore, frmAggiornamento, frmInfo>(finestra, confine);
+  return traQueste<frmInserisci, frmModifica, frmMetodo, frmInsPrev, frmStatistica, ElencoScansione,
+                   frmSomdif, frmMetodi, frmMigliore, frmAggiornamento, frmInfo>(finestra, confine);
 }
 
 }  // namespace vaticlo

@@ -21,7 +21,8 @@ class frmModifica;
 class frmSomdif;
 class frmStatistica;
 
-/// Makes the widgets of a dialog: a layout and its binding. The widget keeps the dialog alive as long as it lives.
+/// Makes the widgets of a dialog: a layout and its binding. The widget keeps the dialog alive as long as it
+/// lives.
 [[nodiscard]] QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine);
 
 [[nodiscard]] QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confine);

@@ -73,8 +73,8 @@ class CampoTesto : public Controllo {
   Proprieta<std::string> Text{*this, ""};
   Proprieta<std::string> Mask{*this, ""};  ///< "##": two digits at most; empty: anything
   Proprieta<int> BackColor{*this, kSfondoNormale};
-  bool Locked = false;         ///< it only displays
-  bool InvioComeTab = false;   ///< Enter moves on to the next field
+  bool Locked = false;        ///< it only displays
+  bool InvioComeTab = false;  ///< Enter moves on to the next field
   /// The focus is about to leave: true keeps it in the field.
   std::function<bool()> Validate;
 };

@@ -21,7 +21,8 @@ class FormDaSalvare : public ControlliEstrazione {
 
 }  // namespace
 
-frmInserisci::frmInserisci(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
+frmInserisci::frmInserisci(Programma& programma, Cornice& cornice)
+    : Finestra(cornice), programma_(programma) {
   Caption("Inserimento Estrazioni");
   for (int f = 0; f < kCampiEstrazione; ++f) {
     auto& campo = txtestr.at(static_cast<std::size_t>(f));
@@ -47,12 +48,12 @@ bool frmInserisci::txtestr_Validate(int f) {
         {"Inserire un valore valido compreso tra 1 e 90", "Attenzione", Pulsanti::Ok, Icona::Esclamazione});
     return true;
   }
-  // Texts are compared, and only with the fields at the left: a digit typed in the right-hand place of the mask is
-  // another text than the same digit in the left-hand place. Meant.
+  // Texts are compared, and only with the fields at the left: a digit typed in the right-hand place of the
+  // mask is another text than the same digit in the left-hand place. Meant.
   for (int i = 1; i <= f % ArchivioEstrazioni::Colonne; ++i)
     if (testo(f) == testo(f - i)) {
-      programma_.servizi.mostra({"''" + testo(f) + "'' è stato già inserito come estratto nella ruota", "Attenzione",
-                                 Pulsanti::Ok, Icona::Esclamazione});
+      programma_.servizi.mostra({"''" + testo(f) + "'' è stato già inserito come estratto nella ruota",
+                                 "Attenzione", Pulsanti::Ok, Icona::Esclamazione});
       return true;
     }
   return false;

@@ -24,7 +24,9 @@ class frmInserisci : public Finestra {
   Pulsante btnCancella{"&Esci", "Esci dalla finestra"};
 
  private:
-  [[nodiscard]] const std::string& testo(int f) const { return txtestr.at(static_cast<std::size_t>(f)).Text(); }
+  [[nodiscard]] const std::string& testo(int f) const {
+    return txtestr.at(static_cast<std::size_t>(f)).Text();
+  }
 
   Programma& programma_;
 };

@@ -37,7 +37,8 @@ void frmMetodi::btnEsci_Click() { cornice().chiudi(*this); }
 
 bool frmMetodi::conferma(const std::string& domanda) {
   if (cmbMetodo.ListIndex() < 0) {
-    programma_.servizi.mostra({"Nessun metodo selezionato!", "Attenzione", Pulsanti::Ok, Icona::Esclamazione});
+    programma_.servizi.mostra(
+        {"Nessun metodo selezionato!", "Attenzione", Pulsanti::Ok, Icona::Esclamazione});
     return false;
   }
   return programma_.servizi.mostra({domanda, "Attenzione", Pulsanti::SiNo}) == Risposta::Si;

@@ -12,7 +12,9 @@ frmMetodo::frmMetodo(Programma& programma, Cornice& cornice)
   for (auto& campo : estrazione.txtestr) campo.Locked = true;
   for (auto* campo : {&txtgiocabili, &txtvincenti, &txtingioco}) campo->Locked = true;
   for (int indice : {0, 1})
-    metodo.optSelMetodo[static_cast<std::size_t>(indice)].Click = [this, indice] { optSelMetodo_Click(indice); };
+    metodo.optSelMetodo[static_cast<std::size_t>(indice)].Click = [this, indice] {
+      optSelMetodo_Click(indice);
+    };
   metodo.cmbMetodo.Click = [this] { cmbMetodo_Click(); };
   estrazione.VScroll1.Change = [this] { VScroll1_Change(); };
   btnTrova.Click = [this] { btnTrova_Click(); };
@@ -41,7 +43,8 @@ void frmMetodo::VScroll1_Change() {
 }
 
 void frmMetodo::optSelMetodo_Click(int indice) {
-  // With "Scegli" the list's own event may have run the check just before: it then runs twice, which is meant.
+  // With "Scegli" the list's own event may have run the check just before: it then runs twice, which is
+  // meant.
   metodo.optSelMetodo_Click(indice);
   verifica();
 }
@@ -59,7 +62,9 @@ void frmMetodo::btnStampa_Click() {
 
 void frmMetodo::btnAnnulla_Click() { cornice().chiudi(*this); }
 
-void frmMetodo::visualizza(int n) { clsGestione(programma_.cartella, programma_.servizi).Visualizza(estrazione, n); }
+void frmMetodo::visualizza(int n) {
+  clsGestione(programma_.cartella, programma_.servizi).Visualizza(estrazione, n);
+}
 
 void frmMetodo::verifica() {
   const auto& g = programma_.globals;

@@ -17,7 +17,8 @@ void frmMigliore::Form_Activate() {
   RichTextBox1.Visible(true);
   const auto& cartella = programma_.cartella;
   try {
-    RichTextBox1.Text(testoRapporto(programma_.globals.VistaVincite ? cartella.vincite() : cartella.prevGioco()));
+    RichTextBox1.Text(
+        testoRapporto(programma_.globals.VistaVincite ? cartella.vincite() : cartella.prevGioco()));
   } catch (const RuntimeFailure&) {
     // The pane stays as it was, without a message.
   }

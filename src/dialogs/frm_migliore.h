@@ -6,8 +6,8 @@
 
 namespace vaticlo {
 
-/// Shows one of the two lists of the last statistics run, read anew each time the window becomes the active one. Its
-/// caption is that of its first opening, which is meant.
+/// Shows one of the two lists of the last statistics run, read anew each time the window becomes the active
+/// one. Its caption is that of its first opening, which is meant.
 class frmMigliore : public Finestra {
  public:
   frmMigliore(Programma& programma, Cornice& cornice);

@@ -68,17 +68,30 @@ void frmPrincipale::comando(Comando comando) {
   chiuse_.clear();
   auto& g = programma_.globals;
   switch (comando) {
-    case Comando::Sottomenu: break;
-    case Comando::InserisciEstrazione: apri<frmInserisci>(); break;
-    case Comando::ModificaEstrazione: apri<frmModifica>(); break;
-    case Comando::Aggiorna: aggiornaArchivio(programma_); break;
-    case Comando::Vaticla: apri<frmMetodo>(); break;
+    case Comando::Sottomenu:
+      break;
+    case Comando::InserisciEstrazione:
+      apri<frmInserisci>();
+      break;
+    case Comando::ModificaEstrazione:
+      apri<frmModifica>();
+      break;
+    case Comando::Aggiorna:
+      aggiornaArchivio(programma_);
+      break;
+    case Comando::Vaticla:
+      apri<frmMetodo>();
+      break;
     case Comando::Statistica:
       g.MetodoScelto = 1;
       apri<frmStatistica>();
       break;
-    case Comando::CreaMetodo: creaMetodo(); break;
-    case Comando::ModificaMetodo: apri<frmMetodi>(); break;
+    case Comando::CreaMetodo:
+      creaMetodo();
+      break;
+    case Comando::ModificaMetodo:
+      apri<frmMetodi>();
+      break;
     case Comando::CreaPrevisione:
       g.PrevisioneInModifica = false;
       apri<frmInsPrev>();
@@ -87,13 +100,27 @@ void frmPrincipale::comando(Comando comando) {
       g.PrevisioneInModifica = true;
       apri<frmInsPrev>();
       break;
-    case Comando::InGioco: apri<frmPrev>(); break;
-    case Comando::Vincenti: apri<frmVinc>(); break;
-    case Comando::Somdif: apri<frmSomdif>(); break;
-    case Comando::Riserva: apri<frmAggiornamento>(); break;
-    case Comando::PaginaEstrazioni: programma_.servizi.apriPagina(kPaginaEstrazioni); break;
-    case Comando::PaginaRegole: programma_.servizi.apriPagina(kPaginaRegole); break;
-    case Comando::Informazioni: apri<frmInfo>(); break;
+    case Comando::InGioco:
+      apri<frmPrev>();
+      break;
+    case Comando::Vincenti:
+      apri<frmVinc>();
+      break;
+    case Comando::Somdif:
+      apri<frmSomdif>();
+      break;
+    case Comando::Riserva:
+      apri<frmAggiornamento>();
+      break;
+    case Comando::PaginaEstrazioni:
+      programma_.servizi.apriPagina(kPaginaEstrazioni);
+      break;
+    case Comando::PaginaRegole:
+      programma_.servizi.apriPagina(kPaginaRegole);
+      break;
+    case Comando::Informazioni:
+      apri<frmInfo>();
+      break;
   }
 }
 

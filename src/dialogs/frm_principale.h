@@ -20,8 +20,8 @@ class VistaPrincipale {
   virtual void chiudiPrincipale() = 0;
 };
 
-/// The main window: the commands of its menu and its toolbar, the child windows that are open, and which of them is
-/// the active one. A dialog is open once at most.
+/// The main window: the commands of its menu and its toolbar, the child windows that are open, and which of
+/// them is the active one. A dialog is open once at most.
 class frmPrincipale : public Cornice {
  public:
   explicit frmPrincipale(Programma& programma) : programma_(programma) {}
@@ -70,7 +70,8 @@ class frmPrincipale : public Cornice {
   Programma& programma_;
   VistaPrincipale* vista_ = nullptr;
   std::vector<std::shared_ptr<Finestra>> finestre_;
-  std::vector<std::shared_ptr<Finestra>> chiuse_;  ///< kept until the next command: an event of theirs may be running
+  std::vector<std::shared_ptr<Finestra>>
+      chiuse_;  ///< kept until the next command: an event of theirs may be running
   Finestra* attiva_ = nullptr;
 };
 

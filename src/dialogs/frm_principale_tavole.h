@@ -35,8 +35,8 @@ struct VoceMenu {
 };
 [[nodiscard]] std::span<const VoceMenu> tavolaMenu();
 
-/// A button of the toolbar, with the item keys of its drop-down part where it has one. `immagine` is the key of its
-/// picture in the image list.
+/// A button of the toolbar, with the item keys of its drop-down part where it has one. `immagine` is the key
+/// of its picture in the image list.
 struct PulsanteBarra {
   std::string_view chiave;
   std::string_view toolTip;

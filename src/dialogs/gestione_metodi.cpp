@@ -67,12 +67,10 @@ bool GestioneMetodi::nomeAmmesso(const std::string& nome, const std::string& tra
   if (maiuscolo(nome).find(maiuscolo(kEstensione)) != std::string::npos)
     return rifiuta("Il nome del metodo non può contenere \".dat\"!");
   const auto cercato = maiuscolo(nome + std::string(kEstensione));
-  const auto ceduto = maiuscolo(tranne + std::string(kEstensione));
-  for (const auto& file : programma_.cartella.elencaMetodi()) {
-    const auto trovato = maiuscolo(file);
-    if (trovato == cercato && (tranne.empty() || trovato != ceduto))
+  const auto ceduto = tranne + std::string(kEstensione);
+  for (const auto& file : programma_.cartella.elencaMetodi())
+    if (maiuscolo(file) == cercato && file != ceduto)
       return rifiuta("Esiste già un metodo con il nome \"" + nome + "\"!");
-  }
   return true;
 }
 

@@ -15,8 +15,8 @@ namespace vaticlo {
 
 namespace {
 
-constexpr long kAttesaCollegamento = 20;   // seconds
-constexpr long kAttesaSenzaDati = 30;      // seconds at less than a byte a second
+constexpr long kAttesaCollegamento = 20;                // seconds
+constexpr long kAttesaSenzaDati = 30;                   // seconds at less than a byte a second
 constexpr std::size_t kLimite = std::size_t{64} << 20;  // no archive is anywhere near it
 
 // The few entries of libcurl that a download needs, from a library opened on first use.

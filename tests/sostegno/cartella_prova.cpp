@@ -1,10 +1,10 @@
 #include "sostegno/cartella_prova.h"
 
-#include <unistd.h>
-
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+
+#include <unistd.h>
 
 namespace vaticlo::prova {
 

@@ -12,6 +12,7 @@ class CorniceProva : public Cornice {
   void chiudiAltre(Finestra& /*tranne*/) override { chiesto += "altre "; }
   void chiudi(Finestra& /*finestra*/) override { chiesto += "chiudi "; }
   void riapri(Finestra& /*finestra*/) override { chiesto += "riapri "; }
+  void apriRisultati() override { chiesto += "risultati "; }
 
   std::string chiesto;
 };

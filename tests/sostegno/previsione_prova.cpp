@@ -47,7 +47,8 @@ FileMetodo metodoProva(const std::vector<SlotProva>& slot) {
   return metodo;
 }
 
-void scriviMetodoProva(const ProgrammaProva& programma, std::string_view nome, const std::vector<SlotProva>& slot) {
+void scriviMetodoProva(const ProgrammaProva& programma, std::string_view nome,
+                       const std::vector<SlotProva>& slot) {
   ScriviMetodo(programma.cartella(), nome, metodoProva(slot));
 }
 

@@ -36,6 +36,7 @@ struct SlotProva {
 
 /// A method file made of its slots, from the first one on.
 [[nodiscard]] FileMetodo metodoProva(const std::vector<SlotProva>& slot);
-void scriviMetodoProva(const ProgrammaProva& programma, std::string_view nome, const std::vector<SlotProva>& slot);
+void scriviMetodoProva(const ProgrammaProva& programma, std::string_view nome,
+                       const std::vector<SlotProva>& slot);
 
 }  // namespace vaticlo::prova

@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include "archive/archivio.h"
+#include "archive/data.h"
+#include "archive/ruota.h"
+#include "sostegno/cartella_prova.h"
+#include "sostegno/failure_prova.h"
+#include "sostegno/previsione_prova.h"
+
+namespace vaticlo {
+namespace {
+
+using prova::failureDi;
+
+TEST(ArchiveFile, HoldsEachCellAtItsPlaceAmongTheStripsOfAllDraws) {
+  const prova::ProgrammaProva p;
+  for (const auto& [i, j, k, posto] : std::vector<std::array<int, 4>>{{1, 0, 1, 0},
+                                                                      {15000, 0, 1, 14999},
+                                                                      {5, 0, 4, 540004},
+                                                                      {7, 11, 3, 525006},
+                                                                      {15000, 11, 5, 899999}}) {
+    ArchivioEstrazioni archivio;
+    archivio(i, j, k) = 77;
+    ScriviArchivio(p.cartella(), archivio);
+    std::string attesi(900000, '\0');
+    attesi[static_cast<std::size_t>(posto)] = 77;
+    EXPECT_TRUE(p.contenuto("archivion71.dat") == attesi) << posto;
+    EXPECT_EQ(std::as_const(archivio)(i, j, k), ApriArchivio(p.cartella())(i, j, k));
+  }
+}
+
+TEST(ArchiveGrid, EndsAtTheFirstDayOfZeroWhateverStandsBehindIt) {
+  const prova::ProgrammaProva p;
+  EXPECT_EQ(ApriArchivio(p.cartella()).PrimoIndiceLibero(), 1);
+  EXPECT_TRUE(p.esiste("archivion71.dat"));
+  EXPECT_EQ(p.contenuto("archivion71.dat"), "");
+
+  prova::ArchivioProva archivio(14999);
+  EXPECT_EQ(archivio.griglia.PrimoIndiceLibero(), 15000);
+  archivio.data(15000, 1, 1, 2020);
+  EXPECT_EQ(failureDi([&] { return archivio.griglia.PrimoIndiceLibero(); }), 9);
+  archivio.data(3, 0, 3, 2005);
+  EXPECT_EQ(archivio.griglia.PrimoIndiceLibero(), 3);
+}
+
+TEST(ArchiveGrid, GivesTheDateOfADrawWithoutLeadingZerosButInTheYear) {
+  prova::ArchivioProva a(0);
+  a.data(1, 5, 3, 2003).data(2, 31, 12, 2010).data(3, 1, 10, 1907).data(4, 9, 9, 1871);
+  const char* attese[] = {"5/3/2003", "31/12/2010", "1/10/1907", "9/9/1871", "0/0/000"};
+  for (int i = 1; i <= 5; ++i) EXPECT_EQ(a.griglia.DataEstrazione(i), attese[i - 1]);
+  EXPECT_EQ(failureDi([&] { return a.griglia.DataEstrazione(15001); }), 9);
+}
+
+TEST(Wheels, HaveTheirAbbreviationAndTutteOnlyAmongThePredictionCodes) {
+  std::string sigle, codici;
+  for (int n = -1; n <= 13; ++n) {
+    sigle += std::string(SiglaRuota(n)) + " ";
+    codici += std::string(SiglaRuotaTutte(n)) + " ";
+  }
+  EXPECT_EQ(sigle, "  Ba Ca Fi Ge Mi Na Pa Ro To Ve Naz   ");
+  EXPECT_EQ(codici, "  Ba Ca Fi Ge Mi Na Pa Ro To Ve Naz Tutte  ");
+}
+
+TEST(Dates, AreReadInTheFormsOfThisCountryAndOnlyForDaysThatExist) {
+  const std::vector<std::pair<std::string, std::array<int, 3>>> casi = {
+      {"12/05/2004", {12, 5, 2004}}, {"3-3-1946", {3, 3, 1946}},  {" 1.12.04 ", {1, 12, 2004}},
+      {"1/1/29", {1, 1, 2029}},      {"1/1/30", {1, 1, 1930}},    {"1/1/00", {1, 1, 2000}},
+      {"29/2/2000", {29, 2, 2000}},  {"29/2-1996", {29, 2, 1996}}};
+  for (const auto& [testo, attesa] : casi) {
+    const auto data = dataDaTesto(testo);
+    ASSERT_TRUE(data) << testo;
+    EXPECT_EQ((std::array{giorno(*data), mese(*data), anno(*data)}), attesa) << testo;
+  }
+  for (const auto* testo :
+       {"", "0/0/000", "29/2/1900", "31/4/2005", "1/13/2005", "0/1/2005", "1/0/2005", "5/2004", "1/2/3/2004",
+        "001/1/2005", "1/1/205", "1/1/5", "a/1/2005", "1 /1/2005", "2005/1/1"})
+    EXPECT_FALSE(dataDaTesto(testo)) << testo;
+}
+
+TEST(Dates, OfASearchTurnTheCenturyAtYearFortyFive) {
+  for (const auto& [anno, secolo] : {std::pair{0, 20}, {44, 20}, {45, 19}, {99, 19}})
+    EXPECT_EQ(secoloDiRicerca(anno), secolo) << anno;
+}
+
+}  // namespace
+}  // namespace vaticlo

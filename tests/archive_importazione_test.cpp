@@ -1,0 +1,80 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "archive/importazione.h"
+
+namespace vaticlo {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+
+/// The message of the error; empty for a text that is taken.
+std::string erroreDi(std::string_view testo) {
+  try {
+    static_cast<void>(importaEstrazioni(testo));
+    return "";
+  } catch (const ErroreImportazione& errore) {
+    return errore.what();
+  }
+}
+
+TEST(Import, PutsAllLinesOfADateIntoOneDraw) {
+  std::string testo =
+      "1871/08/19\tRM\t90\t2\t3\t4\t05\n"
+      "1939/01/07\tRN\t1\t2\t3\t4\t5\r\n"
+      "1939/01/07\tBA\t58\t22\t47\t49\t69\r\n";
+  int numero = 0;
+  for (const auto* sigla : {"BA", "CA", "FI", "GE", "MI", "NA", "PA", "RM", "TO", "VE", "RN"})
+    testo += "2020/02/29\t" + std::string(sigla) + "\t20\t30\t40\t50\t" + std::to_string(++numero) + "\n";
+  testo.pop_back();  // the last line may have no end
+
+  const auto a = importaEstrazioni(testo);
+  EXPECT_EQ(a.PrimoIndiceLibero(), 4);
+  EXPECT_EQ(a.DataEstrazione(1) + " " + a.DataEstrazione(2) + " " + a.DataEstrazione(3),
+            "19/8/1871 7/1/1939 29/2/2020");
+  const auto cinquina = [&](int i, int j) {
+    return std::array<int, 5>{a(i, j, 1), a(i, j, 2), a(i, j, 3), a(i, j, 4), a(i, j, 5)};
+  };
+  EXPECT_THAT(cinquina(1, 8), ElementsAre(90, 2, 3, 4, 5));
+  EXPECT_THAT(cinquina(2, 1), ElementsAre(58, 22, 47, 49, 69));
+  EXPECT_THAT(cinquina(2, 11), ElementsAre(1, 2, 3, 4, 5));
+  EXPECT_THAT(cinquina(2, 8), Each(0));
+  for (int ruota = 1; ruota <= 11; ++ruota)
+    EXPECT_THAT(cinquina(3, ruota), ElementsAre(20, 30, 40, 50, ruota));
+}
+
+TEST(Import, NamesTheLineThatIsWrongAndWhatIsWrongWithIt) {
+  const auto prova = [](const std::string& riga, const std::string& motivo) {
+    const auto errore = erroreDi("2005/01/05\tBA\t1\t2\t3\t4\t5\n" + riga + "\n2005/01/04\tXX");
+    EXPECT_EQ(errore.substr(0, 8), "riga 2: ") << riga;
+    EXPECT_NE(errore.find(motivo), std::string::npos) << errore;
+  };
+  for (const auto* riga :
+       {"", "2005/01/08", "2005/01/08\tBA\t1\t2\t3\t4", "2005/01/08\tBA\t1\t2\t3\t4\t5\t6",
+        "2005/01/08 BA 1 2 3 4 5", "8/1/2005\tBA\t1\t2\t3\t4\t5", "2005-01-08\tBA\t1\t2\t3\t4\t5"})
+    prova(riga, "attesa la forma");
+  for (const std::string data :
+       {"2005/02/30", "2005/13/01", "2005/00/01", "2005/0a/01", "2100/01/01", "1799/12/31"})
+    prova(data + "\tBA\t1\t2\t3\t4\t5", "\"" + data + "\" non è una data");
+  for (const std::string ruota : {"RO", "ca", " BA", ""})
+    prova("2005/01/08\t" + ruota + "\t1\t2\t3\t4\t5", "ruota sconosciuta \"" + ruota + "\"");
+  for (const std::string numero : {"0", "91", "", "-2", "1a", "300"})
+    prova("2005/01/08\tBA\t1\t2\t3\t4\t" + numero, "\"" + numero + "\" non è un numero");
+  prova("2005/01/08\tBA\t1\t33\t3\t4\t33", "il numero 33 è ripetuto");
+  prova("2005/01/05\tBA\t6\t7\t8\t9\t10", "la ruota BA è ripetuta");
+  prova("2005/01/04\tCA\t1\t2\t3\t4\t5", "precedente");
+  EXPECT_EQ(erroreDi("").substr(0, 8), "riga 1: ");
+}
+
+TEST(Import, TakesAsManyDrawsAsLeaveAFreeSlot) {
+  std::string testo;
+  for (int n = 0; n < 14999; ++n)  // years of twelve months of 28 days, from 1900 on
+    testo += std::to_string(1900 + n / 336) + "/" + std::to_string(101 + n / 28 % 12).substr(1) + "/" +
+             std::to_string(101 + n % 28).substr(1) + "\tBA\t1\t2\t3\t4\t5\n";
+  EXPECT_EQ(importaEstrazioni(testo).PrimoIndiceLibero(), 15000);
+  EXPECT_EQ(erroreDi(testo + "2005/01/05\tBA\t1\t2\t3\t4\t5").substr(0, 12), "riga 15000: ");
+}
+
+}  // namespace
+}  // namespace vaticlo

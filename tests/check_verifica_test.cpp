@@ -1,0 +1,138 @@
+#include <gmock/gmock.h>
+
+#include "check/clsmetodo.h"
+#include "sostegno/scenario.h"
+
+namespace vaticlo::prova {
+namespace {
+
+class Verifica : public testing::Test {
+ protected:
+  void archivio(int ultima, const std::string& uscite = "") {
+    archivioDi(ultima, uscite).scrivi(p);
+    p.globals().UltimaEstrazione = ultima;
+  }
+  /// The report of the check of a draw.
+  std::string verifica(int estrazione, const std::string& lblnestr, const SceltaMetodo& scelta = {}) {
+    p.globals().EstrazioneCorrente = p.globals().EstrazioneBase = estrazione;
+    clsMetodo controllo(p.programma, {scelta, lblnestr});
+    controllo.ricerca(0);
+    controllo.rilascia();
+    return p.contenuto("Esiti.txt");
+  }
+  void attende(int giocabili, int vincenti, int inGioco) {
+    EXPECT_EQ(p.globals().ContaGiocabili, giocabili);
+    EXPECT_EQ(p.globals().ContaVincenti, vincenti);
+    EXPECT_EQ(p.globals().ContaInGioco, inGioco);
+  }
+  ProgrammaProva p;
+};
+
+const std::string kFine = "|" + std::string(35, '_');
+
+/// A prediction calculated on draw 101.
+SlotProva gioca(std::vector<int> ruote, std::vector<int> ambate, std::vector<int> ambi = {},
+                std::vector<int> sup = {}, int colpi = 3) {
+  return {101, {}, std::move(ruote), colpi, std::move(ambate), std::move(ambi), std::move(sup)};
+}
+
+TEST_F(Verifica, TheReportHasAnEntryForEachPredictionOfTheDraw) {
+  scriviMetodoProva(p, "Metodo 1",
+                    {{5432, {89, 9, 12, 34}, {1, 2, 11}, 10, {12, 34}, {12, 34, 99, 5, 6, 99}, {1, 2, 3, 99}},
+                     {.estrazione = 5433, .ruote = {1}, .ambate = {12}},
+                     {.estrazione = 5432, .ruote = {1, 12}, .colpi = 3, .ambi = {8, 9, 99}}});
+  scriviMetodoProva(p, "Metodo 2", {{.estrazione = 5432, .ruote = {1}, .colpi = 4, .ambate = {7}}});
+  const std::string prima =
+      " Previsione n.°1| Metodo: Metodo 1| Numero di Telefono di previsione: 899.12.34|"
+      " Colpi ancora in gioco: 6| Ruote: Ba-Ca-Naz| Ambate: 12-34| Ambi Secchi: 12-34;5-6| Sorti Superiori: "
+      "1-2-3||"
+      " Esito:| Ambata 12 Ba al 2°colpo| Ambo 5-6 Ca al 2°colpo| Terno in sorti superiori 1 2 3 Naz al 4° "
+      "colpo" +
+      kFine;
+  const std::string seconda =
+      "| Previsione n.°2| Metodo: Metodo 1| Ruote: Ba-Tutte| Ambi Secchi: 8-9|| Esito:| Negativo" + kFine;
+  const std::string terza =
+      "| Previsione n.°3| Metodo: Metodo 2| Ruote: Ba| Ambate: 7|| Esito:| In gioco" + kFine;
+  archivio(5436, "5434 Ba 12, 5434 Ca 5 6, 5436 Naz 3 1 2");
+  EXPECT_EQ(verifica(5432, "5432"), rapportoDi(prima + seconda + terza));
+  attende(3, 1, 1);
+  archivio(5434);
+  EXPECT_THAT(verifica(5432, "5432", {false, "Metodo 1"}),
+              testing::EndsWith(rapportoDi(" Previsione n.°2| Metodo: Metodo 1| Colpi ancora in gioco: 1|"
+                                           " Ruote: Ba-Tutte| Ambi Secchi: 8-9|| Esito:| In gioco" +
+                                           kFine)));
+  attende(2, 0, 2);
+  EXPECT_EQ(verifica(5431, "5431"), "") << "a draw without predictions";
+  attende(0, 0, 0);
+}
+
+TEST_F(Verifica, EveryColpoIsPlayedAndEachHitWritesItsLine) {
+  struct Caso {
+    SlotProva slot;
+    int ultima;
+    std::string uscite, esito;
+  };
+  const auto ambata = gioca({1}, {7}), senzaColpi = gioca({1}, {7}, {}, {}, 0);
+  const auto tutte = gioca({12, 1, 2}, {}, {5, 6, 99}),
+             tutti = gioca({1, 2}, {12}, {12, 34, 99}, {1, 2, 3, 99});
+  const auto sorte = gioca({1}, {}, {}, {9, 3, 1, 2, 4, 99}), doppia = gioca({1}, {}, {}, {7, 7, 99});
+  const Caso casi[] = {
+      {ambata, 101, "", " In gioco"},
+      {ambata, 104, "", " In gioco"},  // the last colpo is the last draw
+      {ambata, 105, "", " Negativo"},
+      {senzaColpi, 101, "", " In gioco"},
+      {senzaColpi, 102, "102 Ba 7", " Negativo"},
+      {ambata, 105, "101 Ba 7,105 Ba 7", " Negativo"},
+      {ambata, 103, "102 Ba 9 7,103 Ba 7", " Ambata 7 Ba al 1°colpo| Ambata 7 Ba al 2°colpo"},
+      {tutti, 104, "102 Ba 12,102 Ro 12 34,103 Ca 2 34 12,104 Ba 1 2 3",
+       " Ambata 12 Ba al 1°colpo| Ambata 12 Ca al 2°colpo| Ambo 12-34 Ca al 2°colpo|"
+       " Terno in sorti superiori 1 2 3 Ba al 3° colpo"},
+      {gioca({2, 2}, {7}), 102, "102 Ca 7", " Ambata 7 Ca al 1°colpo| Ambata 7 Ca al 1°colpo"},
+      {tutte, 102, "102 Ba 5 6,102 Ca 6 5,102 Naz 5 6",  // Tutte goes along with the first wheel
+       " Ambo 5-6 Ba al 1°colpo| Ambo 5-6 su Tutte (Ba) al 1°colpo| Ambo 5-6 su Tutte (Ca) al 1°colpo|"
+       " Ambo 5-6 su Tutte (Naz) al 1°colpo| Ambo 5-6 Ca al 1°colpo"},
+      {sorte, 104, "102 Ba 1 3,103 Ba 1 2 3 4,104 Ba 1 2 3 4 9",
+       " Ambo in sorti superiori 3 1 Ba al 1° colpo| Quaterna in sorti superiori 3 1 2 4 Ba al 2° colpo|"
+       " Cinquina in sorti superiori 9 3 1 2 4 Ba al 3° colpo"},
+      {doppia, 102, "102 Ba 7", " Ambo in sorti superiori 7 7 Ba al 1° colpo"},
+  };
+  for (const auto& caso : casi) {
+    SCOPED_TRACE(caso.uscite + caso.esito);
+    archivio(caso.ultima, caso.uscite);
+    scriviMetodoProva(p, "M", {caso.slot});
+    EXPECT_THAT(verifica(101, "101"), testing::EndsWith(rapportoDi("| Esito:|" + caso.esito + kFine)));
+    attende(1, caso.esito.find(" al ") != std::string::npos, caso.esito == " In gioco");
+  }
+}
+
+TEST_F(Verifica, AFailureEndsTheRunSilentlyAndLeavesWhatWasWritten) {
+  const auto buona = gioca({1}, {7});
+  const auto prima = " Previsione n.°1| Metodo: A| Ruote: Ba| Ambate: 7|| Esito:| Negativo" + kFine;
+  scriviMetodoProva(p, "A", {buona});
+  scriviMetodoProva(p, "C", {buona});
+  archivio(105);
+
+  scriviMetodoProva(p, "B", std::vector<SlotProva>(10, buona));
+  EXPECT_EQ(verifica(101, "101"), rapportoDi(prima)) << "ten predictions";
+  attende(1, 0, 0);
+  scriviMetodoProva(p, "B", {gioca({1}, std::vector<int>(180, 7))});
+  EXPECT_EQ(verifica(101, "101"), rapportoDi(prima)) << "a list without an end";
+  scriviMetodoProva(p, "B", {gioca({12}, {}, {5, 6, 99})});
+  EXPECT_EQ(verifica(101, "101"),
+            rapportoDi(prima + "| Previsione n.°2| Metodo: B| Ruote: Tutte| Ambi Secchi: 5-6|| Esito:"))
+      << "ambi on Tutte alone";
+  attende(2, 0, 0);
+  EXPECT_EQ(verifica(101, "101a"), "") << "a number that is none";
+  p.scrivi("Metodi/Z.txt", "");
+  EXPECT_EQ(verifica(101, "101"), "") << "a file that is no method";
+}
+
+TEST_F(Verifica, ThePairOfAnAmboLivesOnFromMethodToMethod) {
+  archivio(105);
+  scriviMetodoProva(p, "A", {gioca({1}, {}, {12, 34, 99})});
+  scriviMetodoProva(p, "B", {gioca({0}, {}, {7, 99})});
+  EXPECT_THAT(verifica(101, "101"), testing::HasSubstr(" Metodo: B\r\n Ruote: \r\n Ambi Secchi: 7-34\r\n"));
+}
+
+}  // namespace
+}  // namespace vaticlo::prova

@@ -1,0 +1,176 @@
+#include <set>
+
+#include <gmock/gmock.h>
+
+#include "archive/data.h"
+#include "console/parole.h"
+#include "console/sessione.h"
+#include "sostegno/scenario.h"
+
+namespace vaticlo::prova {
+namespace {
+
+using testing::HasSubstr;
+
+TEST(Parole, AreQuotedAsInAShell) {
+  // The words in brackets; "!" for a line that has an end missing.
+  const std::pair<const char*, const char*> casi[] = {
+      {"", ""},
+      {" \t\r", ""},
+      {"  # trova 1", ""},
+      {"trova  1\t2\r", "[trova][1][2]"},
+      {"a 'b  c' \"d e\"", "[a][b  c][d e]"},
+      {"a'b'\"c\"d", "[abcd]"},
+      {"'' x", "[][x]"},
+      {"a\\ b \\\"", "[a b][\"]"},
+      {R"("a\"b\\c\d" '\')", R"([a"b\c\d][\])"},
+      {"'a", "!"},
+      {"\"a\\\"", "!"},
+      {"a \\", "!"},
+  };
+  for (const auto& [riga, attese] : casi) {
+    std::string trovate;
+    if (const auto parole = paroleDellaRiga(riga))
+      for (const auto& parola : *parole) trovate += "[" + parola + "]";
+    else
+      trovate = "!";
+    EXPECT_EQ(trovate, attese) << riga;
+  }
+}
+
+class Console : public testing::Test {
+ protected:
+  /// Runs a command line in the folder of the test and keeps what it says.
+  int esegui(const std::string& riga) {
+    auto parole = paroleDellaRiga(riga).value();
+    parole.insert(parole.begin(), {"--cartella", p.cartella().radice().string()});
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    const int stato = sessione.esegui(parole);
+    detto = testing::internal::GetCapturedStdout();
+    errori = testing::internal::GetCapturedStderr();
+    return stato;
+  }
+  int eseguiFile(const std::string& comandi) {
+    p.scrivi("comandi.txt", comandi);
+    return esegui("esegui " + (p.cartella().radice() / "comandi.txt").string());
+  }
+  ProgrammaProva p;
+  Sessione sessione;
+  std::string detto, errori;
+};
+
+TEST_F(Console, EachCommandSaysHowItWent) {
+  std::string numeri, vuote, zeri;
+  for (int n = 1; n <= 55; ++n) numeri += " " + std::to_string(n);
+  for (const char* sigla : {"Ca", "Fi", "Ge", "Mi", "Na", "Pa", "Ro", "To", "Ve"})
+    vuote += sigla + std::string(" 0 0 0 0 0\n"),
+        zeri += sigla + std::string(" 0* 0* 0* 0* 0* 0* 0* 0* 0* 0*\n");
+  const std::string riga = "2005/01/08\tBA\t1\t2\t3\t4\t5\r\n", mio = " 'Il mio' ";
+  p.scrivi("uno.txt", riga);
+  p.scrivi("due.txt", riga + riga);
+  const auto file = [this](const char* nome) { return (p.cartella().radice() / nome).string(); };
+  const auto attenzione = [](const std::string& testo) { return "[Attenzione] " + testo + "\n"; };
+  const std::string salvata = "[Vaticlo] La previsione è stata salvata!\n";
+  const struct {
+    std::string comando;
+    int stato;
+    std::string detto, errore;
+  } casi[] = {
+      {"importa " + file("due.txt"), 2, "", "riga 2"},
+      {"importa " + file("manca.txt"), 2, "", "manca.txt"},
+      {"aggiorna --da file://" + file("manca.dat"), 3,
+       "[Vaticlo] Errore: Non è possibile effettuare l'aggiornamento\n", ""},
+      {"estrazione 2", 0, "Estrazione n° 2 del 12/3/2005\nBa 90 89 0 0 0\n" + vuote + "Naz 7 0 0 0 0\n", ""},
+      {"somdif 2 --tipo matematica", 0, "Ba 1 90 90 90 89 89 89 0* 0* 0*\n" + zeri, ""},
+      {"estrazione -1", 1, "", "Errore di run-time 9: "},
+      {"estrazione x", 2, "", "\"x\""},
+      {"estrazione", 2, "", "vaticlo-cli estrazione"},
+      {"trova -5", 3, attenzione("Inserisci un valore corretto compreso tra 1 e 3."), ""},
+      {"trova ''", 0, "", ""},
+      {"inserisci 16/03/2005" + numeri, 0, "Salvata l'estrazione n° 4\n", ""},
+      {"inserisci 16/03/2005 1 2", 2, "", "NUMERI"},
+      {"inserisci 16-3" + numeri, 2, "", "16-3"},
+      {"modifica 4" + numeri + "x", 1, "", "Errore di run-time 13: "},
+      {"cancella 4", 0, "Cancellata l'estrazione n° 4\n", ""},
+      {"metodo crea" + mio, 0, "Creato il metodo Il mio\n", ""},
+      {"metodo elenco", 0, "Il mio\n", ""},
+      {"previsione inserisci" + mio + "--estrazione 2 --ruote Ba-Naz --ambate -7", 3,
+       attenzione("Errore nella creazione del metodo!"), ""},
+      {"previsione inserisci" + mio + "--estrazione 2 --ruote Ba-Naz --ambate 7 --numero 899.12", 0, salvata,
+       ""},
+      {"previsione modifica" + mio + "1 --ambate 8 --ambi 1-2 --colpi 1", 0, salvata, ""},
+      {"previsione elenco" + mio, 0, "Previsione n.1 del 12/03//2005\n", ""},
+      {"previsione mostra" + mio + "1", 0,
+       "Estrazione: 2\nNumero 899: 899.12\nRuote: Ba-Naz\nColpi: 1\nAmbate: 8\nAmbi: 1-2\nSorti: \n", ""},
+      {"previsione mostra" + mio + "2", 2, "", "previsione 2"},
+      {"verifica 2", 0,
+       " Previsione n.°1\n Metodo: Il mio\n Numero di Telefono di previsione: 899.12\n Ruote: Ba-Naz\n"
+       " Ambate: 8\n Ambi Secchi: 1-2\n\n Esito:\n In gioco\n" +
+           std::string(35, '_') + "\nGiocabili: 1\nVincenti: 0\nIn gioco: 1\n",
+       ""},
+      {"in-gioco", 0, "Non ci sono previsioni in gioco\n", ""},
+      {"vincenti --ultime 5", 0, "Non ci sono previsioni vincenti\n", ""},
+      {"vincenti --ultime 6", 2, "", "non 6"},
+      {"statistica 3 -3", 3,
+       attenzione("L'estrazione di inzio non può essere maggiore dell'estrazione di fine!"), ""},
+      {"importa " + file("uno.txt"), 0, "Importate 1 estrazioni, dal 8/1/2005 al 8/1/2005\n", ""},
+      {"aggiorna --da file://" + file("uno.txt"), 0, "[Vaticlo] Aggiornamento avvenuto\n", ""},
+  };
+  archivioDi(3, "2 Ba 90 89,2 Naz 7").scrivi(p);
+  for (const auto& caso : casi) {
+    EXPECT_EQ(esegui(caso.comando), caso.stato) << caso.comando;
+    EXPECT_EQ(detto, caso.detto) << caso.comando;
+    EXPECT_THAT(errori, HasSubstr(caso.errore)) << caso.comando;
+    EXPECT_EQ(errori.empty(), caso.errore.empty()) << caso.comando;
+  }
+}
+
+TEST_F(Console, AnUnknownCommandIsNamed) {
+  EXPECT_EQ(esegui("nulla"), 2);
+  EXPECT_THAT(errori, HasSubstr("nulla"));
+}
+
+TEST_F(Console, AFileOfCommandsIsOneProcess) {
+  archivioDi(110, "102 Ba 5 6").scrivi(p);
+  scriviMetodoProva(p, "M", {{.estrazione = 101, .ruote = {1, 12}, .ambi = {5, 6, 99}}});
+  const std::string due = "# nota\n\nstatistica 101 102\r\nstatistica 101 102\n";
+  EXPECT_EQ(eseguiFile(due + "trova 1\nestrazione 15001\nmetodo crea Mai\n"), 1);
+  EXPECT_THAT(detto, HasSubstr("a tutte: 1 (50%)"));
+  EXPECT_THAT(detto, HasSubstr("a tutte: 2 (66,7%)"));
+  EXPECT_THAT(detto, HasSubstr("[Attenzione] Inserisci un valore corretto"));
+  EXPECT_EQ(eseguiFile("metodo elenco\nmetodo nulla\nmetodo crea Mai\n"), 2);
+  EXPECT_THAT(errori, HasSubstr("riga 2"));
+  EXPECT_EQ(eseguiFile("metodo elenco\n'metodo crea Mai\n"), 2);
+  EXPECT_FALSE(p.esiste("Metodi/Mai.dat"));
+  EXPECT_EQ(eseguiFile("trova 1\nmetodo elenco"), 0);
+  EXPECT_EQ(eseguiFile("metodo elenco\ntrova 1"), 3);
+  EXPECT_EQ(esegui("esegui " + (p.cartella().radice() / "manca").string()), 2);
+}
+
+TEST_F(Console, TheDemonstrationHasPredictionsThatWonThatLostAndInPlay) {
+  EXPECT_EQ(esegui("dimostrazione"), 0);
+  EXPECT_THAT(detto, HasSubstr("inventate"));
+  const auto archivio = ApriArchivio(p.cartella());
+  const int ultima = archivio.PrimoIndiceLibero() - 1;
+  for (int i = 1; i <= ultima; ++i) {
+    const std::chrono::weekday giorno(dataDaTesto(archivio.DataEstrazione(i)).value());
+    EXPECT_TRUE(giorno == std::chrono::Tuesday || giorno.iso_encoding() - 4 < 3) << "Thursday to Saturday";
+    for (int ruota = 1; ruota <= kRuote; ++ruota) {
+      std::set<int> numeri;
+      for (int k = 1; k <= 5; ++k) numeri.insert(archivio(i, ruota, k));
+      EXPECT_TRUE(numeri.size() == 5 && *numeri.begin() >= 1 && *numeri.rbegin() <= 90);
+    }
+  }
+  EXPECT_EQ(esegui("statistica 1 " + std::to_string(ultima)), 0);
+  const auto& g = sessione.programma().globals;
+  EXPECT_GT(g.ContaVincenti, 0);
+  EXPECT_GT(g.ContaInGioco, 0);
+  EXPECT_GT(g.ContaGiocabili, g.ContaVincenti + g.ContaInGioco);
+  const auto prima = p.contenuto("archivion71.dat") + p.contenuto("Metodi/Metodo 1.dat");
+  EXPECT_EQ(esegui("dimostrazione"), 3);
+  EXPECT_TRUE(p.contenuto("archivion71.dat") + p.contenuto("Metodi/Metodo 1.dat") == prima);
+}
+
+}  // namespace
+}  // namespace vaticlo::prova

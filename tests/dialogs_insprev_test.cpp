@@ -1,0 +1,171 @@
+#include <gmock/gmock.h>
+
+#include "dialogs/frm_insprev.h"
+#include "sostegno/cornice_prova.h"
+#include "sostegno/failure_prova.h"
+#include "sostegno/scenario.h"
+
+namespace vaticlo::prova {
+namespace {
+
+using testing::ElementsAre;
+
+const SlotProva kAltra = {.estrazione = 3500, .ruote = {3}, .ambate = {9}};
+
+class InsPrev : public testing::Test {
+ protected:
+  InsPrev() {
+    archivioDi(150).scrivi(p);
+    scriviMetodoProva(p, "Metodo 1", {});
+  }
+  /// A new window, filled with a prediction that can be saved.
+  frmInsPrev& apri(bool modifica) {
+    p.servizi.messaggi.clear();
+    cornice.chiesto.clear();
+    p.globals().PrevisioneInModifica = modifica;
+    frm = std::make_unique<frmInsPrev>(p.programma, cornice);
+    frm->Form_Load();
+    frm->cmbMetodo.Text("Metodo 1");
+    if (modifica) frm->cmbMetodo_Click();
+    frm->txtRuote.Text("Ba");
+    frm->txtAmbate.Text("7");
+    return *frm;
+  }
+  /// Types into the five fields, in the order of campi().
+  void compila(const std::array<const char*, 5>& testi) {
+    for (std::size_t n = 0; n < testi.size(); ++n) campi()[n]->Text(testi[n]);
+  }
+  [[nodiscard]] std::array<CampoTesto*, 5> campi() const {
+    return {&frm->txtNum, &frm->txtRuote, &frm->txtAmbate, &frm->txtAmbi, &frm->txtSup};
+  }
+  /// A stored prediction as the modify variant lists and shows it.
+  std::string mostrata(int voce) {
+    auto& f = apri(true);
+    f.cmbPrevisione.scegli(voce);
+    std::string testo =
+        f.cmbPrevisione.Text() + "|" + f.estrazione.lblnestr.Caption() + "|" + f.cmbColpi.Text();
+    for (const auto* campo : campi()) testo += "|" + campo->Text();
+    return testo;
+  }
+  /// The one message so far.
+  void detto(const std::string& testo, Icona icona = Icona::Esclamazione) {
+    EXPECT_THAT(p.servizi.detti(), ElementsAre(testo));
+    EXPECT_EQ(p.servizi.messaggi[0].icona, icona);
+  }
+  [[nodiscard]] std::string file() const { return p.contenuto("Metodi/Metodo 1.dat"); }
+  ProgrammaProva p;
+  CorniceProva cornice;
+  std::unique_ptr<frmInsPrev> frm;
+};
+
+TEST_F(InsPrev, OpensOnTheLastDrawInTheVariantChosen) {
+  for (const bool modifica : {false, true}) {
+    const auto& f = apri(modifica);
+    EXPECT_EQ(f.Caption(), modifica ? "Modifica Previsione" : "Inserisci Previsione");
+    EXPECT_TRUE(f.Frame10.Visible() == modifica && f.btnElimina.Visible() == modifica);
+    EXPECT_EQ(
+        f.estrazione.lblnestr.Caption() + " " + f.cmbColpi.Text() + " " + f.cmbColpi.voci().back().testo,
+        "150 10 30");
+  }
+}
+
+TEST_F(InsPrev, WhatCantBeSavedIsRefusedAndChangesNothing) {
+  const struct {
+    const char* metodo;
+    std::array<const char*, 5> campi;
+    const char* messaggio;
+    Icona icona = Icona::Esclamazione;
+  } casi[] = {
+      {" ", {"", "", "", "", ""}, "Bisogna scegliere il metodo al quale deve appartenere la previsione!"},
+      {"Manca", {"", "  ", "", "", ""}, "Attenzione scegliere almeno una ruota di gioco!"},
+      {"Manca", {"", "Ba", "", " ", " "}, "Scegliere almeno una combinazione da giocare!"},
+      {"Manca", {"", "Ba", "7", "", ""}, "Non esiste il file del metodo selezionato!", Icona::Nessuna},
+      {"Metodo 1", {"", "Ba - Ca", "7", "", ""}, "Errore nell'inserimento delle ruote!"},
+      {"Metodo 1", {" ", "Ba", "7", "", ""}, "Errore nella creazione del metodo!"},
+  };
+  const auto prima = file();
+  for (const auto& caso : casi) {
+    auto& f = apri(false);
+    f.cmbMetodo.Text(caso.metodo);
+    compila(caso.campi);
+    f.btnElabora_Click();
+    detto(std::string("[Attenzione] ") + caso.messaggio, caso.icona);
+    EXPECT_EQ(cornice.chiesto, "altre ");
+    EXPECT_TRUE(file() == prima && !p.esiste("Metodi/Manca.dat"));
+  }
+}
+
+TEST_F(InsPrev, ASavedPredictionComesBackAsItWasTyped) {
+  auto& f = apri(false);
+  f.estrazione.VScroll1.Value(133);
+  f.cmbColpi.Text("8");
+  compila({"899.12.34", " ba-TUTTE-Naz ", "7;08", "12-34;1-2-3", "1-2-3;4-5"});
+  f.btnElabora_Click();
+  detto("[Vaticlo] La previsione è stata salvata!", Icona::Nessuna);
+  EXPECT_EQ(cornice.chiesto, "altre riapri ");
+  EXPECT_EQ(mostrata(0),
+            "Previsione n.1 del 12/03//2005|132|8|899.12.34|Ba-Tutte-Naz|7;8|12-34;1-2-3|1-2-3;4-5");
+  EXPECT_EQ(frm->estrazione.VScroll1.Value(), 151) << "the bar does not follow";
+}
+
+TEST_F(InsPrev, ANewPredictionTakesTheFirstSlotWithoutHundreds) {
+  scriviMetodoProva(p, "Metodo 1", {kAltra, {57, {89, 9}, {1, 2}, 5, {1, 2, 3}, {4, 5, 99}}});
+  apri(false).btnElabora_Click();
+  EXPECT_EQ(mostrata(1), "Previsione n.2 del 12/03//2005|150|10||Ba-Ca|7;2;3|4-5|");
+
+  scriviMetodoProva(p, "Metodo 1", std::vector(9, kAltra));
+  apri(false).btnElabora_Click();
+  EXPECT_EQ(LeggiMetodo(p.cartella(), "Metodo 1").EstrazioneCalcolo(10), 150);
+  const auto prima = file();
+  apri(false).btnElabora_Click();
+  detto("[Attenzione] Il metodo contiene già dieci previsioni!");
+  EXPECT_TRUE(file() == prima);
+  EXPECT_EQ(failureDi([&] { return apri(true), 0; }), 9) << "a method of ten can't be listed";
+}
+
+TEST_F(InsPrev, AModifiedPredictionIsRewrittenWholeInItsSlot) {
+  scriviMetodoProva(p, "Metodo 1",
+                    {kAltra, {101, {89, 9}, {1, 2}, 5, {1, 2, 3}, {4, 5, 99}, {6, 7, 99}}, kAltra});
+  auto& f = apri(true);
+  EXPECT_EQ(f.cmbPrevisione.voci().size(), 3U) << "a multiple of 100 hides nothing here";
+  f.btnElabora_Click();
+  detto("[Attenzione] Errore nella creazione del metodo!");  // none is chosen
+  f.cmbPrevisione.scegli(1);
+  EXPECT_EQ(f.estrazione.lblnestr.Caption(), "101");
+  f.estrazione.VScroll1.Value(111);
+  compila({"", "Ro", "", "", "6-7"});
+  f.btnElabora_Click();
+  EXPECT_EQ(mostrata(1), "Previsione n.2 del 12/03//2005|110|5||Ro|||6-7");
+  EXPECT_EQ(LeggiMetodo(p.cartella(), "Metodo 1").EstrazioneCalcolo(3), 3500);
+}
+
+TEST_F(InsPrev, ChoosingAMethodEmptiesItsBetsAndKeepsNumberAndColpi) {
+  auto& f = apri(true);
+  compila({"899", "Ba", "7", "1-2", "3-4"});
+  f.cmbMetodo.scegli(0);
+  EXPECT_EQ(f.txtNum.Text() + f.txtRuote.Text() + f.txtAmbate.Text() + f.txtAmbi.Text() + f.txtSup.Text(),
+            "899");
+  EXPECT_EQ(f.cmbColpi.Text(), "10");
+  f.txtRuote.Text("Ba");
+  f.cmbMetodo.scegli(1);
+  EXPECT_EQ(f.txtRuote.Text(), "Ba") << "no further step without a file";
+  detto("[Attenzione] Non esiste il file del metodo selezionato!", Icona::Nessuna);
+}
+
+TEST_F(InsPrev, ADeleteAlwaysFails) {
+  scriviMetodoProva(p, "Metodo 1", {kAltra});
+  const auto prima = file();
+  auto& f = apri(true);
+  f.btnElimina_Click();
+  f.cmbPrevisione.scegli(0);
+  for (const auto risposta : {Risposta::No, Risposta::Si})
+    p.servizi.risposta = risposta, f.btnElimina_Click();
+  const std::string sicuro = "[Attenzione] Sicuro di eliminare la previsione?";
+  EXPECT_THAT(p.servizi.detti(), ElementsAre("[Attenzione] Nessuna previsione selezionata!", sicuro, sicuro,
+                                             "[Attenzione] Errore nell'eliminaizione della previsione!"));
+  EXPECT_TRUE(file() == prima);
+  EXPECT_EQ(cornice.chiesto, "altre ");
+}
+
+}  // namespace
+}  // namespace vaticlo::prova

@@ -1,0 +1,102 @@
+#include <gmock/gmock.h>
+
+#include "dialogs/elenco_scansione.h"
+#include "dialogs/gestione_metodi.h"
+#include "sostegno/cornice_prova.h"
+#include "sostegno/scenario.h"
+
+namespace vaticlo::prova {
+namespace {
+
+using testing::ElementsAre;
+
+class Metodi : public testing::Test {
+ protected:
+  /// What a window of a scan shows, and whether it can print.
+  static std::string stato(const ElencoScansione& frm) {
+    return std::string(frm.RichTextBox1.Visible() ? "testo " : "") + (frm.lblPrev.Visible() ? "nota " : "") +
+           (frm.prgbar.Visible() ? "prgbar " : "") + (frm.btnStampa.Enabled() ? "stampa" : "");
+  }
+  /// How many methods the scans of `fai` looked at.
+  template <class Fai>
+  int guardati(Fai fai) {
+    p.servizi.pause = 0;
+    fai();
+    return p.servizi.pause;
+  }
+  ProgrammaProva p;
+  CorniceProva cornice;
+};
+
+TEST_F(Metodi, TheListInPlayFollowsEachChoice) {
+  archivioDi(110).scrivi(p);
+  for (const char* nome : {"Metodo 1", "X", "Y"}) scriviMetodoProva(p, nome, {});
+  scriviMetodoProva(p, "Y", {{.estrazione = 109, .ruote = {1}, .ambate = {7}}});
+  frmPrev frm(p.programma, cornice);
+  EXPECT_EQ(guardati([&] { frm.Form_Load(); }), 3);
+  EXPECT_EQ(cornice.chiesto, "altre ");
+  EXPECT_EQ(stato(frm), "testo stampa");
+  frm.btnStampa_Click();
+  EXPECT_THAT(p.servizi.stampati, ElementsAre(testing::StartsWith(" Previsione n.°1\n Metodo: Y\n")));
+  EXPECT_EQ(p.servizi.detti()[0], "[Ambolino] Stampo la previsione?");
+  EXPECT_EQ(guardati([&] { frm.optSelMetodo_Click(1); }), 2) << "the list's own event and the option's";
+  EXPECT_EQ(stato(frm), "nota ");
+  EXPECT_EQ(guardati([&] { frm.optSelMetodo_Click(1); }), 1) << "no change in the list";
+  EXPECT_EQ(guardati([&] { frm.metodo.cmbMetodo.scegli(3); }), 1);
+  EXPECT_EQ(stato(frm), "testo stampa");
+  EXPECT_EQ(guardati([&] { frm.optSelMetodo_Click(0); }), 3);
+  EXPECT_FALSE(frm.metodo.cmbMetodo.Enabled());
+  p.servizi.allaPausa = [&] { frm.btnCerca_Click(); };
+  EXPECT_EQ(guardati([&] { frm.btnCerca_Click(); }), 3) << "an event during a scan changes nothing";
+}
+
+TEST_F(Metodi, TheWinnersFollowTheArrows) {
+  archivioDi(110, "109 Ba 7").scrivi(p);
+  scriviMetodoProva(p, "M", {{.estrazione = 108, .ruote = {1}, .ambate = {7}}});
+  frmVinc frm(p.programma, cornice);
+  frm.Form_Load();
+  EXPECT_EQ(stato(frm), "nota ");
+  frm.UpDown1_Change(2);
+  EXPECT_EQ(frm.txtColpi.Text(), "2");
+  EXPECT_EQ(stato(frm), "testo stampa");
+  EXPECT_THAT(frm.RichTextBox1.Text(), testing::HasSubstr(" Ambata 7 Ba al 1°colpo\n"));
+  EXPECT_FALSE(frm.btnStampa.Click) << "it has no command";
+}
+
+TEST_F(Metodi, ANameMustBeAFileOnEverySystemAndNew) {
+  scriviMetodoProva(p, "Città", {});
+  GestioneMetodi gestione(p.programma);
+  for (const std::string nome : {"  ", "a/b", "..\\b", "a:b", "a\nb", "a?", ".a", "a.", "nul", "Com1.x",
+                                 "a.DAT", "a.dat.b", " CITTÀ ", std::string(256, 'a').c_str()}) {
+    p.servizi.messaggi.clear();
+    EXPECT_FALSE(gestione.crea(nome)) << nome;
+    EXPECT_THAT(p.servizi.detti(), ElementsAre(testing::StartsWith("[Attenzione] "))) << nome;
+  }
+  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("Città.dat"));
+}
+
+TEST_F(Metodi, AMethodIsCreatedRenamedAndDeleted) {
+  GestioneMetodi gestione(p.programma);
+  EXPECT_TRUE(gestione.crea(" Mio 1.5 "));
+  EXPECT_TRUE(p.contenuto("Metodi/Mio 1.5.dat") == std::string(12600, '\0'));
+  p.scrivi("Metodi/mio.dat", "mio");
+  EXPECT_TRUE(gestione.rinomina("mio", "MIO")) << "upper and lower case alone may change";
+  EXPECT_TRUE(p.servizi.messaggi.empty());
+  EXPECT_FALSE(gestione.rinomina("MIO", "mio 1.5")) << "the name of another";
+  EXPECT_FALSE(gestione.rinomina("manca", "altro"));
+  EXPECT_FALSE(gestione.elimina("manca"));
+  EXPECT_EQ(p.servizi.messaggi.size(), 3U);
+  EXPECT_EQ(p.contenuto("Metodi/MIO.dat"), "mio");
+  EXPECT_TRUE(gestione.elimina("Mio 1.5"));
+  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("MIO.dat"));
+}
+
+TEST_F(Metodi, ARenameNeverReplacesAnotherMethod) {
+  p.scrivi("Metodi/alfa.dat", "1");
+  p.scrivi("Metodi/Alfa.dat", "2");
+  EXPECT_FALSE(GestioneMetodi(p.programma).rinomina("alfa", "Alfa"));
+  EXPECT_EQ(p.contenuto("Metodi/Alfa.dat"), "2");
+}
+
+}  // namespace
+}  // namespace vaticlo::prova

@@ -1,0 +1,141 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "methods/catalogo.h"
+#include "methods/decodifica.h"
+#include "sostegno/failure_prova.h"
+#include "sostegno/previsione_prova.h"
+
+namespace vaticlo {
+namespace {
+
+using prova::failureDi;
+using prova::metodoProva;
+using prova::SlotProva;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+using Celle = std::vector<int>;
+
+TEST(MethodFile, KeepsTenSlotsInterleavedByteByByte) {
+  prova::ProgrammaProva p;
+  const SlotProva terzo = {5432,     {89, 9, 12, 34},        {1, 2, 11},   10,
+                           {12, 34}, {12, 34, 99, 5, 6, 99}, {1, 2, 3, 99}};
+  scriviMetodoProva(p, "Metodo 1", {{.colpi = 0}, {.colpi = 0}, terzo});
+  std::string attesi(12600, '\0');
+  const auto campo = [&](std::size_t primo, const Celle& celle) {
+    for (std::size_t n = 0; n < celle.size(); ++n) attesi[primo + 70 * n] = static_cast<char>(celle[n]);
+  };
+  campo(2, {54, 32, 89, 9, 12, 34});
+  campo(22, {1, 2, 11});
+  campo(32, {10});
+  campo(42, {12, 34});
+  campo(52, {12, 34, 99, 5, 6, 99});
+  campo(62, {1, 2, 3, 99});
+  EXPECT_TRUE(p.contenuto("Metodi/Metodo 1.dat") == attesi);
+  EXPECT_EQ(LeggiMetodo(p.cartella(), " Metodo 1 ").EstrazioneCalcolo(3), 5432);
+}
+
+TEST(MethodFile, HasAsManyPredictionsAsStandBeforeTheFirstOnAMultipleOfOneHundred) {
+  const auto conta = [](const Celle& estrazioni) {
+    std::vector<SlotProva> slot;
+    for (const int estrazione : estrazioni) slot.push_back({.estrazione = estrazione});
+    return ContaPrevisioni(metodoProva(slot));
+  };
+  EXPECT_EQ(conta({57}), 1);
+  EXPECT_EQ(conta({3501, 3500, 3502}), 1);
+  EXPECT_EQ(conta({100}), 0);
+  EXPECT_EQ(conta(Celle(9, 101)), 9);
+  EXPECT_EQ(failureDi([&] { return conta(Celle(10, 101)); }), 9);
+}
+
+/// One scan: each prediction is decoded over what the one before it has left behind.
+class Decoding : public testing::Test {
+ protected:
+  const Previsione& decodifica(const SlotProva& slot) {
+    decodificatore.DecodificaPrevisione(metodoProva({slot}), 1, previsione);
+    return previsione;
+  }
+  Decodificatore decodificatore;
+  Previsione previsione;
+};
+
+TEST_F(Decoding, ReadsTheTelephoneNumberUpToAZeroGroup) {
+  const std::vector<std::pair<Celle, std::string>> casi = {{{}, ""},
+                                                           {{89, 9, 12, 34}, "899.12.34"},
+                                                           {{255, 9, 9, 10, 200}, "2559.09.10.200"},
+                                                           {{89, 9, 12, 0, 34}, "899.12"},
+                                                           {{89, 9, 0, 12}, "899.00.12"},
+                                                           {{89, 9, 0, 0, 12}, "899"},
+                                                           {{0, 9, 12}, ".12"}};
+  for (const auto& [celle, testo] : casi) EXPECT_EQ(decodifica({.telefono = celle}).NumeroTelefono, testo);
+}
+
+TEST_F(Decoding, TakesTheFirstWheelUntestedAndTutteOutOfTheList) {
+  const std::vector<std::tuple<Celle, Celle, bool>> casi = {{{1, 2, 11}, {1, 2, 11}, false},
+                                                            {{12, 1}, {1}, true},
+                                                            {{3, 12, 3}, {3, 3}, true},
+                                                            {{12}, {}, true},
+                                                            {{}, {0}, false},
+                                                            {{0, 4, 0, 5}, {0, 4}, false}};
+  for (const auto& [celle, ruote, tutte] : casi) {
+    EXPECT_EQ(decodifica({.ruote = celle}).Ruote, ruote);
+    EXPECT_EQ(previsione.Tutte, tutte);
+  }
+}
+
+TEST_F(Decoding, WalksTheAmbateFromTheSecondCellEvenBehindAnEmptyFirstOne) {
+  EXPECT_THAT(decodifica({.ambate = {12, 34, 0, 5}}).Ambate, ElementsAre(12, 34));
+  EXPECT_THAT(decodifica({.ambate = {0, 5, 6}}).Ambate, ElementsAre(5, 6));
+  EXPECT_THAT(decodifica({}).Ambate, IsEmpty());
+}
+
+TEST_F(Decoding, SeesOnlyFirstAndLastNumberOfAGroupOfAmbiAndCarriesTheSecondOver) {
+  const auto ambi = [&](const Celle& celle) { return decodifica({.ambi = celle}).Ambi; };
+  EXPECT_THAT(ambi({7, 99}), ElementsAre(Pair(7, 0)));
+  EXPECT_THAT(ambi({12, 34, 99, 7, 99}), ElementsAre(Pair(12, 34), Pair(7, 34)));
+  EXPECT_THAT(ambi({1, 2, 3, 99, 5, 6, 99}), ElementsAre(Pair(1, 3), Pair(5, 6)));
+  EXPECT_THAT(ambi({8, 99}), ElementsAre(Pair(8, 6)));  // of another prediction
+  EXPECT_THAT(ambi({10, 20}), IsEmpty());               // not closed
+  EXPECT_THAT(ambi({30, 99, 99}), ElementsAre(Pair(30, 20), Pair(30, 20)));
+  EXPECT_THAT(ambi({99, 5, 6, 99}), ElementsAre(Pair(5, 6)));
+  EXPECT_THAT(ambi({0, 1, 2, 99}), IsEmpty());
+}
+
+TEST_F(Decoding, SplitsTheCombinationsAtTheirClosingCells) {
+  const auto sup = [&](const Celle& celle) { return decodifica({.sup = celle}).Sup; };
+  EXPECT_THAT(sup({1, 2, 3, 99}), ElementsAre(ElementsAre(1, 2, 3)));
+  EXPECT_THAT(sup({1, 2, 99, 3, 99, 4, 5, 6, 99}),
+              ElementsAre(ElementsAre(1, 2), ElementsAre(3), ElementsAre(4, 5, 6)));
+  EXPECT_THAT(sup({1, 2, 99, 99}), ElementsAre(ElementsAre(1, 2)));
+  EXPECT_THAT(sup({99, 5, 99}), ElementsAre(ElementsAre(99), ElementsAre(5)));
+  EXPECT_THAT(sup({1, 2}), IsEmpty());
+  EXPECT_THAT(sup({0, 1, 2, 99}), IsEmpty());
+}
+
+TEST_F(Decoding, FailsOnAListWithoutAnEnd) {
+  for (const auto lista : {&SlotProva::ruote, &SlotProva::ambate, &SlotProva::ambi, &SlotProva::sup}) {
+    SlotProva slot;
+    slot.*lista = Celle(179, 5);
+    EXPECT_EQ(failureDi([&] { return decodifica(slot); }), 0);
+    slot.*lista = Celle(180, 5);
+    EXPECT_EQ(failureDi([&] { return decodifica(slot); }), 9);
+  }
+  EXPECT_EQ(failureDi([&] { return decodifica({.telefono = Celle(178, 5)}); }), 9);
+}
+
+TEST(Catalogue, NamesEachMethodUpToItsFirstDatInTheOrderOfTheFolder) {
+  prova::ProgrammaProva p;
+  for (const auto* nome : {"b.dat.dat", "Metodo 2.dat", "A.dat.bak"})
+    p.scrivi(std::string("Metodi/") + nome, "");
+  EXPECT_THAT(CaricaElencoMetodi(p.cartella(), {}), ElementsAre("A", "b", "Metodo 2"));
+  EXPECT_THAT(CaricaElencoMetodi(p.cartella(), {false, " b "}), ElementsAre(" b "));
+  p.scrivi("Metodi/C.DAT", "");
+  EXPECT_EQ(failureDi([&] { return CaricaElencoMetodi(p.cartella(), {}); }), 5);
+  EXPECT_THAT(CaricaElencoMetodi(p.cartella(), {}, NomeSenzaDat::VoceVuota),
+              ElementsAre("A", "b", "", "Metodo 2"));
+  EXPECT_THAT(metodiOfferti(p.cartella()), ElementsAre("Metodo 1", "Metodo 2", "A", "b"));
+}
+
+}  // namespace
+}  // namespace vaticlo

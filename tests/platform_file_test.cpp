@@ -1,0 +1,138 @@
+#include <array>
+#include <csignal>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include "platform/file_intero.h"
+#include "platform/rapporto.h"
+#include "sostegno/cartella_prova.h"
+#include "sostegno/failure_prova.h"
+
+namespace vaticlo {
+namespace {
+
+namespace fs = std::filesystem;
+using prova::failureDi;
+using testing::Each;
+using testing::ElementsAre;
+
+/// A disk on which no file can grow beyond `ottetti`, as long as it lives.
+struct DiscoPieno {
+  explicit DiscoPieno(rlim_t ottetti) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    ::getrlimit(RLIMIT_FSIZE, &prima);
+    const rlimit stretto{ottetti, prima.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &stretto);
+  }
+  DiscoPieno(const DiscoPieno&) = delete;
+  DiscoPieno& operator=(const DiscoPieno&) = delete;
+  ~DiscoPieno() { ::setrlimit(RLIMIT_FSIZE, &prima); }
+  rlimit prima{};
+};
+
+class Files : public testing::Test {
+ protected:
+  [[nodiscard]] fs::path percorso(const std::string& nome) const { return p.cartella().radice() / nome; }
+  void leggi(const std::string& nome) { leggiFile(percorso(nome), griglia); }
+  void scrivi(const std::string& nome) { scriviFile(percorso(nome), griglia); }
+
+  prova::ProgrammaProva p;
+  std::array<std::uint8_t, 6> griglia{'1', '2', '3', '4', '5', '6'};
+};
+
+TEST_F(Files, ReadAsZerosBehindTheirEndAndAreCreatedEmptyWhenMissing) {
+  p.scrivi("corto", "AB");
+  leggi("corto");
+  EXPECT_THAT(griglia, ElementsAre('A', 'B', 0, 0, 0, 0));
+  leggi("nuovo");
+  EXPECT_THAT(griglia, Each(0));
+  EXPECT_EQ(fs::file_size(percorso("nuovo")), 0U);
+}
+
+TEST_F(Files, ThatAreLongerAreReadAndWrittenAtTheirHeadAndKeepTheirTail) {
+  p.scrivi("lungo", "abcdefgh");
+  scrivi("lungo");
+  EXPECT_EQ(p.contenuto("lungo"), "123456gh");
+  p.scrivi("lungo", "abcdefgh");
+  leggi("lungo");
+  EXPECT_THAT(griglia, ElementsAre('a', 'b', 'c', 'd', 'e', 'f'));
+}
+
+TEST_F(Files, ThatAreNoPlainOnesFail) {
+  ASSERT_EQ(::mkfifo(percorso("tubo").c_str(), 0600), 0);
+  for (const auto* nome : {"Metodi", "tubo", "manca/x"}) {
+    const int numero = nome == std::string("manca/x") ? 76 : 75;
+    EXPECT_EQ(failureDi([&] { return leggi(nome), 0; }), numero) << nome;
+    EXPECT_EQ(failureDi([&] { return scrivi(nome), 0; }), numero) << nome;
+  }
+  EXPECT_EQ(failureDi([&] { return contenutoFile(percorso("manca")); }), 53);
+}
+
+TEST_F(Files, AreAsTheyWereWhenTheDiskIsFull) {
+  p.scrivi("dati", "old");
+  const DiscoPieno disco(4);
+  EXPECT_EQ(failureDi([&] { return scrivi("dati"), 0; }), 61);
+  EXPECT_EQ(p.contenuto("dati"), "old");
+}
+
+TEST_F(Files, AReportHasItsLinesInTheCodePageEndedByCrLf) {
+  p.scrivi("Esiti.txt", "the report of an earlier run");
+  FileRapporto rapporto(percorso("Esiti.txt"));
+  EXPECT_EQ(p.contenuto("Esiti.txt"), "");
+  rapporto.riga(" Previsione n.°", 7, " è");
+  rapporto.riga();
+  rapporto.chiudi();
+  EXPECT_EQ(p.contenuto("Esiti.txt"), std::string(" Previsione n.\xB0") + "7 \xE8\r\n\r\n");
+  EXPECT_EQ(testoRapporto(percorso("Esiti.txt")), " Previsione n.°7 è\n\n");
+}
+
+TEST_F(Files, AReportKeepsItsLinesWhenAFailureUnwindsThroughIt) {
+  std::string attese;
+  const auto fallisce = [&]() -> int {
+    FileRapporto rapporto(percorso("Stat.txt"));
+    for (int n = 1; n <= 20000; ++n) {
+      rapporto.riga("riga ", n);
+      attese += "riga " + std::to_string(n) + "\r\n";
+    }
+    throw RuntimeFailure(Errore::Indice);
+  };
+  EXPECT_EQ(failureDi(fallisce), 9);
+  EXPECT_EQ(p.contenuto("Stat.txt"), attese);
+}
+
+TEST_F(Files, AReportThatCannotBeWrittenFails) {
+  EXPECT_EQ(failureDi([&] { return FileRapporto(percorso("Metodi")), 0; }), 75);
+  EXPECT_EQ(failureDi([&] { return FileRapporto(percorso("manca/Stat.txt")), 0; }), 76);
+  FileRapporto rapporto(percorso("Stat.txt"));
+  const DiscoPieno disco(3);
+  rapporto.riga("una riga");
+  EXPECT_EQ(failureDi([&] { return rapporto.chiudi(), 0; }), 61);
+}
+
+TEST_F(Files, MethodsAreListedByUpperCasedNameWithoutFoldersAndHiddenFiles) {
+  for (const auto* nome : {"é.dat", "È.dat", "b.dat", "Z.dat", "A.dat", ".nascosto.dat", "c", "ça.dat"})
+    p.scrivi(std::string("Metodi/") + nome, "");
+  fs::create_directory(percorso("Metodi/B cartella.dat"));
+  EXPECT_THAT(p.cartella().elencaMetodi(),
+              ElementsAre("A.dat", "b.dat", "c", "Z.dat", "ça.dat", "È.dat", "é.dat"));
+  fs::remove_all(percorso("Metodi"));
+  EXPECT_THAT(p.cartella().elencaMetodi(), testing::IsEmpty());
+  p.scrivi("Metodi", "a file in its place");
+  EXPECT_EQ(failureDi([&] { return p.cartella().elencaMetodi(); }), 75);
+}
+
+TEST_F(Files, AMethodIsItsTrimmedNameWithDatInsideItsFolder) {
+  p.scrivi("Metodi/Metodo 1.dat", "");
+  fs::create_directory(percorso("Metodi/Cartella.dat"));
+  EXPECT_EQ(p.cartella().metodo("  Metodo 1 "), percorso("Metodi/Metodo 1.dat"));
+  EXPECT_TRUE(p.cartella().esisteMetodo(" Metodo 1"));
+  for (const auto* nome : {"Metodo 2", "Cartella", "../Metodi/Metodo 1"})
+    EXPECT_FALSE(p.cartella().esisteMetodo(nome)) << nome;
+  EXPECT_EQ(failureDi([&] { return p.cartella().metodo("../archivion71"); }), 52);
+}
+
+}  // namespace
+}  // namespace vaticlo

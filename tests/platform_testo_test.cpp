@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+
+#include "platform/conversione.h"
+#include "platform/pagina_codici.h"
+#include "sostegno/failure_prova.h"
+
+namespace vaticlo {
+namespace {
+
+using Tavola = std::vector<std::pair<std::string, std::vector<std::string>>>;
+
+/// Converts each text of each line and compares with the number, or the failure, in front of the line.
+template <class Converti>
+void confronta(const Tavola& tavola, Converti converti) {
+  for (const auto& [atteso, testi] : tavola)
+    for (const auto& testo : testi) {
+      std::string esito;
+      const int failure = prova::failureDi([&] { return esito = std::to_string(converti(testo)); });
+      EXPECT_EQ(failure == 0 ? esito : "failure " + std::to_string(failure), atteso) << '"' << testo << '"';
+    }
+}
+
+TEST(Conversion, RoundsATextHalfToEvenAndTellsNoNumberFromOutOfRange) {
+  const std::string enorme = "1" + std::string(40, '0');
+  confronta({{"0", {"0", "0,5", "-0,5"}},
+             {"7", {"7", "+7", " 007 ", "6,51"}},
+             {"12", {"12,5", "12,49"}},
+             {"14", {"13,5", "14,5"}},
+             {"254", {"254,5"}},
+             {"failure 6", {"256", "255,5", "-1", "-0,51", enorme}},
+             {"failure 13", {"", "  ", "a", "1 2", "1.5", "1e1", "0x1", "--1", "-", "\t5", "1,2,3", "5;"}}},
+            inByte);
+  confronta({{"32767", {"32767", "32767,4"}},
+             {"32766", {"32766,5"}},
+             {"-32768", {"-32768", "-32768,5"}},
+             {"-2", {"-1,5", "-2,5"}},
+             {"failure 6", {"32768", "32767,5", "-32769", enorme}},
+             {"failure 13", {"1/2", ""}}},
+            inIntero16);
+}
+
+TEST(Conversion, WritesARoundedNumberWithFifteenDigitsAndAComma) {
+  EXPECT_EQ(testoDiNumero(arrotonda(1.0 / 80, 3)), "0,012");
+  EXPECT_EQ(testoDiNumero(arrotonda(3.0 / 80, 3)), "0,038");
+  EXPECT_EQ(testoDiNumero(arrotonda(2.0 / 3, 2)), "0,67");
+  EXPECT_EQ(testoDiNumero(2.0 / 3), "0,666666666666667");
+  EXPECT_EQ(testoDiNumero(0.1 + 0.2), "0,3");
+  EXPECT_EQ(testoDiNumero(-12.5), "-12,5");
+  EXPECT_EQ(testoDiNumero(1200), "1200");
+}
+
+TEST(CodePage, HasAByteForItsOwnCharactersAndAQuestionMarkForAllOthers) {
+  const std::pair<std::string, std::string> casi[] = {
+      {"2°", "2\xB0"}, {"€", "\x80"}, {"àÿ", "\xE0\xFF"},     {"Š’–žŸ", "\x8A\x92\x96\x9E\x9F"},
+      {"a漢b", "a?b"}, {"😀", "?"},    {"\u0080\u0081", "??"}, {"a\xFF b\xC3", "a? b?"}};
+  for (const auto& [testo, ottetti] : casi) {
+    std::string pagina = "> ";
+    aggiungiInPagina(pagina, testo);
+    EXPECT_EQ(pagina, "> " + ottetti) << testo;
+  }
+}
+
+TEST(CodePage, GivesEveryDefinedByteBackAndReadsTheUndefinedOnesAsQuestionMarks) {
+  EXPECT_EQ(daPagina("\x80 \xE0 \xB0 \x9C"), "€ à ° œ");
+  for (int n = 0; n < 256; ++n) {
+    const std::string ottetto(1, static_cast<char>(n));
+    const bool definito = std::string("\x81\x8D\x8F\x90\x9D").find(ottetto) == std::string::npos;
+    std::string ritorno;
+    aggiungiInPagina(ritorno, daPagina(ottetto));
+    EXPECT_EQ(ritorno, definito ? ottetto : "?") << n;
+  }
+}
+
+}  // namespace
+}  // namespace vaticlo
