@@ -33,9 +33,10 @@ TEST(Numeri, EachRelationIsTheOneThatPlayersKnow) {
       EXPECT_EQ(caso.relazione(n), atteso) << &caso - casi << ": " << n;
 }
 
-TEST(Valutatori, CinquineAndTerzineWinUpToVenezia) {
+TEST(Valutatori, LookAtTheWheelsUpToVenezia) {
   ProgrammaProva p;
-  archivioDi(2, "1 Ba 1 2,1 Ca 3 2 1,1 Ve 4 3 2 1,1 Naz 1 2 3,1 To 1,2 Ba 5 4 3 2 1").scrivi(p);
+  archivioDi(2, "1 Ba 1 2,1 Ca 3 2 1,1 Ve 4 3 2 1,1 Naz 1 2 3,1 To 1,2 Ba 5 4 3 2 1,2 Ve 1 90 45 46 10")
+      .scrivi(p);
   clsMetodo controllo(p.programma, {});
   const std::array<int, 5> numeri = {1, 2, 3, 4, 5};
   for (const int ruota : {1, 2, 9, 10, 11})
@@ -46,6 +47,15 @@ TEST(Valutatori, CinquineAndTerzineWinUpToVenezia) {
   EXPECT_FALSE(controllo.ControllaTerzina(1, 1, 1));
   for (const int indice : {0, 3})
     EXPECT_EQ(failureDi([&] { return controllo.ControllaTerzina(1, indice, 1); }), 9);
+  const auto venezia = [&] {
+    std::vector<int> valori;
+    for (const auto& coppia : controllo.posizioni()) valori.push_back(coppia[9]);
+    return valori;
+  };
+  controllo.DistanzePosizioni(2);
+  EXPECT_THAT(venezia(), ElementsAre(1, 45, 1, 36, 9, 0, 0, 0, 0, 0));
+  controllo.DifferenzePosizioni(2);
+  EXPECT_THAT(venezia(), ElementsAre(89, 45, 1, 36, 9, 44, 45, 44, 80, 35));
   controllo.rilascia();
   EXPECT_EQ(
       p.contenuto("Esiti.txt"),
@@ -54,22 +64,6 @@ TEST(Valutatori, CinquineAndTerzineWinUpToVenezia) {
                  " Ambo in terzina 1 2 Ba al 0° colpo| Terno secco a tutte  1 2 3 Ca al 0° colpo|"
                  " Terno secco a tutte  1 2 3 Ve al 0° colpo| Terno secco 1 2 3 Ca al 0° colpo|"
                  " Terno secco a tutte  1 2 3 Ve al 0° colpo"));
-}
-
-TEST(Valutatori, ThePositionsOfAWheelGiveDistancesAndDifferences) {
-  ProgrammaProva p;
-  archivioDi(2, "2 Ba 7,2 Ve 1 90 45 46 10").scrivi(p);
-  clsMetodo controllo(p.programma, {});
-  const auto colonna = [&](std::size_t ruota) {
-    std::vector<int> valori;
-    for (const auto& coppia : controllo.posizioni()) valori.push_back(coppia[ruota - 1]);
-    return valori;
-  };
-  controllo.DistanzePosizioni(2);
-  EXPECT_THAT(colonna(1), ElementsAre(7, 0, 0, 0, 7, 0, 0, 0, 0, 0));
-  EXPECT_THAT(colonna(10), ElementsAre(1, 45, 1, 36, 9, 0, 0, 0, 0, 0));
-  controllo.DifferenzePosizioni(2);
-  EXPECT_THAT(colonna(10), ElementsAre(89, 45, 1, 36, 9, 44, 45, 44, 80, 35));
 }
 
 }  // namespace

@@ -66,8 +66,9 @@ TEST_F(Metodi, TheWinnersFollowTheArrows) {
 TEST_F(Metodi, ANameMustBeAFileOnEverySystemAndNew) {
   scriviMetodoProva(p, "Città", {});
   GestioneMetodi gestione(p.programma);
+  const std::string lungo(256, 'a');
   for (const std::string nome : {"  ", "a/b", "..\\b", "a:b", "a\nb", "a?", ".a", "a.", "nul", "Com1.x",
-                                 "a.DAT", "a.dat.b", " CITTÀ ", std::string(256, 'a').c_str()}) {
+                                 "a.DAT", "a.dat.b", " CITTÀ ", lungo.c_str()}) {
     p.servizi.messaggi.clear();
     EXPECT_FALSE(gestione.crea(nome)) << nome;
     EXPECT_THAT(p.servizi.detti(), ElementsAre(testing::StartsWith("[Attenzione] "))) << nome;

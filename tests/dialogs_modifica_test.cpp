@@ -1,14 +1,13 @@
 #include <gmock/gmock.h>
 
 #include "dialogs/frm_modifica.h"
+#include "dialogs/frm_somdif.h"
 #include "sostegno/cornice_prova.h"
 #include "sostegno/failure_prova.h"
 #include "sostegno/scenario.h"
 
 namespace vaticlo::prova {
 namespace {
-
-using testing::ElementsAre;
 
 class Modifica : public testing::Test {
  protected:
@@ -52,49 +51,41 @@ TEST_F(Modifica, AnEmptyArchiveShowsItsFirstFreeSlot) {
 }
 
 TEST_F(Modifica, ADrawIsFoundByNumberOrDate) {
-  const std::vector<std::string> nulla;
-  const std::vector<std::string> campo = {"[Attenzione] Inserisci un valore corretto compreso tra 1 e 60."};
-  const std::vector<std::string> numero = {"[Attenzione] Inserisci un valore numerico"};
-  const struct {
-    const char* testo;
-    int trovata;  // 30: the window stays as it was
-    std::vector<std::string> messaggi;
-  } casi[] = {
-      {"60", 60, nulla},
-      {"2", 2, nulla},
-      {"1", 30, campo},
-      {"61", 30, campo},
-      {"-5", 30, campo},
-      {"2,5", 2, nulla},
-      {"3,5", 4, nulla},
-      {"", 30, nulla},
-      {"16.03.2005", 60, nulla},
-      {"1-1-1945", 1, nulla},
-      {"8/1/45", 2, nulla},
-      {"30/2/2004", 30, numero},
-      {"1/1/1944", 30, {"[Attenzione] Inserisci una data corretta"}},
-  };
+  // What is typed, the draw shown then (30: as before), the message.
+  const std::string campo = "Inserisci un valore corretto compreso tra 1 e 60.",
+                    numero = "Inserisci un valore numerico";
+  const std::vector<std::string> casi = {"60",         "60", "",
+                                         "2",          "2",  "",
+                                         "1",          "30", campo,
+                                         "61",         "30", campo,
+                                         "-5",         "30", campo,
+                                         "2,5",        "2",  "",
+                                         "3,5",        "4",  "",
+                                         "",           "30", "",
+                                         "16.03.2005", "60", "",
+                                         "1-1-1945",   "1",  "",
+                                         "8/1/45",     "2",  "",
+                                         "30/2/2004",  "30", numero,
+                                         "1/1/1944",   "30", "Inserisci una data corretta"};
   archivioDi(60).data(1, 1, 1, 1945).data(2, 10, 1, 1945).data(60, 16, 3, 2005).scrivi(p);
   apri();
-  for (const auto& caso : casi) {
-    SCOPED_TRACE(caso.testo);
+  for (std::size_t n = 0; n < casi.size(); n += 3) {
+    SCOPED_TRACE(casi[n]);
     frm.estrazione.VScroll1.Value(31);
     p.servizi.messaggi.clear();
-    p.servizi.digitato = caso.testo;
+    p.servizi.digitato = casi[n];
     frm.btnTrova_Click();
-    EXPECT_EQ(frm.estrazione.lblnestr.Caption(), std::to_string(caso.trovata));
-    EXPECT_EQ(frm.estrazione.VScroll1.Value(), caso.trovata + 1);
-    EXPECT_EQ(p.globals().EstrazioneCorrente, caso.trovata);
-    EXPECT_EQ(p.servizi.detti(), caso.messaggi);
+    EXPECT_EQ(frm.estrazione.lblnestr.Caption(), casi[n + 1]);
+    EXPECT_EQ(frm.estrazione.estrazioneDellaBarra(), std::stoi(casi[n + 1]));
+    EXPECT_EQ(p.globals().EstrazioneCorrente, std::stoi(casi[n + 1]));
+    EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, casi[n + 2]);
   }
   p.servizi.digitato = "40000";
   EXPECT_EQ(failureDi([&] { return frm.btnTrova_Click(), 0; }), 6);
-  EXPECT_EQ(
-      p.servizi.domande[0],
-      std::pair(std::string("Inserisci il numero dell'estrazione (compreso tra 1 e 60) da ricercare oppure "
-                            "la data dell'estrazione in uno dei seguenti formati:(gg/mm/aaaa oppure "
-                            "gg-mm-aaaa oppure gg.mm.aaaa)."),
-                std::string("Cerca Estrazione")));
+  EXPECT_EQ(p.servizi.domande[0].first,
+            "Inserisci il numero dell'estrazione (compreso tra 1 e 60) da ricercare oppure la data "
+            "dell'estrazione in"
+            " uno dei seguenti formati:(gg/mm/aaaa oppure gg-mm-aaaa oppure gg.mm.aaaa).");
 }
 
 TEST_F(Modifica, NothingIsSavedOrDeletedWithoutAYes) {
@@ -114,9 +105,55 @@ TEST_F(Modifica, NothingIsSavedOrDeletedWithoutAYes) {
   EXPECT_EQ(cornice.chiesto, "altre riapri ");
   EXPECT_EQ(vista(), "3/3 n.3 0/0/000") << "the bar moves to its new end, then the deleted number is shown";
   EXPECT_EQ(p.globals().EstrazioneCorrente, 2);
-  const std::string salvare = "[Attenzione] Sei sicuro di voler modificare l'estrazione corrente";
-  const std::string cancellare = "[Attenzione] Sei sicuro di voler cancellare l'estrazione selezionata";
-  EXPECT_THAT(p.servizi.detti(), ElementsAre(salvare, cancellare, salvare, cancellare));
+  EXPECT_EQ(p.servizi.detti()[2], "[Attenzione] Sei sicuro di voler modificare l'estrazione corrente");
+  EXPECT_EQ(p.servizi.detti()[3], "[Attenzione] Sei sicuro di voler cancellare l'estrazione selezionata");
+}
+
+class Somdif : public testing::Test {
+ protected:
+  Somdif() {
+    archivioDi(3, "2 Ba 1 90,2 Ca 10 11,2 Fi 1 8,3 Ba 4,3 Ca 7 6,3 Fi 9").data(3, 1, 4, 2005).scrivi(p);
+    frm.Form_Load();
+  }
+  /// The first three fields of the first column, "*" behind the yellow ones, and the number of the draw.
+  [[nodiscard]] std::string colonna() const {
+    std::string testo;
+    for (std::size_t i = 0; i < 3; ++i)
+      testo += frm.colonne[0][i].Text() + (frm.colonne[0][i].BackColor() == kGiallo ? "* " : " ");
+    return testo + "n." + frm.lblnestr.Caption();
+  }
+  ProgrammaProva p;
+  CorniceProva cornice;
+  frmSomdif frm{p.programma, cornice};
+};
+
+TEST_F(Somdif, EachChangeMarksItsOwnEqualValuesAlone) {
+  EXPECT_EQ(cornice.chiesto, "") << "other windows stay open";
+  EXPECT_EQ(colonna(), "4 1 9 n.3");
+  frm.VScroll1.Value(3);
+  EXPECT_EQ(colonna(), "1* 1* 7 n.2");
+  frm.VScroll1.Value(4);
+  EXPECT_EQ(colonna(), "4 1 9 n.3");
+  frm.VScroll1.Value(3);
+  frm.opzione_Click(TipoSomDif::Matematica);
+  EXPECT_EQ(colonna(), "89 1 7 n.2");
+  frm.opzione_Click(TipoSomDif::Somma);
+  EXPECT_EQ(colonna(), "1 21 9 n.2");
+  p.servizi.digitato = "3";
+  frm.btnTrova_Click();
+  EXPECT_EQ(colonna(), "4 13 9 n.3");
+}
+
+TEST_F(Somdif, ASearchByDateLeavesTheFirstNumbersOfTheDrawInTheFirstColumn) {
+  frm.VScroll1.Value(2);
+  p.servizi.digitato = "1/4/2005";
+  frm.btnTrova_Click();
+  EXPECT_EQ(colonna(), "4* 0* 0* n.3");
+  EXPECT_EQ(frm.colonne[0][5].Text() + frm.colonne[0][6].Text(), "76");
+  EXPECT_EQ(frm.colonne[1][0].Text(), "0") << "there is no field for Firenze";
+  EXPECT_EQ(frm.VScroll1.Value(), 2);
+  EXPECT_EQ(p.globals().EstrazioneSomdif, 1);
+  EXPECT_TRUE(p.servizi.messaggi.empty());
 }
 
 }  // namespace

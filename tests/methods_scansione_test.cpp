@@ -100,6 +100,7 @@ TEST_F(Scans, WinnersAreWrittenWithTheHitsOfTheirFirstWinningColpo) {
                      {.estrazione = 101, .ruote = {1, 2}, .ambate = {12, 34}}});
   EXPECT_EQ(vincenti(), voce(" Previsione n.°1| Metodo: Metodo 2| Ruote: Ba-Ca| Ambate: 12-34|| Esito: "
                              "| Ambata 12 Ba al 4°colpo| Ambata 34 Ca al 4°colpo"));
+  EXPECT_THAT(inGioco(), testing::HasSubstr(" Colpi ancora in gioco: 6\r\n"));  // the one that has not won
 }
 
 TEST_F(Scans, WinnersCountByTheLimitOfTheLastDraws) {

@@ -7,20 +7,17 @@
 
 namespace vaticlo::prova {
 
-PrincipaleProva::PrincipaleProva()
-    : confine_([this](const RuntimeFailure& failure) { failures_ << failure.numero(); }),
-      principale_(p.programma),
-      finestra((QApplication::setStyle("Fusion"), principale_), confine_) {
-  if (!italiano_.load(":/traduzioni/qtbase_it.qm")) ferma("no Italian texts");
-  QApplication::installTranslator(&italiano_);
+PrincipaleProva::PrincipaleProva() {
+  QApplication::setStyle("Fusion");
+  if (!italiano.load(":/traduzioni/qtbase_it.qm")) ferma("no Italian texts");
+  QApplication::installTranslator(&italiano);
   finestra.show();
   if (!QTest::qWaitForWindowActive(&finestra)) ferma("the main window does not become active");
 }
 
 PrincipaleProva::~PrincipaleProva() {
-  const auto taciuti = detti();
-  if (!taciuti.isEmpty()) QTest::qFail(qPrintable("message: " + taciuti.join(" / ")), __FILE__, __LINE__);
-  for (const int numero : failures_)
+  for (const auto& testo : detti()) QTest::qFail(qPrintable("message: " + testo), __FILE__, __LINE__);
+  for (const int numero : giunte)
     QTest::qFail(qPrintable(QString("failure %1").arg(numero)), __FILE__, __LINE__);
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
@@ -30,10 +27,10 @@ void PrincipaleProva::ferma(const QString& perche) {
   throw std::runtime_error(perche.toStdString());
 }
 
-void PrincipaleProva::scegli(const QString& azione) {
-  const auto azioni = finestra.findChildren<QAction*>(azione);
-  if (azioni.size() != 1) ferma(QString("%1 menu entries: %2").arg(azioni.size()).arg(azione));
-  if (!azioni[0]->isVisible() || !azioni[0]->isEnabled()) ferma("hidden or disabled: " + azione);
+void PrincipaleProva::scegli(const QString& voce) {
+  const auto azioni = finestra.findChildren<QAction*>(voce);
+  if (azioni.size() != 1 || !azioni[0]->isVisible() || !azioni[0]->isEnabled())
+    ferma("missing, hidden or disabled: " + voce);
   azioni[0]->trigger();
   QCoreApplication::processEvents();
 }
@@ -48,14 +45,17 @@ void PrincipaleProva::scrivi(const QString& testo) {
 
 void PrincipaleProva::clicca(const QString& nome) {
   auto& widget = usa(nome);
-  QTest::mouseClick(finestra.windowHandle(), Qt::LeftButton, {},
-                    widget.mapTo(&finestra, widget.rect().center()));
+  const auto mezzo = widget.rect().center();
+  if (!widget.visibleRegion().contains(mezzo)) ferma("outside or covered: " + nome);
+  const auto punto = widget.mapTo(&finestra, mezzo);
+  QTest::mousePress(finestra.windowHandle(), Qt::LeftButton, {}, punto);
+  QCoreApplication::processEvents();  // a user holds the button down for a while
+  QTest::mouseRelease(finestra.windowHandle(), Qt::LeftButton, {}, punto);
 }
 
 QString PrincipaleProva::testo(const QString& nome) const {
-  const auto& widget = visibile(nome);
   for (const char* proprieta : {"displayText", "plainText", "currentText", "text"})
-    if (const auto valore = widget.property(proprieta); valore.isValid()) return valore.toString();
+    if (const auto valore = visibile(nome).property(proprieta); valore.isValid()) return valore.toString();
   ferma("shows no text: " + nome);
 }
 
@@ -65,15 +65,9 @@ QString PrincipaleProva::numeri(int f, int quanti) const {
   return testi.join(' ');
 }
 
-bool PrincipaleProva::siVede(const QString& nome) const {
-  const auto* widget = figlia().findChild<QWidget*>(nome);
-  return widget != nullptr && widget->isVisible();
-}
-
 QWidget& PrincipaleProva::visibile(const QString& nome) const {
   const auto widget = figlia().findChildren<QWidget*>(nome);
-  if (widget.size() != 1) ferma(QString("%1 widgets: %2").arg(widget.size()).arg(nome));
-  if (!widget[0]->isVisible()) ferma("hidden: " + nome);
+  if (widget.size() != 1 || !widget[0]->isVisible()) ferma("missing, hidden or twice there: " + nome);
   return *widget[0];
 }
 
@@ -93,6 +87,8 @@ QString PrincipaleProva::fuoco() {
   const auto* widget = QApplication::focusWidget();
   return widget == nullptr ? QString() : widget->objectName();
 }
+
+QList<int> PrincipaleProva::failures() { return std::exchange(giunte, {}); }
 
 QStringList PrincipaleProva::detti() {
   QStringList testi;

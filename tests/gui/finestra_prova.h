@@ -1,68 +1,50 @@
 #pragma once
 
-#include <QLabel>
-#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QTest>
 #include <QTranslator>
-#include <vector>
 
 #include "desktop/finestra_principale.h"
 #include "sostegno/scenario.h"
 
 namespace vaticlo::prova {
 
-/// The program in a folder of its own behind its main window, driven as a user drives it: by keys, the mouse,
-/// and the names of what stands on the screen. A name that is missing, hidden or disabled ends the test; a
-/// message or a failure that the test does not ask for fails it at the end.
-class PrincipaleProva {
- public:
+/// The program in a folder of its own behind its main window, driven by keys, by the mouse and by the names
+/// of what stands on the screen. A name that is missing, hidden or disabled ends the test; a message or a
+/// failure that the test does not ask for fails it at the end.
+struct PrincipaleProva {
   PrincipaleProva();
   ~PrincipaleProva();
-  PrincipaleProva(const PrincipaleProva&) = delete;
-  PrincipaleProva& operator=(const PrincipaleProva&) = delete;
 
-  /// Triggers a menu entry, one of the toolbar's drop-down menus too.
-  void scegli(const QString& azione);
-  /// A key reaches the widget that has the focus, through the window.
+  void scegli(const QString& voce);  ///< an entry of the menu or of a button's drop-down menu
   void premi(Qt::Key tasto, Qt::KeyboardModifiers modificatori = {}, int volte = 1);
   void scrivi(const QString& testo);
   void clicca(const QString& nome);
 
-  /// A widget of the active child window that the user can use.
+  /// A widget of the active child window that can be used.
   template <class T = QWidget>
   [[nodiscard]] T& usa(const QString& nome) const {
     auto* widget = qobject_cast<T*>(&visibile(nome));
-    if (widget == nullptr) ferma("another kind of widget: " + nome);
-    if (!widget->isEnabled()) ferma("disabled: " + nome);
+    if (widget == nullptr || !widget->isEnabled()) ferma("disabled, or of another kind: " + nome);
     return *widget;
   }
   /// What a label, field, list or pane of the active child window shows.
   [[nodiscard]] QString testo(const QString& nome) const;
-  /// The texts of the fields of a draw, from f on.
-  [[nodiscard]] QString numeri(int f, int quanti = 5) const;
-  [[nodiscard]] bool siVede(const QString& nome) const;
+  [[nodiscard]] QString numeri(int f, int quanti = 5) const;  ///< of the draw shown, from field f on
+  [[nodiscard]] QWidget& visibile(const QString& nome) const;
   [[nodiscard]] QMdiSubWindow& figlia() const;
   [[nodiscard]] QStringList aperte() const;  ///< the captions of the child windows
-  [[nodiscard]] static QString fuoco();      ///< the name of the widget that has the focus
-  /// The messages since the last call, as "[title] text".
-  [[nodiscard]] QStringList detti();
-  /// The numbers of the failures that reached the boundary since the last call.
-  [[nodiscard]] QList<int> failures() { return std::exchange(failures_, {}); }
+  [[nodiscard]] static QString fuoco();      ///< the name of the widget with the focus
+  [[nodiscard]] QStringList detti();         ///< the messages since the last call, as "[title] text"
+  [[nodiscard]] QList<int> failures();       ///< those at the boundary since the last call, by number
+  [[noreturn]] static void ferma(const QString& perche);
 
   ProgrammaProva p;
-
- private:
-  [[noreturn]] static void ferma(const QString& perche);
-  [[nodiscard]] QWidget& visibile(const QString& nome) const;
-
-  QTranslator italiano_;
-  QList<int> failures_;
-  Confine confine_;
-  frmPrincipale principale_;
-
- public:
-  FinestraPrincipale finestra;
+  QTranslator italiano;
+  QList<int> giunte;
+  Confine confine{[this](const RuntimeFailure& failure) { giunte << failure.numero(); }};
+  frmPrincipale principale{p.programma};
+  FinestraPrincipale finestra{principale, confine};
 };
 
 }  // namespace vaticlo::prova

@@ -8,21 +8,19 @@ using namespace vaticlo::prova;
 namespace {
 
 const QString kSalvare = "[Attenzione] Sei sicuro di voler salvare l'estrazione";
-const QString kFuori = "[Attenzione] Inserire un valore valido compreso tra 1 e 90";
 
-/// The number that the test types into field f: one digit and two, never twice in a row of five.
-int numero(int f) { return f * 7 % 90 + 1; }
-
-struct Inserimento : PrincipaleProva {
-  explicit Inserimento(int estrazioni = 2) {
-    archivioDi(estrazioni).scrivi(p);
+struct Inserisci : PrincipaleProva {
+  Inserisci() {
+    archivioDi(2).scrivi(p);
     scegli("mnu1Inserisci");
   }
-  /// Types a number and leaves the field with Tab.
-  void metti(const QString& testo) {
+  /// Types a number and leaves the field with Tab. "txtestr_5" when the focus is then there.
+  QString metti(const QString& testo) {
     scrivi(testo);
     premi(Qt::Key_Tab);
+    return fuoco();
   }
+  [[nodiscard]] std::string archivio() const { return p.contenuto("archivion71.dat"); }
 };
 
 }  // namespace
@@ -32,33 +30,29 @@ class InserisciGuiTest : public QObject {
 
  private slots:
   void aDrawTypedWithKeysIsAppendedAndAFreshWindowFollows() {
-    Inserimento v;
-    auto atteso = v.p.contenuto("archivion71.dat");
+    Inserisci v;
+    auto atteso = v.archivio();
     const auto cella = [&](int i, int j, int k, int valore) {
       atteso.at(static_cast<std::size_t>(i - 1 + 15000 * j + 180000 * (k - 1))) = static_cast<char>(valore);
     };
-    cella(3, 0, 1, 12);
-    cella(3, 0, 2, 5);
-    cella(3, 0, 3, 99);
-    cella(3, 0, 4, 20);
+    const int data[] = {12, 5, 99, 20};
+    for (int k = 1; k <= 4; ++k) cella(3, 0, k, data[k - 1]);
     QTRY_COMPARE(v.fuoco(), QString("txtestr_0"));
-    QCOMPARE(v.testo("Label21"), QString("Cagliari"));
     for (int f = 0; f < 55; ++f) {
-      QTRY_COMPARE(v.fuoco(), QString("txtestr_%1").arg(f));
-      v.metti(QString::number(numero(f)));
-      cella(3, 1 + f / 5, 1 + f % 5, numero(f));
+      QCOMPARE(v.fuoco(), QString("txtestr_%1").arg(f));
+      const int numero = f * 7 % 90 + 1;  // of one digit and of two, no two alike in a row
+      cella(3, 1 + f / 5, 1 + f % 5, numero);
+      v.metti(QString::number(numero));
     }
-    QTRY_COMPARE(v.fuoco(), QString("mcdatecombo1"));
-    v.metti("12051999");
-    QCOMPARE(v.fuoco(), QString("btnSalva"));
-
+    QCOMPARE(v.fuoco(), QString("mcdatecombo1"));
+    QCOMPARE(v.metti("12051999"), QString("btnSalva"));
     v.p.servizi.risposta = Risposta::No;
     v.premi(Qt::Key_Space);
-    QCOMPARE(v.testo("txtestr_0"), QString("1 "));
+    QCOMPARE(v.numeri(53, 2), QString("12 19"));
     v.p.servizi.risposta = Risposta::Si;
     v.premi(Qt::Key_Space);
-    QCOMPARE(v.detti(), QStringList({kSalvare, kSalvare}));
-    QVERIFY(v.p.contenuto("archivion71.dat") == atteso);
+    QCOMPARE(v.detti(), QStringList(2, kSalvare));
+    QVERIFY(v.archivio() == atteso);
 
     QTRY_COMPARE(v.fuoco(), QString("txtestr_0"));
     QCOMPARE(v.aperte(), QStringList("Inserimento Estrazioni"));
@@ -67,76 +61,61 @@ class InserisciGuiTest : public QObject {
   }
 
   void aFieldThatFailsKeepsTheFocusHoweverItIsLeft() {
-    Inserimento v;
-    const std::function<void()> uscite[] = {[&] { v.premi(Qt::Key_Tab); },
-                                            [&] { v.premi(Qt::Key_Backtab, Qt::ShiftModifier); },
-                                            [&] { v.clicca("txtestr_7"); }, [&] { v.clicca("btnSalva"); },
+    Inserisci v;
+    const std::function<void()> uscite[] = {[&] { v.premi(Qt::Key_Tab); }, [&] { v.clicca("txtestr_7"); },
+                                            [&] { v.clicca("btnSalva"); },
                                             [&] { v.premi(Qt::Key_S, Qt::AltModifier); }};
-    for (const QString testo : {"", "0", "91", "00"})
+    for (const QString testo : {"", "0", "91"})
       for (const auto& esci : uscite) {
         v.scrivi(testo);
         esci();
         QTRY_COMPARE(v.fuoco(), QString("txtestr_0"));
         QCOMPARE(v.testo("txtestr_0"), testo.leftJustified(2));
         QVERIFY(v.p.servizi.messaggi.at(0).icona == Icona::Esclamazione);
-        QCOMPARE(v.detti(), QStringList(kFuori));
+        QCOMPARE(v.detti(), QStringList("[Attenzione] Inserire un valore valido compreso tra 1 e 90"));
       }
-    v.metti("90x1");  // two digits and nothing else can be typed
-    QTRY_COMPARE(v.fuoco(), QString("txtestr_1"));
-    v.metti("1");
-    QTRY_COMPARE(v.fuoco(), QString("txtestr_2"));
-    QCOMPARE(v.testo("txtestr_0") + v.testo("txtestr_1"), QString("901 "));
+    QCOMPARE(v.metti("90x1"), QString("txtestr_1"));  // two digits and nothing else can be typed
+    QCOMPARE(v.metti("1"), QString("txtestr_2"));
+    QCOMPARE(v.numeri(0, 2), QString("90 1 "));
   }
 
   void aNumberIsComparedAsATextWithTheFieldsAtItsLeft() {
-    Inserimento v;
+    Inserisci v;
     const auto gia = [](const QString& testo) {
       return QStringList("[Attenzione] ''" + testo + "'' è stato già inserito come estratto nella ruota");
     };
     v.metti("12");
     v.metti("5");
-    v.metti("12");
-    QTRY_COMPARE(v.fuoco(), QString("txtestr_2"));
+    QCOMPARE(v.metti("12"), QString("txtestr_2"));
     QCOMPARE(v.detti(), gia("12"));
-    v.metti("5");
+    QCOMPARE(v.metti("5"), QString("txtestr_2"));
     QCOMPARE(v.detti(), gia("5 "));
-    v.metti(" 5");  // the right-hand place of the mask
-    QTRY_COMPARE(v.fuoco(), QString("txtestr_3"));
+    QCOMPARE(v.metti(" 5"), QString("txtestr_3"));  // the right-hand place of the mask
     v.metti("20");
     v.metti("21");
-    v.metti("12");  // the next wheel
-    QTRY_COMPARE(v.fuoco(), QString("txtestr_6"));
+    QCOMPARE(v.metti("12"), QString("txtestr_6"));  // the next wheel
     v.scrivi("30");
     v.premi(Qt::Key_Backtab, Qt::ShiftModifier);
-    v.metti("30");  // equal to the field at its right, which is found when that one is left again
-    QTRY_COMPARE(v.fuoco(), QString("txtestr_6"));
+    QCOMPARE(v.metti("30"), QString("txtestr_6"));  // nothing looks to the right
     QCOMPARE(v.detti(), QStringList());
-    v.premi(Qt::Key_Tab);
-    QTRY_COMPARE(v.fuoco(), QString("txtestr_6"));
+    QCOMPARE(v.metti(""), QString("txtestr_6"));
     QCOMPARE(v.detti(), gia("30"));
   }
 
-  void esciIsReachedWithoutValidationAndSavesNothing() {
+  void esciIsReachedWithoutValidationAndAFieldNeverLeftIsNotValidated() {
+    Inserisci v;
+    const auto prima = v.archivio();
     for (const bool conTasti : {true, false}) {
-      Inserimento v;
-      const auto prima = v.p.contenuto("archivion71.dat");
       v.scrivi("91");
       conTasti ? v.premi(Qt::Key_E, Qt::AltModifier) : v.clicca("btnCancella");
       QCOMPARE(v.aperte(), QStringList());
-      QVERIFY(v.p.contenuto("archivion71.dat") == prima);
+      v.scegli("mnu1Inserisci");
     }
-  }
-
-  void aFieldTheFocusNeverLeftIsFirstMissedBySaving() {
-    Inserimento v;
-    const auto prima = v.p.contenuto("archivion71.dat");
-    v.metti("1");
-    v.scrivi("2");
+    v.scrivi("1");
     v.premi(Qt::Key_S, Qt::AltModifier);
     QCOMPARE(v.detti(), QStringList(kSalvare));
     QCOMPARE(v.failures(), QList<int>{13});
-    QVERIFY(v.p.contenuto("archivion71.dat") == prima);
-    QCOMPARE(v.aperte(), QStringList("Inserimento Estrazioni"));
+    QVERIFY(v.archivio() == prima);
   }
 };
 

@@ -38,6 +38,16 @@ class Corsa : public testing::Test {
   }
   [[nodiscard]] std::string stat() const { return p.contenuto("Stat.txt"); }
   [[nodiscard]] std::string vincite() const { return p.contenuto("Vincite.txt"); }
+  /// The entries of Vincite.txt, each by its number and the first letter of its method: "1A 3B ".
+  [[nodiscard]] std::string voci() const {
+    std::string voci;
+    std::istringstream righe(vincite());
+    for (std::string riga; std::getline(righe, riga);) {
+      if (riga.starts_with(" Previsione n.")) voci += riga.substr(15, riga.size() - 16);
+      if (riga.starts_with(" Metodo: ")) voci += riga.substr(9, 1) + " ";
+    }
+    return voci;
+  }
   [[nodiscard]] std::string prevGioco() const { return p.contenuto("PrevGioco.txt"); }
   ProgrammaProva p;
   FinestraProva frm;
