@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <utility>
+
 #include "dialogs/elenco_scansione.h"
 #include "dialogs/gestione_metodi.h"
 #include "sostegno/cornice_prova.h"
@@ -46,8 +48,12 @@ TEST_F(Metodi, TheListInPlayFollowsEachChoice) {
   EXPECT_EQ(stato(frm), "testo stampa");
   EXPECT_EQ(guardati([&] { frm.optSelMetodo_Click(0); }), 3);
   EXPECT_FALSE(frm.metodo.cmbMetodo.Enabled());
-  p.servizi.allaPausa = [&] { frm.btnCerca_Click(); };
-  EXPECT_EQ(guardati([&] { frm.btnCerca_Click(); }), 3) << "an event during a scan changes nothing";
+  bool scelto = false;
+  p.servizi.allaPausa = [&] {
+    if (!std::exchange(scelto, true)) frm.optSelMetodo_Click(1);
+  };
+  EXPECT_EQ(guardati([&] { frm.btnCerca_Click(); }), 3 + 1) << "a choice during a scan has its own behind it";
+  EXPECT_EQ(stato(frm), "nota ");
 }
 
 TEST_F(Metodi, TheWinnersFollowTheArrows) {

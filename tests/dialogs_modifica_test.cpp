@@ -76,7 +76,7 @@ TEST_F(Modifica, ADrawIsFoundByNumberOrDate) {
     p.servizi.digitato = casi[n];
     frm.btnTrova_Click();
     EXPECT_EQ(frm.estrazione.lblnestr.Caption(), casi[n + 1]);
-    EXPECT_EQ(frm.estrazione.estrazioneDellaBarra(), std::stoi(casi[n + 1]));
+    EXPECT_EQ(estrazioneDellaBarra(frm.estrazione.VScroll1), std::stoi(casi[n + 1]));
     EXPECT_EQ(p.globals().EstrazioneCorrente, std::stoi(casi[n + 1]));
     EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, casi[n + 2]);
   }

@@ -76,6 +76,12 @@ bool clsMetodo::ControllaColpi(int colpi) {
   return false;
 }
 
+void eseguiVerifica(Programma& programma, SceltaVerifica scelta) {
+  clsMetodo controllo(programma, std::move(scelta));
+  controllo.ricerca(programma.globals.EstrazioneCorrente);
+  controllo.rilascia();
+}
+
 void clsMetodo::ambata(int numero, int ruota) { rapporto_.riga(rigaAmbata(numero, ruota, ColpoCorrente_)); }
 
 void clsMetodo::ambo(int a, int b, int ruota) { rapporto_.riga(rigaAmbo(a, b, ruota, ColpoCorrente_)); }

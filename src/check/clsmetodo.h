@@ -73,4 +73,7 @@ class clsMetodo : private EsitoColpo {
   std::array<std::array<std::int16_t, 10>, 10> posizioni_{};
 };
 
+/// A whole check of the draw in Globals: created, run, released.
+void eseguiVerifica(Programma& programma, SceltaVerifica scelta);
+
 }  // namespace vaticlo

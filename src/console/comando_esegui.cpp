@@ -1,7 +1,6 @@
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
+#include <sstream>
 
 #include <CLI/CLI.hpp>
 
@@ -34,8 +33,7 @@ void aggiungiEsegui(CLI::App& app, Sessione& sessione) {
   comando->add_option("FILE", *file, "File dei comandi (-: standard input)")->required();
   comando->callback([&sessione, file] {
     if (*file == "-") return eseguiFile(sessione, std::cin);
-    std::ifstream comandi(*file);
-    if (!comandi) throw UsoErrato("non si può leggere il file di comandi \"" + *file + "\"");
+    std::istringstream comandi(leggiTesto(*file));
     eseguiFile(sessione, comandi);
   });
 }

@@ -5,8 +5,6 @@
 
 #include "archive/importazione.h"
 #include "console/sessione.h"
-#include "platform/failure.h"
-#include "platform/file_intero.h"
 
 namespace vaticlo {
 
@@ -14,9 +12,7 @@ namespace {
 
 ArchivioEstrazioni leggiEstrazioni(const std::string& file) {
   try {
-    return importaEstrazioni(contenutoFile(file));
-  } catch (const RuntimeFailure& failure) {
-    throw UsoErrato("non si può leggere \"" + file + "\": " + descrizione(failure.errore()));
+    return importaEstrazioni(leggiTesto(file));
   } catch (const ErroreImportazione& errore) {
     throw UsoErrato(file + ", " + errore.what() + "\nL'archivio è rimasto com'era.");
   }

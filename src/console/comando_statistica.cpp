@@ -67,7 +67,9 @@ struct Scelte {
 
 void statistica(Sessione& sessione, const Scelte& scelte) {
   auto& globals = sessione.programma().globals;
-  globals.MetodoScelto = static_cast<std::int16_t>(numeroIntero(scelte.scelto, "--scelto"));
+  const int scelto = numeroIntero(scelte.scelto, "--scelto");
+  if (scelto < INT16_MIN || scelto > INT16_MAX) throw UsoErrato("--scelto è fuori misura: " + scelte.scelto);
+  globals.MetodoScelto = static_cast<std::int16_t>(scelto);
   CorniceVuota cornice;
   frmStatistica frm(sessione.programma(), cornice);
   if (scelte.metodo) frm.metodo.scegliNome(*scelte.metodo);

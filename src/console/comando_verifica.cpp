@@ -16,9 +16,7 @@ void verifica(Sessione& sessione, int n, const std::optional<std::string>& metod
   auto& g = programma.globals;
   g.UltimaEstrazione = ApriArchivio(programma.cartella).PrimoIndiceLibero() - 1;
   g.EstrazioneCorrente = g.EstrazioneBase = n;
-  clsMetodo controllo(programma, {{!metodo, metodo.value_or("")}, std::to_string(n)});
-  controllo.ricerca(n);
-  controllo.rilascia();
+  eseguiVerifica(programma, {{!metodo, metodo.value_or("")}, std::to_string(n)});
   std::cout << testoRapporto(programma.cartella.esiti()) << "Giocabili: " << g.ContaGiocabili << '\n'
             << "Vincenti: " << g.ContaVincenti << '\n'
             << "In gioco: " << g.ContaInGioco << '\n';

@@ -1,6 +1,7 @@
 #include "console/sessione.h"
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <iostream>
 
@@ -9,12 +10,15 @@
 #include "console/messaggi_uso.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"
+#include "platform/file_intero.h"
 
 namespace vaticlo {
 
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr double kMassimoIntero = 1e9;
 
 fs::path cartellaEseguibile() { return fs::read_symlink("/proc/self/exe").parent_path(); }
 
@@ -79,9 +83,17 @@ int Sessione::esegui(std::vector<std::string> parole, Luogo luogo, const std::st
   return esito;
 }
 
+std::string leggiTesto(const std::string& file) {
+  try {
+    return contenutoFile(file);
+  } catch (const RuntimeFailure& failure) {
+    throw UsoErrato("non si può leggere \"" + file + "\": " + descrizione(failure.errore()));
+  }
+}
+
 int numeroIntero(const std::string& testo, const std::string& nome) {
   const auto numero = numeroDaTesto(testo);
-  if (!numero || *numero != static_cast<int>(*numero))
+  if (!numero || std::abs(*numero) > kMassimoIntero || *numero != std::trunc(*numero))
     throw UsoErrato(nome + " deve essere un numero intero, non \"" + testo + "\"");
   return static_cast<int>(*numero);
 }

@@ -59,6 +59,9 @@ void aggiungiSomdif(CLI::App& app, Sessione& sessione);
 void aggiungiStatistica(CLI::App& app, Sessione& sessione);
 void aggiungiVerifica(CLI::App& app, Sessione& sessione);
 
+/// The text of an input file. UsoErrato when it can't be read.
+[[nodiscard]] std::string leggiTesto(const std::string& file);
+
 /// A whole number given as an argument. UsoErrato when it is none.
 [[nodiscard]] int numeroIntero(const std::string& testo, const std::string& nome);
 

@@ -37,6 +37,8 @@ bool Validatore::ammette() {
 CampoTestoVista::CampoTestoVista(CampoTesto& modello, Validatore& validatore, QWidget* padre)
     : QLineEdit(padre), modello_(modello), validatore_(validatore) {
   setReadOnly(modello.Locked);
+  setToolTip(QString::fromStdString(modello.esempio));
+  setPlaceholderText(toolTip());
   if (modello.Locked) setFocusPolicy(Qt::ClickFocus);  // Tab does not stop at fields that only display
   connect(this, &QLineEdit::textEdited, this, [this] { modello_.Text(displayText().toStdString()); });
 }

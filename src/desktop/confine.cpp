@@ -16,11 +16,11 @@ void Confine::esegui(const std::function<void()>& evento) const {
 void Confine::terminaProgramma(const RuntimeFailure& failure) {
   QMessageBox::critical(
       nullptr, QStringLiteral("Vaticlo"),
-      QStringLiteral("Errore di run-time %1: %2.\n\nIl programma termina; i file sono rimasti "
-                     "com'erano.")
+      QStringLiteral("Errore di run-time %1: %2.\n\nIl programma termina; archivio e metodi sono "
+                     "rimasti com'erano.")
           .arg(failure.numero())
           .arg(QString::fromUtf8(failure.what())));
-  // The failure has unwound the logic and closed its files. No window lives on to meet another event.
+  // No window lives on to meet another event, and nothing that is still open is written any more.
   std::_Exit(EXIT_FAILURE);
 }
 

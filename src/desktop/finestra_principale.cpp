@@ -1,10 +1,12 @@
 #include "desktop/finestra_principale.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
@@ -37,6 +39,22 @@ class Figlia : public QMdiSubWindow {
   std::shared_ptr<Finestra> finestra_;
 };
 
+/// A button of the toolbar whose drop-down part opens by the keyboard too.
+class BottoneBarra : public QToolButton {
+ public:
+  using QToolButton::QToolButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* tasto) override {
+    const bool apre =
+        tasto->key() == Qt::Key_F4 || tasto->key() == Qt::Key_Menu || tasto->key() == Qt::Key_Down;
+    if (apre && menu() != nullptr)
+      showMenu();
+    else
+      QToolButton::keyPressEvent(tasto);
+  }
+};
+
 }  // namespace
 
 FinestraPrincipale::FinestraPrincipale(frmPrincipale& principale, const Confine& confine)
@@ -52,6 +70,7 @@ FinestraPrincipale::FinestraPrincipale(frmPrincipale& principale, const Confine&
   creaMenu();
   creaBarra();
   connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* attivata) {
+    if (mostrando_) return;  // the logic says itself what it has opened or brought up
     if (const auto finestra = finestraDi(attivata)) confine_.esegui([&] { principale_.attivata(*finestra); });
   });
   new TastiAccesso(area_);
@@ -86,11 +105,10 @@ void FinestraPrincipale::creaBarra() {
   barra->setIconSize(QSize(kLatoImmagini, kLatoImmagini));
   for (const auto& pulsante : tavolaBarra()) {
     const auto toolTip = daUtf8(pulsante.toolTip);
-    auto* bottone = new QToolButton(barra);
+    auto* bottone = new BottoneBarra(barra);
     bottone->setObjectName(daUtf8(pulsante.chiave));
     bottone->setIcon(immagine(daUtf8(pulsante.immagine)));
     bottone->setToolTip(toolTip);
-    bottone->setStatusTip(toolTip);
     bottone->setAccessibleName(toolTip);
     bottone->setFocusPolicy(Qt::TabFocus);
     bottone->setAutoRaise(true);
@@ -129,6 +147,7 @@ void FinestraPrincipale::mostra(const std::shared_ptr<Finestra>& finestra) {
   figlia->resize(disegno.expandedTo(figlia->sizeHint()));
   figlia->move(pixel(misure.sinistra), pixel(misure.sopra));
   faiPosto(*figlia);
+  const QScopedValueRollback mostrando(mostrando_, true);
   figlia->show();
   contenuto->setFocus(Qt::OtherFocusReason);
 }
@@ -158,7 +177,11 @@ void FinestraPrincipale::faiPosto(QMdiSubWindow& figlia) {
 }
 
 void FinestraPrincipale::portaSu(Finestra& finestra) {
-  if (auto* sotto = figlia(finestra)) area_->setActiveSubWindow(sotto);
+  auto* sotto = figlia(finestra);
+  if (sotto == nullptr) return;
+  const QScopedValueRollback mostrando(mostrando_, true);
+  if (sotto->isMinimized()) sotto->showNormal();
+  area_->setActiveSubWindow(sotto);
 }
 
 void FinestraPrincipale::togli(Finestra& finestra) {

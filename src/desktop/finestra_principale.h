@@ -36,6 +36,7 @@ class FinestraPrincipale : public QMainWindow, private VistaPrincipale {
   frmPrincipale& principale_;
   const Confine& confine_;
   QMdiArea* area_;
+  bool mostrando_ = false;
 };
 
 }  // namespace vaticlo

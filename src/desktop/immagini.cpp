@@ -12,7 +12,7 @@ namespace {
 /// Draws the vector picture anew for each size it is asked for.
 class MotoreSvg : public QIconEngine {
  public:
-  explicit MotoreSvg(const QString& file) : file_(file), disegno_(std::make_shared<QSvgRenderer>(file)) {}
+  explicit MotoreSvg(const QString& file) : disegno_(std::make_shared<QSvgRenderer>(file)) {}
 
   void paint(QPainter* pittore, const QRect& area, QIcon::Mode modo, QIcon::State /*stato*/) override {
     pittore->save();
@@ -32,7 +32,6 @@ class MotoreSvg : public QIconEngine {
   [[nodiscard]] QIconEngine* clone() const override { return new MotoreSvg(*this); }
 
  private:
-  QString file_;
   std::shared_ptr<QSvgRenderer> disegno_;
 };
 

@@ -116,9 +116,13 @@ QComboBox* Legame::elenco(Elenco& modello, const QString& nome, Tipo tipo) {
   });
   connect(widget, &QComboBox::activated, this,
           [this, &modello](int indice) { confine_.esegui([&] { modello.scegli(indice); }); });
-  if (widget->isEditable())
+  if (widget->isEditable()) {
+    // A typed name is a text and nothing more: the toolkit neither completes it nor takes it for a choice.
+    widget->setCompleter(nullptr);
+    disconnect(widget->lineEdit(), &QLineEdit::editingFinished, widget, nullptr);
     connect(widget->lineEdit(), &QLineEdit::textEdited, this,
             [&modello](const QString& digitato) { modello.Text(digitato.toStdString()); });
+  }
   return widget;
 }
 

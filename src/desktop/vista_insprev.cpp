@@ -13,15 +13,12 @@ namespace vaticlo {
 
 namespace {
 
-/// A frame with one field in it; the hint shows as the tool tip and in the empty field.
-QGroupBox* cornice(Legame& legame, Riquadro& riquadro, const QString& nome, QWidget* dentro,
-                   const QString& esempio = {}) {
+/// A frame with one field in it.
+QGroupBox* cornice(Legame& legame, Riquadro& riquadro, const QString& nome, QWidget* dentro) {
   auto* gruppo = legame.riquadro(riquadro, nome);
   auto* riga = new QVBoxLayout(gruppo);
   riga->addWidget(dentro);
   dentro->setAccessibleName(gruppo->title());
-  dentro->setToolTip(esempio);
-  if (auto* campo = qobject_cast<QLineEdit*>(dentro)) campo->setPlaceholderText(esempio);
   return gruppo;
 }
 
@@ -51,14 +48,12 @@ QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
 QWidget* previsione(Legame& legame, frmInsPrev& frm) {
   auto* gruppo = legame.riquadro(frm.Frame3, QStringLiteral("Frame3"));
   auto* prima = new QHBoxLayout;
-  prima->addWidget(
-      cornice(legame, frm.Frame11, QStringLiteral("Frame11"),
-              legame.campo(frm.txtNum, QStringLiteral("txtNum")), QStringLiteral("Es. 899.11.22.33")),
-      3);
-  prima->addWidget(
-      cornice(legame, frm.Frame4, QStringLiteral("Frame4"),
-              legame.campo(frm.txtRuote, QStringLiteral("txtRuote")), QStringLiteral("Es.:Ba-Ca-Tutte")),
-      3);
+  prima->addWidget(cornice(legame, frm.Frame11, QStringLiteral("Frame11"),
+                           legame.campo(frm.txtNum, QStringLiteral("txtNum"))),
+                   3);
+  prima->addWidget(cornice(legame, frm.Frame4, QStringLiteral("Frame4"),
+                           legame.campo(frm.txtRuote, QStringLiteral("txtRuote"))),
+                   3);
   prima->addWidget(cornice(legame, frm.Frame5, QStringLiteral("Frame5"),
                            legame.elenco(frm.cmbColpi, QStringLiteral("cmbColpi"), Legame::Tipo::Chiuso)),
                    2);
@@ -66,14 +61,11 @@ QWidget* previsione(Legame& legame, frmInsPrev& frm) {
   auto* combinazioni = legame.riquadro(frm.Frame6, QStringLiteral("Frame6"));
   auto* colonna = new QVBoxLayout(combinazioni);
   colonna->addWidget(cornice(legame, frm.Frame7, QStringLiteral("Frame7"),
-                             legame.campo(frm.txtAmbate, QStringLiteral("txtAmbate")),
-                             QStringLiteral("Es.:21;36")));
+                             legame.campo(frm.txtAmbate, QStringLiteral("txtAmbate"))));
   colonna->addWidget(cornice(legame, frm.Frame8, QStringLiteral("Frame8"),
-                             legame.campo(frm.txtAmbi, QStringLiteral("txtAmbi")),
-                             QStringLiteral("Es.:15-50;25-12;66-10")));
+                             legame.campo(frm.txtAmbi, QStringLiteral("txtAmbi"))));
   colonna->addWidget(cornice(legame, frm.Frame9, QStringLiteral("Frame9"),
-                             legame.campo(frm.txtSup, QStringLiteral("txtSup")),
-                             QStringLiteral("Es.:15-50-66-71;25-12-10")));
+                             legame.campo(frm.txtSup, QStringLiteral("txtSup"))));
 
   auto* tutto = new QVBoxLayout(gruppo);
   tutto->addLayout(prima);

@@ -45,7 +45,9 @@ QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confi
 
   auto* nota = legame->etichetta(frm->lblPrev, QStringLiteral("lblPrev"));
   auto colori = nota->palette();
-  colori.setColor(QPalette::WindowText, QColor(0xC0, 0x28, 0x28));
+  const bool scuro =
+      colori.color(QPalette::Window).lightness() < colori.color(QPalette::WindowText).lightness();
+  colori.setColor(QPalette::WindowText, scuro ? QColor(0xFF, 0x8A, 0x80) : QColor(0xC0, 0x28, 0x28));
   nota->setPalette(colori);
   nota->setAlignment(Qt::AlignCenter);
   auto* area = legame->area(frm->RichTextBox1, QStringLiteral("RichTextBox1"));

@@ -10,8 +10,8 @@
 namespace vaticlo {
 
 /// The models of the controls of a dialog: what each one holds, without a toolkit. A model tells two
-/// listeners: the dialog's event procedure, inside the very statement that causes the event, and the view
-/// that draws it.
+/// listeners, inside the very statement that changes it: the view that draws it, then the dialog's event
+/// procedure.
 class Controllo {
  public:
   Controllo() = default;
@@ -73,6 +73,7 @@ class CampoTesto : public Controllo {
   Proprieta<std::string> Text{*this, ""};
   Proprieta<std::string> Mask{*this, ""};  ///< "##": two digits at most; empty: anything
   Proprieta<int> BackColor{*this, kSfondoNormale};
+  std::string esempio;        ///< what a right text looks like, shown as a hint
   bool Locked = false;        ///< it only displays
   bool InvioComeTab = false;  ///< Enter moves on to the next field
   /// The focus is about to leave: true keeps it in the field.

@@ -7,17 +7,19 @@
 
 namespace vaticlo {
 
+/// The draw that a scroll bar stands for: its value is one above the draw's number, and 1 and 2 both stand
+/// for draw 1.
+[[nodiscard]] inline int estrazioneDellaBarra(const BarraScorrimento& barra) {
+  return barra.Value() != 1 ? barra.Value() - 1 : 1;
+}
+
 /// The controls that show one draw, as the draw store reaches them: number, date, 55 fields, and the scroll
-/// bar that walks the draws. The bar's value stands one above the draw's number; its values 1 and 2 both show
-/// draw 1.
+/// bar that walks the draws.
 class ControlliEstrazione : public FinestraEstrazione {
  public:
   Etichetta lblnestr, lbldataestr;
   std::array<CampoTesto, kCampiEstrazione> txtestr;
   BarraScorrimento VScroll1;
-
-  /// The draw that the scroll bar stands for.
-  [[nodiscard]] int estrazioneDellaBarra() const { return VScroll1.Value() != 1 ? VScroll1.Value() - 1 : 1; }
 
   [[nodiscard]] std::string txtestr_Text(int f) const override;
   void txtestr_Mostra(int f, const std::string& testo) override;

@@ -28,8 +28,19 @@ void ElencoScansione::optSelMetodo_Click(int indice) {
 }
 
 void ElencoScansione::btnCerca_Click() {
-  if (inCorso_) return;  // an event that comes while a scan is under way changes nothing
+  if (inCorso_) {
+    daRifare_ = true;  // the selection has changed under a scan: another follows
+    return;
+  }
+  do {
+    daRifare_ = false;
+    cerca();
+  } while (daRifare_);
+}
+
+void ElencoScansione::cerca() {
   inCorso_ = true;
+  btnCancella.Enabled(false);
   prgbar.Visible(true);
   RichTextBox1.Visible(false);
   lblPrev.Visible(false);
@@ -41,6 +52,7 @@ void ElencoScansione::btnCerca_Click() {
     throw;
   }
   inCorso_ = false;
+  btnCancella.Enabled(true);
   prgbar.Visible(false);
   RichTextBox1.Text(testoRapporto(rapporto));
 }

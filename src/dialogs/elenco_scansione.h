@@ -40,7 +40,9 @@ class ElencoScansione : public Finestra, protected FinestraScansione {
   Programma& programma_;
 
  private:
-  bool inCorso_ = false;
+  void cerca();
+
+  bool inCorso_ = false, daRifare_ = false;
 };
 
 /// The predictions in play.

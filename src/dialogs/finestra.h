@@ -12,9 +12,9 @@ class Cornice {
   virtual ~Cornice() = default;
   /// Closes every other child window.
   virtual void chiudiAltre(Finestra& tranne) = 0;
-  /// Closes the window once its event is over.
+  /// Closes the window; the object outlives the event that is running in it.
   virtual void chiudi(Finestra& finestra) = 0;
-  /// Closes the window once its event is over and opens it anew.
+  /// Closes the window in the same way and opens it anew.
   virtual void riapri(Finestra& finestra) = 0;
   /// Opens the viewer of the two lists of a statistics run, or brings it up again.
   virtual void apriRisultati() = 0;

@@ -28,6 +28,11 @@ std::string voceDiElenco(const FileMetodo& metodo, int slot) {
 frmInsPrev::frmInsPrev(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
   for (auto& nome : metodiOfferti(programma.cartella)) cmbMetodo.AddItem(std::move(nome));
   for (auto& campo : estrazione.txtestr) campo.Locked = true;
+  txtNum.esempio = "Es. 899.11.22.33";
+  txtRuote.esempio = "Es.:Ba-Ca-Tutte";
+  txtAmbate.esempio = "Es.:21;36";
+  txtAmbi.esempio = "Es.:15-50;25-12;66-10";
+  txtSup.esempio = "Es.:15-50-66-71;25-12-10";
   estrazione.VScroll1.Change = [this] { VScroll1_Change(); };
   cmbMetodo.Click = [this] { cmbMetodo_Click(); };
   cmbPrevisione.Click = [this] { cmbPrevisione_Click(); };
@@ -52,7 +57,7 @@ void frmInsPrev::Form_Load() {
 }
 
 void frmInsPrev::VScroll1_Change() {
-  programma_.globals.EstrazioneCorrente = estrazione.estrazioneDellaBarra();
+  programma_.globals.EstrazioneCorrente = estrazioneDellaBarra(estrazione.VScroll1);
   visualizza(programma_.globals.EstrazioneCorrente);
 }
 

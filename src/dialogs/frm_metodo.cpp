@@ -9,7 +9,10 @@ namespace vaticlo {
 frmMetodo::frmMetodo(Programma& programma, Cornice& cornice)
     : Finestra(cornice), metodo(programma.cartella), programma_(programma) {
   Caption("Vaticla");
-  for (auto& campo : estrazione.txtestr) campo.Locked = true;
+  for (auto& campo : estrazione.txtestr) {
+    campo.Locked = true;
+    campo.BackColor(kGrigio);
+  }
   for (auto* campo : {&txtgiocabili, &txtvincenti, &txtingioco}) campo->Locked = true;
   for (int indice : {0, 1})
     metodo.optSelMetodo[static_cast<std::size_t>(indice)].Click = [this, indice] {
@@ -35,7 +38,7 @@ void frmMetodo::Form_Load() {
 
 void frmMetodo::VScroll1_Change() {
   auto& g = programma_.globals;
-  g.EstrazioneCorrente = estrazione.estrazioneDellaBarra();
+  g.EstrazioneCorrente = estrazioneDellaBarra(estrazione.VScroll1);
   visualizza(g.EstrazioneCorrente);
   g.EstrazioneBase = g.EstrazioneCorrente;
   for (auto& campo : estrazione.txtestr) campo.BackColor(kGrigio);
@@ -68,11 +71,7 @@ void frmMetodo::visualizza(int n) {
 
 void frmMetodo::verifica() {
   const auto& g = programma_.globals;
-  {
-    clsMetodo controllo(programma_, {metodo.scelta(), estrazione.lblnestr.Caption()});
-    controllo.ricerca(g.EstrazioneCorrente);
-    controllo.rilascia();
-  }
+  eseguiVerifica(programma_, {metodo.scelta(), estrazione.lblnestr.Caption()});
   txtvincenti.Text(std::to_string(g.ContaVincenti));
   txtgiocabili.Text(std::to_string(g.ContaGiocabili));
   txtingioco.Text(std::to_string(g.ContaInGioco));

@@ -31,7 +31,7 @@ void frmModifica::Form_Activate() {
 }
 
 void frmModifica::VScroll1_Change() {
-  programma_.globals.EstrazioneCorrente = estrazione.estrazioneDellaBarra();
+  programma_.globals.EstrazioneCorrente = estrazioneDellaBarra(estrazione.VScroll1);
   visualizza(programma_.globals.EstrazioneCorrente);
 }
 

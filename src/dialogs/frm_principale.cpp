@@ -57,8 +57,14 @@ void frmPrincipale::apri() {
 }
 
 void frmPrincipale::apriNuova(std::shared_ptr<Finestra> finestra) {
-  finestra->Form_Load();
+  // It counts as open while it loads: a load may be long work that yields to events.
   finestre_.push_back(finestra);
+  try {
+    finestra->Form_Load();
+  } catch (const RuntimeFailure&) {
+    std::erase(finestre_, finestra);
+    throw;
+  }
   if (vista_ != nullptr) vista_->mostra(finestra);
   attivata(*finestra);
 }
@@ -126,6 +132,7 @@ void frmPrincipale::comando(Comando comando) {
 
 void frmPrincipale::Toolbar1_ButtonClick(std::string_view chiave) {
   if (occupata()) return;
+  chiuse_.clear();
   oltreOgniFailure([&] {
     if (chiave == "Insert") apri<frmInserisci>();
     if (chiave == "Modify") apri<frmModifica>();
@@ -146,6 +153,7 @@ void frmPrincipale::Toolbar1_ButtonMenuClick(std::string_view chiave) {
   const auto cifra = chiave.substr(7);
   if (cifra.size() > 1 || (cifra.size() == 1 && (cifra[0] < '1' || cifra[0] > '9'))) return;
 
+  chiuse_.clear();
   oltreOgniFailure([&] { chiudiTutte(); });
   // The key counts from 0, the method from 1: "NumPrev2" is "Metodo 3".
   programma_.globals.MetodoScelto = static_cast<std::int16_t>(cifra.empty() ? 1 : cifra[0] - '0' + 1);
@@ -176,7 +184,7 @@ bool frmPrincipale::occupata() const {
 void frmPrincipale::chiudi(Finestra& finestra) {
   const auto posto =
       std::find_if(finestre_.begin(), finestre_.end(), [&](const auto& f) { return f.get() == &finestra; });
-  if (posto == finestre_.end()) return;
+  if (posto == finestre_.end() || finestra.occupata()) return;
   chiuse_.push_back(*posto);
   finestre_.erase(posto);
   if (attiva_ == &finestra) attiva_ = nullptr;

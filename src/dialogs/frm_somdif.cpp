@@ -39,7 +39,7 @@ void frmSomdif::Form_Load() {
 }
 
 void frmSomdif::VScroll1_Change() {
-  programma_.globals.EstrazioneSomdif = VScroll1.Value() != 1 ? VScroll1.Value() - 1 : 1;
+  programma_.globals.EstrazioneSomdif = estrazioneDellaBarra(VScroll1);
   tuttoGrigio();
   visualizza(programma_.globals.EstrazioneSomdif);
 }

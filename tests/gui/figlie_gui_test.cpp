@@ -30,10 +30,12 @@ class FiglieGuiTest : public QObject {
       QCOMPARE(&v.figlia(), prima);
       QCOMPARE(v.aperte().size(), 2);
     }
-    QCOMPARE(v.figlia().geometry(), QRect(233, 60, 409, 331));
-    QCOMPARE(v.testo("Label1"), QString("Vaticlo"));
+    v.figlia().close();
+    QCOMPARE(v.aperte(), QStringList("Somma/Distanza Estratti"));
     v.finestra.findChild<QToolButton*>("Info")->click();
     QCOMPARE(v.aperte(), QStringList("Informazione su"));
+    QCOMPARE(v.figlia().geometry(), QRect(233, 60, 409, 331));
+    QCOMPARE(v.testo("Label1"), QString("Vaticlo"));
   }
 
   void accessKeysOfTheActiveWindowComeBeforeTheMenu() {

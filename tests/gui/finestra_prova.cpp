@@ -44,10 +44,10 @@ void PrincipaleProva::scrivi(const QString& testo) {
 }
 
 void PrincipaleProva::clicca(const QString& nome) {
-  auto& widget = usa(nome);
-  const auto mezzo = widget.rect().center();
-  if (!widget.visibleRegion().contains(mezzo)) ferma("outside or covered: " + nome);
-  const auto punto = widget.mapTo(&finestra, mezzo);
+  const auto& widget = usa(nome);
+  const auto punto = widget.mapTo(&finestra, widget.rect().center());
+  if (finestra.childAt(punto) != &widget) ferma("outside or covered: " + nome);
+  QCursor::setPos(finestra.mapToGlobal(punto));  // the buttons look where the pointer is
   QTest::mousePress(finestra.windowHandle(), Qt::LeftButton, {}, punto);
   QCoreApplication::processEvents();  // a user holds the button down for a while
   QTest::mouseRelease(finestra.windowHandle(), Qt::LeftButton, {}, punto);
@@ -87,8 +87,6 @@ QString PrincipaleProva::fuoco() {
   const auto* widget = QApplication::focusWidget();
   return widget == nullptr ? QString() : widget->objectName();
 }
-
-QList<int> PrincipaleProva::failures() { return std::exchange(giunte, {}); }
 
 QStringList PrincipaleProva::detti() {
   QStringList testi;

@@ -36,7 +36,8 @@ struct PrincipaleProva {
   [[nodiscard]] QStringList aperte() const;  ///< the captions of the child windows
   [[nodiscard]] static QString fuoco();      ///< the name of the widget with the focus
   [[nodiscard]] QStringList detti();         ///< the messages since the last call, as "[title] text"
-  [[nodiscard]] QList<int> failures();       ///< those at the boundary since the last call, by number
+  /// Those at the boundary since the last call, by number.
+  [[nodiscard]] QList<int> failures() { return std::exchange(giunte, {}); }
   [[noreturn]] static void ferma(const QString& perche);
 
   ProgrammaProva p;

@@ -20,7 +20,6 @@ struct Inserisci : PrincipaleProva {
     premi(Qt::Key_Tab);
     return fuoco();
   }
-  [[nodiscard]] std::string archivio() const { return p.contenuto("archivion71.dat"); }
 };
 
 }  // namespace
@@ -31,7 +30,7 @@ class InserisciGuiTest : public QObject {
  private slots:
   void aDrawTypedWithKeysIsAppendedAndAFreshWindowFollows() {
     Inserisci v;
-    auto atteso = v.archivio();
+    auto atteso = v.p.contenuto("archivion71.dat");
     const auto cella = [&](int i, int j, int k, int valore) {
       atteso.at(static_cast<std::size_t>(i - 1 + 15000 * j + 180000 * (k - 1))) = static_cast<char>(valore);
     };
@@ -52,7 +51,7 @@ class InserisciGuiTest : public QObject {
     v.p.servizi.risposta = Risposta::Si;
     v.premi(Qt::Key_Space);
     QCOMPARE(v.detti(), QStringList(2, kSalvare));
-    QVERIFY(v.archivio() == atteso);
+    QVERIFY(v.p.contenuto("archivion71.dat") == atteso);
 
     QTRY_COMPARE(v.fuoco(), QString("txtestr_0"));
     QCOMPARE(v.aperte(), QStringList("Inserimento Estrazioni"));
@@ -104,7 +103,7 @@ class InserisciGuiTest : public QObject {
 
   void esciIsReachedWithoutValidationAndAFieldNeverLeftIsNotValidated() {
     Inserisci v;
-    const auto prima = v.archivio();
+    const auto prima = v.p.contenuto("archivion71.dat");
     for (const bool conTasti : {true, false}) {
       v.scrivi("91");
       conTasti ? v.premi(Qt::Key_E, Qt::AltModifier) : v.clicca("btnCancella");
@@ -115,7 +114,7 @@ class InserisciGuiTest : public QObject {
     v.premi(Qt::Key_S, Qt::AltModifier);
     QCOMPARE(v.detti(), QStringList(kSalvare));
     QCOMPARE(v.failures(), QList<int>{13});
-    QVERIFY(v.archivio() == prima);
+    QVERIFY(v.p.contenuto("archivion71.dat") == prima);
   }
 };
 

@@ -105,6 +105,7 @@ class VaticlaGuiTest : public QObject {
       v.usa("cmbMetodo").setFocus();
       v.premi(Qt::Key_A, Qt::ControlModifier);
       v.scrivi(nome);
+      v.premi(Qt::Key_Return);
       v.premi(Qt::Key_Tab);
       QCOMPARE(v.testo("cmbMetodo"), QString(nome));
       QCOMPARE(v.vista(), kPrimo);
