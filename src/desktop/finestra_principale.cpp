@@ -149,7 +149,8 @@ void FinestraPrincipale::mostra(const std::shared_ptr<Finestra>& finestra) {
   faiPosto(*figlia);
   const QScopedValueRollback mostrando(mostrando_, true);
   figlia->show();
-  contenuto->setFocus(Qt::OtherFocusReason);
+  auto* primo = contenuto->findChild<QWidget*>(contenuto->property(kPrimoFuoco).toString());
+  (primo != nullptr ? primo : contenuto)->setFocus(Qt::OtherFocusReason);
 }
 
 // A child that does not fit makes the main window grow, as far as the screen allows; then the child moves

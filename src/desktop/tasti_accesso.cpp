@@ -4,37 +4,40 @@
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QShortcut>
 
 #include "controls/xpcmdbutton.h"
 
 namespace vaticlo {
 
-TastiAccesso::TastiAccesso(QMdiArea* area) : QObject(area), area_(area) {
-  qApp->installEventFilter(this);
-  for (const auto& tasti : {QKeySequence(Qt::CTRL | Qt::Key_F4), QKeySequence(Qt::CTRL | Qt::Key_W)})
-    connect(new QShortcut(tasti, area->window()), &QShortcut::activated, area,
-            &QMdiArea::closeActiveSubWindow);
-}
+TastiAccesso::TastiAccesso(QMdiArea* area) : QObject(area), area_(area) { qApp->installEventFilter(this); }
 
 bool TastiAccesso::eventFilter(QObject* oggetto, QEvent* evento) {
   // The override is asked for first and keeps the key from the menu bar; the press itself follows.
-  if (evento->type() == QEvent::ShortcutOverride && premi(*static_cast<QKeyEvent*>(evento), false)) {
-    evento->accept();
-    return true;
-  }
-  if (evento->type() == QEvent::KeyPress && oggetto->isWidgetType() &&
-      premi(*static_cast<QKeyEvent*>(evento), true))
-    return true;
-  return QObject::eventFilter(oggetto, evento);
+  const bool chiesto = evento->type() == QEvent::ShortcutOverride;
+  const bool premuto = evento->type() == QEvent::KeyPress && oggetto->isWidgetType();
+  if (!chiesto && !premuto) return QObject::eventFilter(oggetto, evento);
+  const auto& tasto = *static_cast<QKeyEvent*>(evento);
+  if (!figliaInAttesa() || (!chiude(tasto, premuto) && !premi(tasto, premuto)))
+    return QObject::eventFilter(oggetto, evento);
+  evento->accept();
+  return true;
+}
+
+bool TastiAccesso::figliaInAttesa() const {
+  return QApplication::activePopupWidget() == nullptr && QApplication::activeModalWidget() == nullptr &&
+         area_->activeSubWindow() != nullptr && QApplication::activeWindow() == area_->window();
+}
+
+bool TastiAccesso::chiude(const QKeyEvent& tasto, bool davvero) const {
+  const bool chiusura =
+      tasto.modifiers() == Qt::ControlModifier && (tasto.key() == Qt::Key_F4 || tasto.key() == Qt::Key_W);
+  if (chiusura && davvero) area_->closeActiveSubWindow();
+  return chiusura;
 }
 
 bool TastiAccesso::premi(const QKeyEvent& tasto, bool davvero) const {
   if (tasto.modifiers() != Qt::AltModifier) return false;
-  if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr)
-    return false;
   const auto* figlia = area_->activeSubWindow();
-  if (figlia == nullptr || QApplication::activeWindow() != area_->window()) return false;
   const QKeySequence cercata(Qt::ALT | static_cast<Qt::Key>(tasto.key()));
   QList<xpcmdbutton*> pulsanti;
   bool disabilitato = false;

@@ -18,6 +18,10 @@ class TastiAccesso : public QObject {
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
+  /// A child window is active, and neither a box nor a menu stands before it.
+  [[nodiscard]] bool figliaInAttesa() const;
+  // Whether the key is theirs; with `davvero` they do what it asks for.
+  [[nodiscard]] bool chiude(const QKeyEvent& tasto, bool davvero) const;
   [[nodiscard]] bool premi(const QKeyEvent& tasto, bool davvero) const;
 
   QMdiArea* area_;

@@ -101,7 +101,7 @@ QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine) {
   tutto->addWidget(sopra);
   tutto->addLayout(centro, 1);
   tutto->addLayout(pulsanti);
-  widget->setFocusProxy(widget->findChild<QWidget*>(QStringLiteral("cmbMetodo")));
+  widget->setProperty(kPrimoFuoco, QStringLiteral("cmbMetodo"));
   return widget;
 }
 

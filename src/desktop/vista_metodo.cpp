@@ -72,7 +72,7 @@ QWidget* vista(const std::shared_ptr<frmMetodo>& frm, const Confine& confine) {
   tutto->setSpacing(18);
   tutto->addLayout(sinistra);
   tutto->addLayout(destra, 1);
-  widget->setFocusProxy(widget->findChild<QWidget*>(QStringLiteral("VScroll1")));
+  widget->setProperty(kPrimoFuoco, QStringLiteral("VScroll1"));
   return widget;
 }
 

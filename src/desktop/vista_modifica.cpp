@@ -35,7 +35,7 @@ QWidget* vista(const std::shared_ptr<frmModifica>& frm, const Confine& confine) 
   tutto->setSpacing(10);
   tutto->addLayout(testa);
   tutto->addLayout(centro);
-  widget->setFocusProxy(widget->findChild<QWidget*>(QStringLiteral("txtestr_0")));
+  widget->setProperty(kPrimoFuoco, QStringLiteral("txtestr_0"));
   return widget;
 }
 

@@ -83,7 +83,7 @@ QWidget* vista(const std::shared_ptr<frmSomdif>& frm, const Confine& confine) {
   tutto->addLayout(testa);
   tutto->addLayout(centro, 1);
   tutto->addLayout(sotto);
-  widget->setFocusProxy(barra);
+  widget->setProperty(kPrimoFuoco, QStringLiteral("VScroll1"));
   return widget;
 }
 

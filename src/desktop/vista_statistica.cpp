@@ -75,7 +75,7 @@ QWidget* vista(const std::shared_ptr<frmStatistica>& frm, const Confine& confine
   tutto->setSpacing(18);
   tutto->addLayout(sinistra, 1);
   tutto->addLayout(pulsanti);
-  widget->setFocusProxy(widget->findChild<QWidget*>(QStringLiteral("btnElabora")));
+  widget->setProperty(kPrimoFuoco, QStringLiteral("btnElabora"));
   return widget;
 }
 

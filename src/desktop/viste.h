@@ -21,6 +21,9 @@ class frmModifica;
 class frmSomdif;
 class frmStatistica;
 
+/// The property of a view that names the widget which has the focus when the window opens.
+inline constexpr const char* kPrimoFuoco = "primoFuoco";
+
 /// Makes the widgets of a dialog: a layout and its binding. The widget keeps the dialog alive as long as it
 /// lives.
 [[nodiscard]] QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine);
