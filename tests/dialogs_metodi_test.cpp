@@ -1,6 +1,6 @@
-#include <gmock/gmock.h>
-
 #include <utility>
+
+#include <gmock/gmock.h>
 
 #include "dialogs/elenco_scansione.h"
 #include "dialogs/gestione_metodi.h"

@@ -24,6 +24,9 @@ void Validatore::lasciato(CampoTestoVista* campo) {
 bool Validatore::ammette() {
   const QPointer<CampoTestoVista> campo = std::exchange(pendente_, nullptr);
   if (!campo || !campo->isVisible()) return true;
+  // The toolkit may have led the focus through the window's frame on its way to a button that needs none.
+  const auto* ora = QApplication::focusWidget();
+  if (ora != nullptr && ora->property(kSenzaValidazione).toBool()) return true;
   bool trattiene = false;
   confine_.esegui([&] { trattiene = campo->modello().Validate(); });
   if (!trattiene || !campo) return true;

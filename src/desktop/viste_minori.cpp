@@ -7,7 +7,6 @@
 #include <QVBoxLayout>
 
 #include "controls/xpcmdbutton.h"
-#include "desktop/immagini.h"
 #include "desktop/legame.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_aggiornamento.h"
@@ -26,13 +25,10 @@ QWidget* vista(const std::shared_ptr<frmInfo>& frm, const Confine& confine) {
   grande.setBold(true);
   titolo->setFont(grande);
 
-  auto* disegno = new QLabel(widget);
-  disegno->setPixmap(immagine(QStringLiteral("vaticlo")).pixmap(QSize(96, 96), widget->devicePixelRatioF()));
   auto* tutto = new QVBoxLayout(widget);
   tutto->setContentsMargins(24, 20, 24, 20);
   tutto->setSpacing(10);
   tutto->addStretch(1);
-  tutto->addWidget(disegno, 0, Qt::AlignCenter);
   tutto->addWidget(titolo, 0, Qt::AlignCenter);
   tutto->addWidget(legame->etichetta(frm->Label2, QStringLiteral("Label2")), 0, Qt::AlignCenter);
   tutto->addWidget(legame->etichetta(frm->Label3, QStringLiteral("Label3")), 0, Qt::AlignCenter);
@@ -82,6 +78,7 @@ QWidget* vista(const std::shared_ptr<frmAggiornamento>& frm, const Confine& conf
   auto* tutto = new QVBoxLayout(widget);
   tutto->setContentsMargins(14, 12, 14, 12);
   tutto->setSpacing(12);
+  widget->setProperty(kPrimoFuoco, QStringLiteral("btninizia"));
   auto* barra = legame->avanzamento(frm->ProgressBar1, QStringLiteral("ProgressBar1"));
   auto* pulsanti = new QHBoxLayout;
   pulsanti->addWidget(legame->pulsante(frm->btninizia, QStringLiteral("btninizia")));
