@@ -4,7 +4,8 @@ set -eu
 cd "$(dirname "$0")"
 . scripts/prepara.sh
 installa_pacchetti
-costruisci release
+cmake --preset release >/dev/null
+cmake --build --preset release --target vaticlo vaticlo-cli
 
 programma=$PWD/build/release/programma
 if [ ! -s "$programma/archivion71.dat" ]; then
