@@ -56,7 +56,7 @@ void frmPrincipale::apri() {
   }
 }
 
-void frmPrincipale::apriNuova(std::shared_ptr<Finestra> finestra) {
+void frmPrincipale::apriNuova(const std::shared_ptr<Finestra>& finestra) {
   // It counts as open while it loads: a load may be long work that yields to events.
   finestre_.push_back(finestra);
   try {
@@ -198,9 +198,9 @@ void frmPrincipale::riapri(Finestra& finestra) {
     if (dynamic_cast<frmInsPrev*>(&finestra) != nullptr) return nuova<frmInsPrev>();
     return nullptr;
   };
-  auto nuovaFinestra = rifai();
+  const auto nuovaFinestra = rifai();
   chiudi(finestra);
-  if (nuovaFinestra) apriNuova(std::move(nuovaFinestra));
+  if (nuovaFinestra) apriNuova(nuovaFinestra);
 }
 
 void frmPrincipale::apriRisultati() { apri<frmMigliore>(); }

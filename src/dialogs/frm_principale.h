@@ -63,7 +63,7 @@ class frmPrincipale : public Cornice {
   void apri();
   template <class F>
   [[nodiscard]] std::shared_ptr<Finestra> nuova();
-  void apriNuova(std::shared_ptr<Finestra> finestra);
+  void apriNuova(const std::shared_ptr<Finestra>& finestra);
   void chiudiTutte(const Finestra* tranne = nullptr);
   void creaMetodo();
 
