@@ -22,7 +22,6 @@ void eseguiFile(Sessione& sessione, std::istream& comandi) {
     if (esito != kFatto && esito != kRifiutato) break;
   }
   sessione.esito = esito;
-  sessione.servizi.dimentica();  // the status is that of the last command, whatever those before it said
 }
 
 }  // namespace
