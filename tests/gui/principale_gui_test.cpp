@@ -18,8 +18,9 @@ constexpr const char* kMenu =
     "-mnuGestione2 &Previsioni|--mnuGestione21 &Crea Previsione|--mnuGestione22 &Modifica Previsione|"
     "mnuUtility &Utility|-mnuUtility1 Previsioni in Gioco|-mnuUtility2 Vincenti alle Ultime Estrazioni|"
     "-mnuUtility3 Somma/Distanza Estratti|-mnuUtility4 Scarica Archivio di Riserva|"
-    "-mnuUtility5 Estrazioni del Lotto (pagina web)|-mnuUtility6 Regole del Lotto (pagina web)|"
-    "mnuInformazioni &?|-mnuInformazioni2 &Informazioni su....";
+    "-mnuUtility5 Importa Estrazioni da File...|"
+    "-mnuUtility6 Estrazioni del Lotto (pagina web)|-mnuUtility7 Regole del Lotto (pagina web)|"
+    "mnuInformazioni &?|-mnuInformazioni1 &Guida|-mnuInformazioni2 &Informazioni su....";
 const QList<int> kCifre = {2, 3, 6, 7, 8, 9};  // in the keys of the buttons that have a menu
 
 QStringList albero(const QList<QAction*>& voci, const QString& rientro = {}) {
