@@ -1,3 +1,4 @@
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
 #include <QRadioButton>
@@ -51,6 +52,11 @@ class ElenchiGuiTest : public QObject {
     v.usa<QComboBox>("cmbMetodo").setFocus();
     v.premi(Qt::Key_Down, {}, 2);
     QCOMPARE(v.testo("cmbMetodo") + ": " + v.elenco(), QString("Zeta: Zeta"));
+    v.p.scrivi("Metodi/Nuovo.dat", "");  // a method made while the window is open
+    v.premi(Qt::Key_F4);
+    for (const auto tasto : {Qt::Key_Up, Qt::Key_Return})
+      QTest::keyClick(v.usa<QComboBox>("cmbMetodo").view(), tasto);
+    QCOMPARE(v.testo("cmbMetodo") + ": " + v.elenco(), QString("Nuovo: Non ci sono previsioni in gioco"));
   }
 
   void theWinnersFollowTheArrowsFromOneToFive() {
