@@ -20,3 +20,7 @@ foreach(immagine ${immagini})
 endforeach()
 add_custom_target(guida ALL DEPENDS ${pagine})
 add_dependencies(vaticlo guida)
+
+install(FILES ${guida}/guida.html DESTINATION guida)
+list(TRANSFORM immagini PREPEND docs/)
+install(FILES ${immagini} DESTINATION guida/immagini)

@@ -16,9 +16,6 @@ install(TARGETS vaticlo vaticlo-cli DESTINATION .)
 install(FILES pacchetto/qt.conf pacchetto/vaticlo.desktop pacchetto/LEGGIMI.txt src/desktop/artwork/vaticlo.svg
   LICENSE CHANGELOG.md DESTINATION .)
 install(PROGRAMS pacchetto/installa-voce-menu.sh DESTINATION .)
-install(FILES ${guida}/guida.html DESTINATION guida)
-list(TRANSFORM immagini PREPEND ${guida}/ OUTPUT_VARIABLE pagine)
-install(FILES ${pagine} DESTINATION guida/immagini)
 
 set(plugins
   platforms/libqxcb.so
