@@ -272,6 +272,7 @@ xpgroupbox* Legame::riquadroDisegnato(Riquadro& modello, const QString& nome) {
 QPlainTextEdit* Legame::area(AreaTesto& modello, const QString& nome) {
   auto* widget = chiamato(new QPlainTextEdit(vista_), nome);
   widget->setReadOnly(true);
+  widget->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   widget->setTabChangesFocus(true);
   widget->setUndoRedoEnabled(false);
   segui(modello, [&modello, widget, mostrato = std::string()]() mutable {

@@ -92,7 +92,7 @@ class StatisticaGuiTest : public QObject {
     QTest::mouseClick(cifre, Qt::LeftButton, {}, QPoint(cifre->fontMetrics().horizontalAdvance("03/0"), 5));
     v.scrivi("5");
     QCOMPARE(v.testo("DTInizio"), QString("03/05/2000"));
-    inizio.setFocus();
+    inizio.setSelectedSection(QDateEdit::DaySection);
     v.scrivi("20032005");
     QCOMPARE(v.testo("txtestr_0"), QString("104"));
     QCOMPARE(inizio.maximumDate(), QDate(2026, 3, 14));
