@@ -60,15 +60,28 @@ TEST_F(Download, LeavesTheDestinationWhenAnythingGoesWrong) {
                                    {"/guasto", risposta("500 Internal Server Error", "guasto")},
                                    {"/uguale", "HTTP/1.1 304 Not Modified\r\nConnection: close\r\n\r\n"},
                                    {"/scelta", risposta("300 Multiple Choices", "quale?")},
+                                   {"/niente", "HTTP/1.1 204 No Content\r\nConnection: close\r\n\r\n"},
                                    {"/troppi", risposta("200 OK", troppi)},
                                    {"/troppi-pezzi", aPezzi + pezzo + pezzo + "0\r\n\r\n"},
                                    {"/segreto", rinvio(segreto)},
                                    {"/giro", rinvio("/giro")}});
   for (const char* percorso : {"/muto", "/mozzo", "/pezzi", "/manca", "/guasto", "/uguale", "/scelta",
-                               "/troppi", "/troppi-pezzi", "/segreto", "/giro", "/senza-risposta"})
+                               "/niente", "/troppi", "/troppi-pezzi", "/segreto", "/giro", "/senza-risposta"})
     EXPECT_FALSE(scarica(server.indirizzo(percorso)));
   for (const auto& indirizzo : {segreto, std::string("http://127.0.0.1:1/"), std::string("non un indirizzo")})
     EXPECT_FALSE(scarica(indirizzo));
+}
+
+TEST_F(Download, KeepsALinkAndWhoMayReadWhatItLeadsTo) {
+  const prova::ServerProva server(prova::ServerProva::Risposte{{"/breve", risposta("200 OK", "nuovo")}});
+  const auto radice = p.cartella().radice();
+  p.scrivi("Metodi/vero", kVecchio);
+  fs::permissions(radice / "Metodi/vero", fs::perms::owner_read | fs::perms::owner_write);
+  fs::create_symlink("Metodi/vero", radice / "archivio");
+  EXPECT_TRUE(scaricaInFile(server.indirizzo("/breve"), radice / "archivio"));
+  EXPECT_TRUE(fs::is_symlink(radice / "archivio"));
+  EXPECT_EQ(p.contenuto("Metodi/vero"), "nuovo");
+  EXPECT_EQ(fs::status(radice / "archivio").permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
 TEST_F(Download, LeavesNothingBesideADestinationThatRefuses) {

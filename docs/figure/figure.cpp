@@ -210,7 +210,7 @@ void Fotografo::tutte() {
   scegli("mnuInformazioni2");
   scatta("informazioni");
   scegli("mnuInformazioni1");
-  scatta("guida");
+  salva("guida", conTitolo(*finestra_.findChild<QWidget*>("guida")));
   conRiquadro("importa", {}, [&] { scegli("mnuUtility5"); });
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "console/sessione.h"
+#include "platform/failure.h"
 
 int main(int argc, char* argv[]) {
   // A limit on the size of files shows as a write that fails, not as the end of the process.
@@ -16,7 +17,8 @@ int main(int argc, char* argv[]) {
     if (std::cout) return esito;
     std::cerr << "Errore di run-time 61: lo standard output non accetta altro testo\n";
   } catch (const std::exception& eccezione) {
-    std::cerr << "Errore di run-time 51: errore interno: " << eccezione.what() << '\n';
+    const vaticlo::RuntimeFailure failure(vaticlo::Errore::ErroreInterno, eccezione.what());
+    std::cerr << "Errore di run-time " << failure.numero() << ": " << failure.what() << '\n';
   }
   return vaticlo::kErrore;
 }

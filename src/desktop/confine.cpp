@@ -10,6 +10,8 @@ void Confine::esegui(const std::function<void()>& evento) const {
     evento();
   } catch (const RuntimeFailure& failure) {
     fine_(failure);
+  } catch (const std::exception& eccezione) {
+    fine_(RuntimeFailure(Errore::ErroreInterno, eccezione.what()));
   }
 }
 

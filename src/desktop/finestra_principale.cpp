@@ -13,6 +13,7 @@
 #include <QToolButton>
 #include <array>
 
+#include "desktop/finestra_guida.h"
 #include "desktop/immagini.h"
 #include "desktop/tasti_accesso.h"
 #include "desktop/viste.h"
@@ -206,11 +207,18 @@ void FinestraPrincipale::abilitaComandi(bool abilitati) {
     fuoco_->setFocus(Qt::OtherFocusReason);
 }
 
+void FinestraPrincipale::mostraGuida(const std::filesystem::path& pagina) {
+  if (!guida_) guida_ = new FinestraGuida(pagina, this);
+  guida_->show();
+  guida_->raise();
+  guida_->activateWindow();
+}
+
 bool FinestraPrincipale::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() == QEvent::Close) {
     if (const auto finestra = finestraDi(oggetto)) {
       evento->ignore();
-      if (!finestra->occupata()) confine_.esegui([&] { principale_.chiudi(*finestra); });
+      confine_.esegui([&] { principale_.chiudi(*finestra); });
       return true;
     }
   }
@@ -218,10 +226,8 @@ bool FinestraPrincipale::eventFilter(QObject* oggetto, QEvent* evento) {
 }
 
 void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
-  if (principale_.occupata()) {
-    // The work is asked to end, and the window closes behind it.
+  if (!principale_.Form_QueryUnload()) {
     evento->ignore();
-    principale_.interrompi();
     QTimer::singleShot(0, this, &QWidget::close);
     return;
   }

@@ -28,6 +28,7 @@ class FinestraPrincipale : public QMainWindow, private VistaPrincipale {
   void togli(Finestra& finestra) override;
   void chiudiPrincipale() override { close(); }
   void abilitaComandi(bool abilitati) override;
+  void mostraGuida(const std::filesystem::path& pagina) override;
 
   void creaMenu();
   void creaBarra();
@@ -39,7 +40,7 @@ class FinestraPrincipale : public QMainWindow, private VistaPrincipale {
   const Confine& confine_;
   QMdiArea* area_;
   bool mostrando_ = false;
-  QPointer<QWidget> fuoco_;
+  QPointer<QWidget> fuoco_, guida_;
 };
 
 }  // namespace vaticlo

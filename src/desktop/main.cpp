@@ -13,6 +13,7 @@
 
 int main(int argc, char* argv[]) {
   using namespace vaticlo;
+  // A limit on the size of files shows as a write that fails, not as the end of the process.
   std::signal(SIGXFSZ, SIG_IGN);
   QApplication applicazione(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Vaticlo"));

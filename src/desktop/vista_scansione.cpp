@@ -22,6 +22,7 @@ QWidget* ultimeEstrazioni(Legame& legame, const std::shared_ptr<frmVinc>& frm, c
   frecce->setObjectName(QStringLiteral("UpDown1"));
   frecce->setAccessibleName(gruppo->title());
   frecce->setRange(frmVinc::kMinimoUltime, frmVinc::kMassimoUltime);
+  frecce->setValue(QString::fromStdString(frm->txtColpi.Text()).toInt());
   frecce->findChild<QLineEdit*>()->setReadOnly(true);
   frecce->findChild<QLineEdit*>()->setObjectName(QStringLiteral("txtColpi"));
   QObject::connect(frecce, &QSpinBox::valueChanged, &legame,

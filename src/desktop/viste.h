@@ -11,7 +11,6 @@ namespace vaticlo {
 
 class ElencoScansione;
 class frmAggiornamento;
-class frmGuida;
 class frmInfo;
 class frmInserisci;
 class frmInsPrev;
@@ -31,7 +30,6 @@ inline constexpr const char* kPrimoFuoco = "primoFuoco";
 
 [[nodiscard]] QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmAggiornamento>& frm, const Confine& confine);
-[[nodiscard]] QWidget* vista(const std::shared_ptr<frmGuida>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInfo>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInserisci>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine);

@@ -73,6 +73,11 @@ class CampoTesto : public Controllo {
   Proprieta<std::string> Text{*this, ""};
   Proprieta<std::string> Mask{*this, ""};  ///< "##": two digits at most; empty: anything
   Proprieta<int> BackColor{*this, kSfondoNormale};
+  /// Takes the mask away and shows the text.
+  void mostra(std::string testo) {
+    Mask("");
+    Text(std::move(testo));
+  }
   std::string esempio;        ///< what a right text looks like, shown as a hint
   bool Locked = false;        ///< it only displays
   bool InvioComeTab = false;  ///< Enter moves on to the next field

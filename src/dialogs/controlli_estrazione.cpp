@@ -9,9 +9,7 @@ std::string ControlliEstrazione::txtestr_Text(int f) const {
 }
 
 void ControlliEstrazione::txtestr_Mostra(int f, const std::string& testo) {
-  auto& campo = txtestr.at(static_cast<std::size_t>(f));
-  campo.Mask("");
-  campo.Text(testo);
+  txtestr.at(static_cast<std::size_t>(f)).mostra(testo);
 }
 
 }  // namespace vaticlo

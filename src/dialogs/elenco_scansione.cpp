@@ -6,6 +6,23 @@
 
 namespace vaticlo {
 
+namespace {
+
+/// A value that holds as long as the object lives.
+class Provvisorio {
+ public:
+  Provvisorio(bool& posto, bool valore) : posto_(posto), prima_(std::exchange(posto, valore)) {}
+  Provvisorio(const Provvisorio&) = delete;
+  Provvisorio& operator=(const Provvisorio&) = delete;
+  ~Provvisorio() { posto_ = prima_; }
+
+ private:
+  bool& posto_;
+  bool prima_;
+};
+
+}  // namespace
+
 ElencoScansione::ElencoScansione(Programma& programma, Cornice& cornice)
     : Finestra(cornice), metodo(programma.cartella), programma_(programma) {
   for (int indice : {0, 1})
@@ -28,11 +45,16 @@ void ElencoScansione::evento(const std::function<void()>& passi) {
     inAttesa_.push_back(passi);
     return;
   }
-  const bool daSolo = !std::exchange(inEvento_, true);
-  passi();
-  if (!daSolo) return;
-  for (; !inAttesa_.empty(); inAttesa_.pop_front()) inAttesa_.front()();
-  inEvento_ = false;
+  {
+    const Provvisorio dentro(inEvento_, true);
+    passi();
+  }
+  if (inEvento_) return;  // caused by another event, which goes on first
+  while (!inAttesa_.empty()) {
+    const auto primo = std::move(inAttesa_.front());
+    inAttesa_.pop_front();
+    evento(primo);
+  }
 }
 
 void ElencoScansione::optSelMetodo_Click(int indice) {
@@ -52,21 +74,20 @@ void ElencoScansione::cerca() {
   prgbar.Visible(true);
   RichTextBox1.Visible(false);
   lblPrev.Visible(false);
-  inCorso_ = true;
   std::filesystem::path rapporto;
-  try {
+  {
+    const Provvisorio inCorso(inCorso_, true);
     rapporto = scansione();
-  } catch (...) {
-    inCorso_ = false;
-    throw;
   }
-  inCorso_ = false;
   prgbar.Visible(false);
   RichTextBox1.Text(testoRapporto(rapporto));
 }
 
 void ElencoScansione::btnCancella_Click() {
-  evento([this] { cornice().chiudi(*this); });
+  evento([this] {
+    inAttesa_.clear();
+    cornice().chiudi(*this);
+  });
 }
 
 void ElencoScansione::mostraRapporto(bool qualcosa) {

@@ -7,6 +7,7 @@ namespace vaticlo {
 
 frmMetodi::frmMetodi(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
   Caption("Modifica Metodo");
+  cmbMetodo.DropDown = [this] { cmbMetodo.riempi(esistenti()); };
   cmbMetodo.Click = [this] { cmbMetodo_Click(); };
   btnRinomina.Click = [this] { btnRinomina_Click(); };
   btnElimina.Click = [this] { btnElimina_Click(); };
@@ -16,7 +17,7 @@ frmMetodi::frmMetodi(Programma& programma, Cornice& cornice) : Finestra(cornice)
 void frmMetodi::Form_Load() {
   cornice().chiudiAltre(*this);
   prendiMisure({3300, 5400, 900, 3500});
-  riempi();
+  cmbMetodo.DropDown();
 }
 
 void frmMetodi::cmbMetodo_Click() { txtNome.Text(cmbMetodo.Text()); }
@@ -46,14 +47,15 @@ bool frmMetodi::conferma(const std::string& domanda) {
 
 void frmMetodi::fatto(const std::string& testo) {
   programma_.servizi.mostra({testo});
-  riempi();
+  cmbMetodo.Text("");
+  cmbMetodo.riempi(esistenti());
+  txtNome.Text("");
 }
 
-void frmMetodi::riempi() {
-  cmbMetodo.Clear();
-  txtNome.Text("");
-  for (auto& nome : metodiOfferti(programma_.cartella))
-    if (programma_.cartella.esisteMetodo(nome)) cmbMetodo.AddItem(std::move(nome));
+std::vector<std::string> frmMetodi::esistenti() const {
+  auto nomi = metodiOfferti(programma_.cartella);
+  std::erase_if(nomi, [this](const auto& nome) { return !programma_.cartella.esisteMetodo(nome); });
+  return nomi;
 }
 
 }  // namespace vaticlo

@@ -27,7 +27,7 @@ class frmMetodi : public Finestra {
  private:
   [[nodiscard]] bool conferma(const std::string& domanda);
   void fatto(const std::string& testo);
-  void riempi();
+  [[nodiscard]] std::vector<std::string> esistenti() const;
 
   Programma& programma_;
 };

@@ -7,7 +7,6 @@
 #include "dialogs/aggiornamento.h"
 #include "dialogs/elenco_scansione.h"
 #include "dialogs/frm_aggiornamento.h"
-#include "dialogs/frm_guida.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_insprev.h"
@@ -189,8 +188,10 @@ bool frmPrincipale::occupata() const {
   return std::any_of(finestre_.begin(), finestre_.end(), [](const auto& f) { return f->occupata(); });
 }
 
-void frmPrincipale::interrompi() {
+bool frmPrincipale::Form_QueryUnload() {
+  if (!occupata()) return true;
   for (const auto& finestra : finestre_) finestra->interrompi();
+  return false;
 }
 
 void frmPrincipale::lavoro(bool inCorso) {
@@ -234,10 +235,13 @@ void frmPrincipale::creaMetodo() {
 }
 
 void frmPrincipale::apriGuida() {
-  if (std::filesystem::exists(programma_.cartella.guida()))
-    apri<frmGuida>();
-  else
-    programma_.servizi.mostra({"La guida non è nella cartella del programma (guida/guida.html)!"});
+  const auto pagina = programma_.cartella.guida();
+  std::error_code codice;
+  if (std::filesystem::is_regular_file(pagina, codice)) {
+    if (vista_ != nullptr) vista_->mostraGuida(pagina);
+    return;
+  }
+  programma_.servizi.mostra({"La guida non è nella cartella del programma (guida/guida.html)!"});
 }
 
 }  // namespace vaticlo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,8 @@ class VistaPrincipale {
   virtual void togli(Finestra& finestra) = 0;
   virtual void chiudiPrincipale() = 0;
   virtual void abilitaComandi(bool abilitati) = 0;
+  /// Shows the user's guide in a window of its own: it is no child and disturbs none.
+  virtual void mostraGuida(const std::filesystem::path& pagina) = 0;
 };
 
 /// The main window: the commands of its menu and its toolbar, the child windows that are open, and which of
@@ -41,12 +44,13 @@ class frmPrincipale : public Cornice {
 
   /// The window became the active one.
   void attivata(Finestra& finestra);
+  /// Whether the main window may close now. When long work is under way that is asked to end, and it may be
+  /// asked again.
+  [[nodiscard]] bool Form_QueryUnload();
   /// The main window closes: the report of the last check is deleted. Failure 75 when it can't be.
   void Form_Unload();
   /// Long work is under way: only its own stop is listened to.
   [[nodiscard]] bool occupata() const;
-  /// Asks the work under way to end soon.
-  void interrompi();
 
   void chiudiAltre(Finestra& tranne) override { chiudiTutte(&tranne); }
   void chiudi(Finestra& finestra) override;

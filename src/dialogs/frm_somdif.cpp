@@ -5,15 +5,6 @@
 
 namespace vaticlo {
 
-namespace {
-
-void mostraInCampo(CampoTesto& campo, const std::string& testo) {
-  campo.Mask("");
-  campo.Text(testo);
-}
-
-}  // namespace
-
 frmSomdif::frmSomdif(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
   Caption("Somma/Distanza Estratti");
   optdistciclo.Value(true);
@@ -75,7 +66,7 @@ std::optional<TipoSomDif> frmSomdif::VistaSomDif::opzione() const {
 }
 
 void frmSomdif::VistaSomDif::txtestr_Mostra(int colonna, int i, const std::string& testo) {
-  mostraInCampo(frm_.colonne.at(static_cast<std::size_t>(colonna)).at(static_cast<std::size_t>(i)), testo);
+  frm_.colonne.at(static_cast<std::size_t>(colonna)).at(static_cast<std::size_t>(i)).mostra(testo);
 }
 
 void frmSomdif::VistaSomDif::txtestr_Giallo(int colonna, int i) {
@@ -89,8 +80,6 @@ CampoTesto& frmSomdif::VistaRicerca::campo(int f) const {
 
 std::string frmSomdif::VistaRicerca::txtestr_Text(int f) const { return campo(f).Text(); }
 
-void frmSomdif::VistaRicerca::txtestr_Mostra(int f, const std::string& testo) {
-  mostraInCampo(campo(f), testo);
-}
+void frmSomdif::VistaRicerca::txtestr_Mostra(int f, const std::string& testo) { campo(f).mostra(testo); }
 
 }  // namespace vaticlo

@@ -12,11 +12,6 @@ namespace {
 constexpr const char* kInizioOfferto = "6877";
 constexpr Data kDataInizioOfferta{std::chrono::year{2000}, std::chrono::January, std::chrono::day{3}};
 
-void mostraNumero(CampoTesto& campo, int numero) {
-  campo.Mask("");
-  campo.Text(std::to_string(numero));
-}
-
 // The date pickers know the whole year, so their century differs from that of a search: 18, 19 or 20.
 int secoloDelSelettore(int anno) { return anno < 1900 ? 18 : anno < 2000 ? 19 : 20; }
 
@@ -52,9 +47,8 @@ void frmStatistica::Form_Load() {
   g.EstrazioneCorrente = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
   g.UltimaEstrazione = g.EstrazioneCorrente - 1;
   g.UltimaEstrazione16 = static_cast<std::int16_t>(g.UltimaEstrazione);
-  txtestr[0].Mask("");
-  txtestr[0].Text(kInizioOfferto);
-  mostraNumero(txtestr[1], g.UltimaEstrazione);
+  txtestr[0].mostra(kInizioOfferto);
+  txtestr[1].mostra(std::to_string(g.UltimaEstrazione));
   btnStop.Enabled(false);
   const auto oggi = programma_.servizi.oggi();
   DTInizio.MaxDate(oggi);
@@ -124,8 +118,9 @@ bool frmStatistica::rifiutaIntervallo() {
     return true;
   }
   // The repairs come behind the comparison and no new one follows: meant.
-  if (a == 0) mostraNumero(txtestr[0], 1);
-  if (b > programma_.globals.UltimaEstrazione) mostraNumero(txtestr[1], programma_.globals.UltimaEstrazione);
+  if (a == 0) txtestr[0].mostra("1");
+  const int ultima = programma_.globals.UltimaEstrazione;
+  if (b > ultima) txtestr[1].mostra(std::to_string(ultima));
   return false;
 }
 

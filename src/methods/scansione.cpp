@@ -35,8 +35,7 @@ void ScansionePrevisioni::scorriMetodi(const std::filesystem::path& percorso) {
   g_.ContaGiocabili = 0;
 
   int fatti = 0;
-  const auto elenco = g_.ElencoMetodi;  // an event of the user may start another run meanwhile
-  for (const auto& nome : elenco) {
+  for (const auto& nome : g_.ElencoMetodi) {
     const auto metodo = LeggiMetodo(programma_.cartella, nome);
     const int previsioni = ContaPrevisioni(metodo);
     for (int slot = 1; slot <= previsioni; ++slot) {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 
 #include "platform/failure.h"
@@ -64,8 +64,9 @@ double arrotonda(double valore, int decimali) {
 
 std::string testoDiNumero(double valore) {
   std::array<char, 32> cifre{};
-  const int lunghezza = std::snprintf(cifre.data(), cifre.size(), "%.15g", valore);
-  std::string testo(cifre.data(), static_cast<std::size_t>(lunghezza));
+  const auto fine =
+      std::to_chars(cifre.data(), cifre.data() + cifre.size(), valore, std::chars_format::general, 15).ptr;
+  std::string testo(cifre.data(), fine);
   std::replace(testo.begin(), testo.end(), '.', ',');
   return testo;
 }

@@ -19,9 +19,10 @@ Descrittore::~Descrittore() {
 
 RuntimeFailure failureDiSistema(int codice, const std::filesystem::path& percorso) {
   const auto nome = percorso.filename().string();
+  std::error_code ignorato;
   switch (codice) {
     case ENOENT:
-      return {percorso.has_parent_path() && !std::filesystem::exists(percorso.parent_path())
+      return {percorso.has_parent_path() && !std::filesystem::exists(percorso.parent_path(), ignorato)
                   ? Errore::PercorsoNonTrovato
                   : Errore::FileNonTrovato,
               nome};

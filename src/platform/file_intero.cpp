@@ -13,6 +13,9 @@ namespace vaticlo {
 
 namespace {
 
+constexpr std::size_t kMassimoSenzaFine = std::size_t{64}
+                                          << 20;  // of a device or a pipe, which may have no end
+
 // Only a plain file can be a grid: a pipe or a terminal would keep the reader waiting.
 Descrittore apriGriglia(const std::filesystem::path& percorso) {
   Descrittore file(percorso, O_RDWR | O_CREAT);
@@ -56,6 +59,9 @@ std::string contenutoFile(const std::filesystem::path& percorso) {
   const Descrittore file(percorso, O_RDONLY);
   struct stat stato {};
   if (::fstat(file.fd(), &stato) != 0) throw failureDiSistema(errno, percorso);
+  const bool fileVero = S_ISREG(stato.st_mode);
+  if (!fileVero)
+    static_cast<void>(::fcntl(file.fd(), F_SETFL, 0));  // what comes through a pipe is waited for
   std::string contenuto;
   std::size_t pieni = 0;
   for (;;) {
@@ -66,6 +72,8 @@ std::string contenutoFile(const std::filesystem::path& percorso) {
     if (letti < 0) throw RuntimeFailure(Errore::DispositivoIO, percorso.filename().string());
     if (letti == 0) break;
     pieni += static_cast<std::size_t>(letti);
+    if (!fileVero && pieni > kMassimoSenzaFine)
+      throw RuntimeFailure(Errore::DispositivoIO, percorso.filename().string());
   }
   contenuto.resize(pieni);
   return contenuto;

@@ -16,7 +16,8 @@ void leggiFile(const std::filesystem::path& percorso, std::span<std::uint8_t> da
 /// room is taken before the first byte is written, so a full disk (failure 61) leaves the file as it was.
 void scriviFile(const std::filesystem::path& percorso, std::span<const std::uint8_t> dati);
 
-/// The whole content of a file that must exist: failure 53 when it does not.
+/// The whole content of a file that must exist: failure 53 when it does not. A pipe or a device is read to
+/// its end too; failure 57 when that lies beyond 64 MiB.
 [[nodiscard]] std::string contenutoFile(const std::filesystem::path& percorso);
 
 }  // namespace vaticlo

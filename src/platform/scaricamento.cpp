@@ -1,12 +1,14 @@
 #include "platform/scaricamento.h"
 
 #include <memory>
+#include <new>
 #include <optional>
 #include <system_error>
 
 #include <curl/curl.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/descrittore.h"
@@ -55,7 +57,11 @@ struct Raccolta {
 std::size_t raccogli(const char* dati, std::size_t uno, std::size_t quanti, void* destinazione) {
   auto& raccolta = *static_cast<Raccolta*>(destinazione);
   if (uno * quanti > raccolta.limite - raccolta.testo.size()) return CURL_WRITEFUNC_ERROR;
-  raccolta.testo.append(dati, uno * quanti);
+  try {
+    raccolta.testo.append(dati, uno * quanti);
+  } catch (const std::bad_alloc&) {
+    return CURL_WRITEFUNC_ERROR;  // nothing is thrown through a library of C
+  }
   return uno * quanti;
 }
 
@@ -87,17 +93,29 @@ std::optional<std::string> scarica(const std::string& indirizzo, const LimitiSca
   if (!accettate || curl.perform(richiesta.get()) != CURLE_OK) return std::nullopt;
   long stato = 0;
   curl.getinfo(richiesta.get(), CURLINFO_RESPONSE_CODE, &stato);
-  if (stato < 200 || stato > 299) return std::nullopt;
+  if (stato < 200 || stato > 203)
+    return std::nullopt;  // the 2xx behind these carry no file, or a part of one
   return std::move(raccolta.testo);
 }
 
-// Beside the destination first, then in its place in one step: whatever fails, the old file stays whole.
+// The file behind a link, so that the link stays one.
+std::filesystem::path vero(const std::filesystem::path& percorso) {
+  std::error_code codice;
+  const auto trovato = std::filesystem::canonical(percorso, codice);
+  return codice ? percorso : trovato;
+}
+
+// Beside the destination first, then in its place in one step: whatever fails, the old file stays whole. The
+// new one is for the same people to read and to write.
 bool sostituisci(const std::filesystem::path& destinazione, const std::string& contenuto) {
   auto accanto = destinazione;
   accanto += ".nuovo";
   std::error_code codice;
   try {
     const Descrittore file(accanto, O_WRONLY | O_CREAT | O_TRUNC);
+    struct stat prima {};
+    if (::stat(destinazione.c_str(), &prima) == 0)
+      static_cast<void>(::fchmod(file.fd(), prima.st_mode & 0777));
     file.scrivi(contenuto, accanto);
     if (::fsync(file.fd()) == 0) {
       std::filesystem::rename(accanto, destinazione, codice);
@@ -115,7 +133,7 @@ bool sostituisci(const std::filesystem::path& destinazione, const std::string& c
 bool scaricaInFile(const std::string& indirizzo, const std::filesystem::path& destinazione,
                    const LimitiScaricamento& limiti) {
   const auto contenuto = scarica(indirizzo, limiti);
-  return contenuto && sostituisci(destinazione, *contenuto);
+  return contenuto && sostituisci(vero(destinazione), *contenuto);
 }
 
 }  // namespace vaticlo

@@ -12,13 +12,13 @@ struct LimitiScaricamento {
   std::size_t ottetti = std::size_t{64} << 20;  ///< no archive is anywhere near it
   std::chrono::seconds collegamento{20};        ///< until the server is reached
   std::chrono::seconds silenzio{30};            ///< with next to nothing arriving
-  std::chrono::seconds tutto{std::chrono::minutes{15}};
+  std::chrono::seconds tutto{std::chrono::minutes{5}};
 };
 
 /// Fetches `indirizzo` (http or https, a few redirections followed) into memory and then writes
-/// `destinazione` whole, in one step. False when the server can't be reached, its last status is not 2xx,
-/// less arrives than it announced, a limit is passed, or the file can't be written; the destination is then
-/// as it was.
+/// `destinazione` whole, in one step. False when the server can't be reached, its last status is none of the
+/// 2xx that carry a whole file, less arrives than it announced, a limit is passed, or the file can't be
+/// written; the destination is then as it was.
 [[nodiscard]] bool scaricaInFile(const std::string& indirizzo, const std::filesystem::path& destinazione,
                                  const LimitiScaricamento& limiti = {});
 

@@ -1,0 +1,33 @@
+#include "desktop/finestra_guida.h"
+
+#include <QFile>
+#include <QKeyEvent>
+#include <QScreen>
+
+namespace vaticlo {
+
+namespace {
+
+constexpr QSize kMisura(990, 720);  // the widest picture, without a scroll bar below
+
+}  // namespace
+
+FinestraGuida::FinestraGuida(const std::filesystem::path& pagina, QWidget* padre) : QTextBrowser(padre) {
+  setObjectName(QStringLiteral("guida"));
+  setWindowFlag(Qt::Window);
+  setAttribute(Qt::WA_DeleteOnClose);
+  setWindowTitle(QStringLiteral("Guida"));
+  setFrameShape(QFrame::NoFrame);
+  setOpenExternalLinks(true);
+  setSource(QUrl::fromLocalFile(QFile::decodeName(pagina.c_str())));
+  resize(kMisura.boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+void FinestraGuida::keyPressEvent(QKeyEvent* tasto) {
+  if (tasto->key() == Qt::Key_Escape)
+    close();
+  else
+    QTextBrowser::keyPressEvent(tasto);
+}
+
+}  // namespace vaticlo
