@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_modifica.h"
 #include "dialogs/frm_somdif.h"
 #include "sostegno/cornice_prova.h"
@@ -90,10 +91,33 @@ TEST_F(Modifica, NothingIsSavedOrDeletedWithoutAYes) {
   EXPECT_EQ(p.globals().EstrazioneCorrente, 2);
 }
 
+TEST(Inserisci, ANumberIsTestedForItsRangeAndAsATextAgainstTheFieldsAtItsLeft) {
+  ProgrammaProva p;
+  CorniceProva cornice;
+  frmInserisci frm(p.programma, cornice);
+  frm.Form_Load();
+  EXPECT_EQ(cornice.chiesto, "altre ");
+  const std::string valore = "Inserire un valore valido compreso tra 1 e 90";
+  const auto gia = [](const std::string& testo) {
+    return "''" + testo + "'' è stato già inserito come estratto nella ruota";
+  };
+  // A field, what it holds then, and the message; the others keep what they have.
+  const std::tuple<std::size_t, const char*, std::string> casi[] = {
+      {0, "  ", valore},    {0, "0 ", valore},    {0, "91", valore},    {0, "90", ""},
+      {1, "5 ", ""},        {2, "90", gia("90")}, {2, "5 ", gia("5 ")}, {2, " 5", ""},
+      {4, "5 ", gia("5 ")}, {5, "90", ""},        {6, "1 ", ""},        {5, "1 ", ""}};
+  for (const auto& [f, testo, messaggio] : casi) {
+    p.servizi.messaggi.clear();
+    frm.txtestr[f].Text(testo);
+    EXPECT_EQ(frm.txtestr[f].Validate(), !messaggio.empty()) << f << ' ' << testo;
+    EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, messaggio);
+  }
+}
+
 class Somdif : public testing::Test {
  protected:
   Somdif() {
-    archivioDi(3, "2 Ba 1 90,2 Ca 10 11,2 Fi 1 8,3 Ba 4,3 Ca 7 6,3 Fi 9").data(3, 1, 4, 2005).scrivi(p);
+    archivioDi(3, "2 Ba 1 90,2 Ca 10 17,2 Fi 1 2,3 Ba 4,3 Ca 7 6,3 Fi 9").data(3, 1, 4, 2005).scrivi(p);
     frm.Form_Load();
   }
   /// The first three fields of the first column, "*" behind the yellow ones, and the number of the draw.
@@ -112,11 +136,11 @@ TEST_F(Somdif, EachChangeMarksItsOwnEqualValuesAlone) {
   EXPECT_EQ(cornice.chiesto, "") << "other windows stay open";
   EXPECT_EQ(colonna(), "4 1 9 n.3");
   frm.VScroll1.Value(3);
-  EXPECT_EQ(colonna(), "1* 1* 7 n.2");
-  frm.opzione_Click(TipoSomDif::Matematica);
-  EXPECT_EQ(colonna(), "89 1 7 n.2");
-  frm.opzione_Click(TipoSomDif::Somma);
-  EXPECT_EQ(colonna(), "1 21 9 n.2");
+  EXPECT_EQ(colonna(), "1* 7 1* n.2");
+  frm.optdistmat.Click();
+  EXPECT_EQ(colonna(), "89 7 1 n.2");
+  frm.optsommat.Click();
+  EXPECT_EQ(colonna(), "1 27 3 n.2");
   p.servizi.digitato = "3";
   frm.btnTrova_Click();
   EXPECT_EQ(colonna(), "4 13 9 n.3");

@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "methods/catalogo.h"
 #include "methods/decodifica.h"
@@ -108,13 +107,12 @@ TEST_F(Decoding, SplitsTheCombinationsAtTheirClosingCells) {
 }
 
 TEST_F(Decoding, FailsOnAListWithoutAnEnd) {
-  for (const auto lista : {&SlotProva::ruote, &SlotProva::ambate, &SlotProva::ambi, &SlotProva::sup}) {
-    SlotProva slot;
-    slot.*lista = Celle(179, 5);
-    EXPECT_EQ(failureDi([&] { return decodifica(slot); }), 0);
-    slot.*lista = Celle(180, 5);
-    EXPECT_EQ(failureDi([&] { return decodifica(slot); }), 9);
-  }
+  for (const auto lista : {&SlotProva::ruote, &SlotProva::ambate, &SlotProva::ambi, &SlotProva::sup})
+    for (const int celle : {179, 180}) {
+      SlotProva slot;
+      slot.*lista = Celle(static_cast<std::size_t>(celle), 5);
+      EXPECT_EQ(failureDi([&] { return decodifica(slot); }), celle == 180 ? 9 : 0);
+    }
   EXPECT_EQ(failureDi([&] { return decodifica({.telefono = Celle(178, 5)}); }), 9);
 }
 

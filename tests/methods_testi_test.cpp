@@ -59,16 +59,6 @@ TEST_F(FieldTexts, GoIntoTheirCellsAndComeBackInTheirPlainForm) {
   }
 }
 
-TEST_F(FieldTexts, OverwriteTheWholeTelephoneNumberButOnlyAsMuchOfAListAsTheyNeed) {
-  testi.numero = "899.11.22.33";
-  EXPECT_EQ(esito(&T::ambate, "1;2;3"), "");
-  testi.numero = "166.44";
-  EXPECT_EQ(esito(&T::ambate, "80"), "");
-  EXPECT_EQ(celle(kCampoAmbate), (Celle{80, 2, 3}));
-  EXPECT_EQ(leggiTesti(metodo, 1).numero, "166.44");
-  EXPECT_EQ(celle(kCampoEstrazione, 6), Celle{});
-}
-
 TEST_F(FieldTexts, AreRefusedOrFailWhenTheCellsCannotTakeThem) {
   const std::string ruote = "Errore nell'inserimento delle ruote!";
   const std::tuple<std::string T::*, std::string, std::string> casi[] = {
