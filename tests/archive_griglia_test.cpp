@@ -1,18 +1,12 @@
-#include <gtest/gtest.h>
-
 #include "archive/archivio.h"
 #include "archive/data.h"
-#include "sostegno/cartella_prova.h"
-#include "sostegno/failure_prova.h"
-#include "sostegno/previsione_prova.h"
+#include "sostegno/logica.h"
 
-namespace vaticlo {
+namespace vaticlo::prova {
 namespace {
 
-using prova::failureDi;
-
 TEST(ArchiveFile, HoldsEachCellAtItsPlaceAmongTheStripsOfAllDraws) {
-  const prova::ProgrammaProva p;
+  const ProgrammaProva p;
   for (const auto& [i, j, k, posto] :
        {std::array{1, 0, 1, 0}, {5, 0, 4, 540004}, {7, 11, 3, 525006}, {15000, 11, 5, 899999}}) {
     ArchivioEstrazioni archivio;
@@ -26,12 +20,12 @@ TEST(ArchiveFile, HoldsEachCellAtItsPlaceAmongTheStripsOfAllDraws) {
 }
 
 TEST(ArchiveGrid, EndsAtTheFirstDayOfZeroWhateverStandsBehindIt) {
-  const prova::ProgrammaProva p;
+  const ProgrammaProva p;
   EXPECT_EQ(ApriArchivio(p.cartella()).PrimoIndiceLibero(), 1);
   EXPECT_TRUE(p.esiste("archivion71.dat"));
   EXPECT_EQ(p.contenuto("archivion71.dat"), "");
 
-  prova::ArchivioProva archivio(14999);
+  ArchivioProva archivio(14999);
   EXPECT_EQ(archivio.griglia.PrimoIndiceLibero(), 15000);
   archivio.data(15000, 1, 1, 2020);
   EXPECT_EQ(failureDi([&] { return archivio.griglia.PrimoIndiceLibero(); }), 9);
@@ -40,7 +34,7 @@ TEST(ArchiveGrid, EndsAtTheFirstDayOfZeroWhateverStandsBehindIt) {
 }
 
 TEST(ArchiveGrid, GivesTheDateOfADrawWithoutLeadingZerosButInTheYear) {
-  prova::ArchivioProva a(0);
+  ArchivioProva a(0);
   a.data(1, 5, 3, 2000).data(2, 31, 12, 2010).data(3, 9, 9, 1909);
   const char* attese[] = {"5/3/2000", "31/12/2010", "9/9/1909", "0/0/000"};
   for (int i = 1; i <= 4; ++i) EXPECT_EQ(a.griglia.DataEstrazione(i), attese[i - 1]);
@@ -64,4 +58,4 @@ TEST(Dates, AreReadInTheFormsOfThisCountryAndOnlyForDaysThatExist) {
 }
 
 }  // namespace
-}  // namespace vaticlo
+}  // namespace vaticlo::prova

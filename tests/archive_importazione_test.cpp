@@ -1,12 +1,8 @@
-#include <gmock/gmock.h>
-
 #include "archive/importazione.h"
+#include "sostegno/logica.h"
 
-namespace vaticlo {
+namespace vaticlo::prova {
 namespace {
-
-using testing::Each;
-using testing::ElementsAre;
 
 /// The message of the error; empty for a text that is taken.
 std::string erroreDi(std::string_view testo) {
@@ -75,4 +71,4 @@ TEST(Import, TakesAsManyDrawsAsLeaveAFreeSlot) {
 }
 
 }  // namespace
-}  // namespace vaticlo
+}  // namespace vaticlo::prova

@@ -1,16 +1,9 @@
-#include <gmock/gmock.h>
-
 #include "archive/regole.h"
 #include "archive/somdif.h"
-#include "sostegno/failure_prova.h"
-#include "sostegno/previsione_prova.h"
+#include "sostegno/logica.h"
 
-namespace vaticlo {
+namespace vaticlo::prova {
 namespace {
-
-using prova::failureDi;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class HitRules : public testing::Test {
  protected:
@@ -27,7 +20,7 @@ class HitRules : public testing::Test {
   }
 
   // Draws of 12/3/2005; the wheels that nothing sets hold no number.
-  prova::ArchivioProva archivio{3};
+  ArchivioProva archivio{3};
   RegoleVincita regole{archivio.griglia};
 };
 
@@ -60,7 +53,7 @@ TEST(SumsAndDistances, OfTwoNumbersTurnAtTheEndOfTheirCircle) {
                                      {10, 56, 44, 46, 66}, {45, 45, 0, 0, 90}, {0, 60, 30, 60, 60},
                                      {0, 0, 0, 0, 0}};
   for (const auto& [a, b, ciclometrica, matematica, somma] : casi) {
-    prova::ArchivioProva archivio(4);
+    ArchivioProva archivio(4);
     archivio.ruota(4, 10, {1, a, 1, 1, b});
     const auto valore = [&](TipoSomDif tipo) { return CalcolaSomDif(archivio.griglia, 4, tipo)[6][9]; };
     EXPECT_EQ(valore(TipoSomDif::Ciclometrica), ciclometrica) << a << ' ' << b;
@@ -71,7 +64,7 @@ TEST(SumsAndDistances, OfTwoNumbersTurnAtTheEndOfTheirCircle) {
 
 TEST(SumsAndDistances, TakeThePairsOfPositionsInTheOrderOfTheColumns) {
   // Powers of two, so that each sum names its pair.
-  prova::ArchivioProva archivio(1);
+  ArchivioProva archivio(1);
   archivio.ruota(1, 1, {1, 2, 4, 8, 16}).ruota(1, 11, {90, 80, 70, 60, 50});
   const auto somme = CalcolaSomDif(archivio.griglia, 1, TipoSomDif::Somma);
   const int attese[] = {3, 5, 9, 17, 6, 10, 18, 12, 20, 24};
@@ -82,4 +75,4 @@ TEST(SumsAndDistances, TakeThePairsOfPositionsInTheOrderOfTheColumns) {
 }
 
 }  // namespace
-}  // namespace vaticlo
+}  // namespace vaticlo::prova

@@ -1,7 +1,6 @@
-#include <gmock/gmock.h>
-
 #include "check/clsmetodo.h"
-#include "sostegno/scenario.h"
+#include "check/numeri.h"
+#include "sostegno/logica.h"
 
 namespace vaticlo::prova {
 namespace {
@@ -57,7 +56,7 @@ TEST_F(Verifica, TheReportHasAnEntryForEachPredictionOfTheDraw) {
                  kFine));
   attende(3, 1, 1);
   EXPECT_THAT(verifica(5432, "5432", {false, "Metodo 2"}),
-              testing::StartsWith(rapportoDi(" Previsione n.°1| Metodo: Metodo 2")));
+              StartsWith(rapportoDi(" Previsione n.°1| Metodo: Metodo 2")));
   EXPECT_EQ(verifica(5431, "5431"), "") << "a draw without predictions";
   attende(0, 0, 0);
 }
@@ -90,7 +89,7 @@ TEST_F(Verifica, EveryColpoIsPlayedAndEachHitWritesItsLine) {
     SCOPED_TRACE(uscite + esito);
     archivio(ultima, uscite);
     scriviMetodoProva(p, "M", {slot});
-    EXPECT_THAT(verifica(101, "101"), testing::EndsWith(rapportoDi("| Esito:|" + esito + kFine)));
+    EXPECT_THAT(verifica(101, "101"), EndsWith(rapportoDi("| Esito:|" + esito + kFine)));
     attende(1, esito.find(" al ") != std::string::npos, esito == " In gioco");
   }
 }
@@ -120,7 +119,61 @@ TEST_F(Verifica, ThePairOfAnAmboLivesOnFromMethodToMethod) {
   archivio(105);
   scriviMetodoProva(p, "A", {gioca({1}, {}, {12, 34, 99})});
   scriviMetodoProva(p, "B", {gioca({0}, {}, {7, 99})});
-  EXPECT_THAT(verifica(101, "101"), testing::HasSubstr(" Metodo: B\r\n Ruote: \r\n Ambi Secchi: 7-34\r\n"));
+  EXPECT_THAT(verifica(101, "101"), HasSubstr(" Metodo: B\r\n Ruote: \r\n Ambi Secchi: 7-34\r\n"));
+}
+
+TEST(Numeri, EachRelationIsTheOneThatPlayersKnow) {
+  struct Caso {
+    int (*relazione)(int);
+    std::vector<std::pair<int, int>> valori;
+  };
+  const Caso casi[] = {
+      {vert, {{12, 21}, {11, 19}, {19, 11}, {9, 90}, {90, 9}, {5, 50}, {50, 5}, {88, 89}, {89, 88}}},
+      {Diametrale, {{1, 46}, {45, 90}, {46, 1}, {90, 45}}},
+      {Somma30, {{1, 31}, {60, 90}, {61, 1}, {90, 30}}},
+      {Figura, {{9, 9}, {10, 1}, {45, 9}, {46, 1}, {89, 8}, {90, 9}}},
+      {Decina, {{9, 0}, {10, 1}, {90, 9}}},
+      {Cadenza, {{9, 9}, {10, 0}, {47, 7}, {90, 0}}},
+      {Mezzadecina, {{90, 5}, {5, 90}, {1, 6}, {6, 1}, {10, 15}, {15, 10}, {84, 89}, {80, 85}}},
+      {[](int n) { return DistanzaCiclica(n, 10); }, {{55, 45}, {56, 44}, {1, 9}}},
+      {[](int n) { return DifferenzaCiclica(n, 10); }, {{15, 5}, {5, 85}, {10, 90}}},
+      {[](int n) { return MinimoCinque(5, n, 4, 7, 6); }, {{3, 3}, {9, 4}}},
+      {[](int n) { return MassimoTre(5, 4, n); }, {{3, 5}, {9, 9}}},
+  };
+  for (const auto& caso : casi)
+    for (const auto& [n, atteso] : caso.valori)
+      EXPECT_EQ(caso.relazione(n), atteso) << &caso - casi << ": " << n;
+}
+
+TEST(Valutatori, LookAtTheWheelsUpToVenezia) {
+  ProgrammaProva p;
+  archivioDi(2, "1 Ba 1 2,1 Ca 3 2 1,1 Ve 4 3 2 1,1 Naz 1 2 3,1 To 1,2 Ba 5 4 3 2 1,2 Ve 1 90 45 46 10")
+      .scrivi(p);
+  clsMetodo controllo(p.programma, {});
+  const std::array<int, 5> numeri = {1, 2, 3, 4, 5};
+  for (const int ruota : {1, 2, 9, 10, 11})
+    EXPECT_EQ(controllo.ControllaCinquina(numeri, ruota, 1), ruota != 9 && ruota != 11) << ruota;
+  EXPECT_TRUE(controllo.ControllaCinquina(numeri, 1, 2));
+  controllo.Terzine = {{7, 8, 9}, {1, 2, 3}};
+  EXPECT_TRUE(controllo.ControllaTerzina(1, 2, 1));
+  EXPECT_FALSE(controllo.ControllaTerzina(1, 1, 1));
+  EXPECT_EQ(failureDi([&] { return controllo.ControllaTerzina(1, 3, 1); }), 9);
+  controllo.rilascia();
+  EXPECT_EQ(
+      p.contenuto("Esiti.txt"),
+      rapportoDi(" Ambo in cinquina 1 2 Ba al 0° colpo| Terno in cinquina 1 2 3 Ca al 0° colpo|"
+                 " Quaterna in cinquina 1 2 3 4 Ve al 0° colpo| Cinquina secca  1 2 3 4 5 Ba al 0° colpo|"
+                 " Ambo in terzina 1 2 Ba al 0° colpo| Terno secco a tutte  1 2 3 Ca al 0° colpo|"
+                 " Terno secco a tutte  1 2 3 Ve al 0° colpo"));
+  const auto venezia = [&] {
+    std::vector<int> valori;
+    for (const auto& coppia : controllo.posizioni()) valori.push_back(coppia[9]);
+    return valori;
+  };
+  controllo.DistanzePosizioni(2);
+  EXPECT_THAT(venezia(), ElementsAre(1, 45, 1, 36, 9, 0, 0, 0, 0, 0));
+  controllo.DifferenzePosizioni(2);
+  EXPECT_THAT(venezia(), ElementsAre(89, 45, 1, 36, 9, 44, 45, 44, 80, 35));
 }
 
 }  // namespace

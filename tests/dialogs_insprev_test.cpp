@@ -1,14 +1,9 @@
-#include <gmock/gmock.h>
-
 #include "dialogs/frm_insprev.h"
 #include "sostegno/cornice_prova.h"
-#include "sostegno/failure_prova.h"
-#include "sostegno/scenario.h"
+#include "sostegno/logica.h"
 
 namespace vaticlo::prova {
 namespace {
-
-using testing::ElementsAre;
 
 const SlotProva kAltra = {.estrazione = 3500, .ruote = {3}, .ambate = {9}};
 

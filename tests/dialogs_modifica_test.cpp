@@ -1,11 +1,8 @@
-#include <gmock/gmock.h>
-
 #include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_modifica.h"
 #include "dialogs/frm_somdif.h"
 #include "sostegno/cornice_prova.h"
-#include "sostegno/failure_prova.h"
-#include "sostegno/scenario.h"
+#include "sostegno/logica.h"
 
 namespace vaticlo::prova {
 namespace {
@@ -69,7 +66,7 @@ TEST_F(Modifica, ADrawIsFoundByNumberOrDate) {
     EXPECT_EQ(p.globals().EstrazioneCorrente, trovata) << digitato;
     EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, messaggio) << digitato;
   }
-  EXPECT_THAT(p.servizi.domande[0].first, testing::HasSubstr("dell'estrazione (compreso tra 1 e 60) da"));
+  EXPECT_THAT(p.servizi.domande[0].first, HasSubstr("dell'estrazione (compreso tra 1 e 60) da"));
 }
 
 TEST_F(Modifica, NothingIsSavedOrDeletedWithoutAYes) {

@@ -1,14 +1,9 @@
-#include <gtest/gtest.h>
-
 #include "methods/testi_campi.h"
-#include "sostegno/failure_prova.h"
-#include "sostegno/previsione_prova.h"
+#include "sostegno/logica.h"
 
-namespace vaticlo {
+namespace vaticlo::prova {
 namespace {
 
-using prova::failureDi;
-using Celle = std::vector<int>;
 using T = TestiPrevisione;
 
 /// `volte` times the text, joined by the separator.
@@ -111,4 +106,4 @@ TEST_F(FieldTexts, OfADrawRoundTheCenturyAndFailForYearsThatGoBelowIt) {
 }
 
 }  // namespace
-}  // namespace vaticlo
+}  // namespace vaticlo::prova

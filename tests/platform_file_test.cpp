@@ -1,22 +1,17 @@
 #include <array>
 #include <csignal>
 
-#include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "platform/file_intero.h"
 #include "platform/rapporto.h"
-#include "sostegno/cartella_prova.h"
-#include "sostegno/failure_prova.h"
+#include "sostegno/logica.h"
 
-namespace vaticlo {
+namespace vaticlo::prova {
 namespace {
 
 namespace fs = std::filesystem;
-using prova::failureDi;
-using testing::Each;
-using testing::ElementsAre;
 
 /// A disk on which no file can grow beyond `ottetti`, as long as it lives.
 struct DiscoPieno {
@@ -38,7 +33,7 @@ class Files : public testing::Test {
   void leggi(const std::string& nome) { leggiFile(percorso(nome), griglia); }
   void scrivi(const std::string& nome) { scriviFile(percorso(nome), griglia); }
 
-  prova::ProgrammaProva p;
+  ProgrammaProva p;
   std::array<std::uint8_t, 6> griglia{'1', '2', '3', '4', '5', '6'};
 };
 
@@ -107,7 +102,7 @@ TEST_F(Files, MethodsAreListedByUpperCasedNameWithoutFoldersAndHiddenFiles) {
   EXPECT_THAT(p.cartella().elencaMetodi(),
               ElementsAre("A.dat", "b.dat", "c", "Z.dat", "ça.dat", "È.dat", "é.dat"));
   fs::remove_all(percorso("Metodi"));
-  EXPECT_THAT(p.cartella().elencaMetodi(), testing::IsEmpty());
+  EXPECT_THAT(p.cartella().elencaMetodi(), IsEmpty());
   p.scrivi("Metodi", "a file in its place");
   EXPECT_EQ(failureDi([&] { return p.cartella().elencaMetodi(); }), 75);
 }
@@ -123,4 +118,4 @@ TEST_F(Files, AMethodIsItsTrimmedNameWithDatInsideItsFolder) {
 }
 
 }  // namespace
-}  // namespace vaticlo
+}  // namespace vaticlo::prova

@@ -1,10 +1,8 @@
-#include <gtest/gtest.h>
-
 #include "platform/conversione.h"
 #include "platform/pagina_codici.h"
-#include "sostegno/failure_prova.h"
+#include "sostegno/logica.h"
 
-namespace vaticlo {
+namespace vaticlo::prova {
 namespace {
 
 using Tavola = std::vector<std::pair<std::string, std::vector<std::string>>>;
@@ -15,7 +13,7 @@ void confronta(const Tavola& tavola, Converti converti) {
   for (const auto& [atteso, testi] : tavola)
     for (const auto& testo : testi) {
       std::string esito;
-      const int failure = prova::failureDi([&] { return esito = std::to_string(converti(testo)); });
+      const int failure = failureDi([&] { return esito = std::to_string(converti(testo)); });
       EXPECT_EQ(failure == 0 ? esito : "failure " + std::to_string(failure), atteso) << '"' << testo << '"';
     }
 }
@@ -62,4 +60,4 @@ TEST(CodePage, GivesEveryDefinedByteBackAndHasAQuestionMarkForAllElse) {
 }
 
 }  // namespace
-}  // namespace vaticlo
+}  // namespace vaticlo::prova

@@ -1,13 +1,9 @@
-#include <gmock/gmock.h>
-
-#include "sostegno/scenario.h"
+#include "sostegno/logica.h"
 #include "statistics/clsstatistica.h"
 
 namespace vaticlo::prova {
 namespace {
 
-using testing::HasSubstr;
-using testing::StartsWith;
 using Slot = std::vector<SlotProva>;
 
 /// A dialog that notes what a run does to it.
