@@ -62,17 +62,5 @@ TEST(SumsAndDistances, OfTwoNumbersTurnAtTheEndOfTheirCircle) {
   }
 }
 
-TEST(SumsAndDistances, TakeThePairsOfPositionsInTheOrderOfTheColumns) {
-  // Powers of two, so that each sum names its pair.
-  ArchivioProva archivio(1);
-  archivio.ruota(1, 1, {1, 2, 4, 8, 16}).ruota(1, 11, {90, 80, 70, 60, 50});
-  const auto somme = CalcolaSomDif(archivio.griglia, 1, TipoSomDif::Somma);
-  const int attese[] = {3, 5, 9, 17, 6, 10, 18, 12, 20, 24};
-  for (std::size_t colonna = 0; colonna < 10; ++colonna) {
-    EXPECT_EQ(somme[colonna][0], attese[colonna]) << colonna;
-    EXPECT_EQ(somme[colonna][9], 0) << "Venezia has no numbers";
-  }
-}
-
 }  // namespace
 }  // namespace vaticlo::prova

@@ -69,8 +69,8 @@ TEST_F(Console, EachCommandSaysHowItWent) {
       {"importa " + file("due.txt"), 2, "", "riga 2"},
       {"aggiorna --da file://" + file("manca.dat"), 3,
        "[Vaticlo] Errore: Non è possibile effettuare l'aggiornamento\n", ""},
-      {"estrazione 2", 0, "Estrazione n° 2 del 12/3/2005\nBa 90 89 0 0 0\n" + vuote + "Naz 7 0 0 0 0\n", ""},
-      {"somdif 2 --tipo matematica", 0, "Ba 1 90 90 90 89 89 89 0* 0* 0*\n" + zeri, ""},
+      {"estrazione 2", 0, "Estrazione n° 2 del 12/3/2005\nBa 1 2 4 8 16\n" + vuote + "Naz 7 0 0 0 0\n", ""},
+      {"somdif 2 --tipo somma", 0, "Ba 3 5 9 17 6 10 18 12 20 24\n" + zeri, ""},
       {"estrazione -1", 1, "", "Errore di run-time 9: "},
       {"estrazione 1,5", 2, "", "1,5"},
       {"trova ''", 0, "", ""},
@@ -100,7 +100,7 @@ TEST_F(Console, EachCommandSaysHowItWent) {
        attenzione + "L'estrazione di inzio non può essere maggiore dell'estrazione di fine!\n", ""},
       {"importa " + file("uno.txt"), 0, "Importate 1 estrazioni, dal 8/1/2005 al 8/1/2005\n", ""},
       {"aggiorna --da file://" + file("uno.txt"), 0, "[Vaticlo] Aggiornamento avvenuto\n", ""}};
-  archivioDi(3, "2 Ba 90 89,2 Naz 7").scrivi(p);
+  archivioDi(3, "2 Ba 1 2 4 8 16,2 Naz 7").scrivi(p);
   for (const auto& [comando, stato, atteso, errore] : casi) {
     EXPECT_EQ(esegui(comando), stato) << comando;
     EXPECT_EQ(detto, atteso) << comando;

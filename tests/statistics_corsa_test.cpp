@@ -136,15 +136,6 @@ TEST_F(Corsa, WonLostAndInPlayAreParted) {
   }
 }
 
-TEST_F(Corsa, ARangeTakesItsCalculationDrawsAndPlaysThemToTheEndOfTheArchive) {
-  archivio(archivioDi(110, "105 Ba 7"));
-  scriviMetodoProva(p, "B", {ambata(102, 5), ambata(103, 5)});
-  scriviMetodoProva(p, "A", {ambata(104, 5), ambata(101, 5), ambata(103, 5)});
-  corri(102, 103);
-  EXPECT_EQ(voci(), "1B 2A 3B ");
-  EXPECT_EQ(p.globals().ContaVincenti, 3);
-}
-
 TEST_F(Corsa, AFailureLosesTheRestOfItsDrawAndNoMore) {
   const std::tuple<Slot, int, const char*> casi[] = {
       // what stands in B, the predictions taken, the entries
