@@ -155,7 +155,7 @@ TEST(Valutatori, LookAtTheWheelsUpToVenezia) {
     EXPECT_EQ(controllo.ControllaCinquina(numeri, ruota, 1), ruota != 9 && ruota != 11) << ruota;
   EXPECT_TRUE(controllo.ControllaCinquina(numeri, 1, 2));
   controllo.Terzine = {{7, 8, 9}, {1, 2, 3}};
-  EXPECT_TRUE(controllo.ControllaTerzina(1, 2, 1));
+  for (const int ruota : {1, 2}) EXPECT_TRUE(controllo.ControllaTerzina(ruota, 2, 1));
   EXPECT_FALSE(controllo.ControllaTerzina(1, 1, 1));
   EXPECT_EQ(failureDi([&] { return controllo.ControllaTerzina(1, 3, 1); }), 9);
   controllo.rilascia();
@@ -164,6 +164,7 @@ TEST(Valutatori, LookAtTheWheelsUpToVenezia) {
       rapportoDi(" Ambo in cinquina 1 2 Ba al 0° colpo| Terno in cinquina 1 2 3 Ca al 0° colpo|"
                  " Quaterna in cinquina 1 2 3 4 Ve al 0° colpo| Cinquina secca  1 2 3 4 5 Ba al 0° colpo|"
                  " Ambo in terzina 1 2 Ba al 0° colpo| Terno secco a tutte  1 2 3 Ca al 0° colpo|"
+                 " Terno secco a tutte  1 2 3 Ve al 0° colpo| Terno secco 1 2 3 Ca al 0° colpo|"
                  " Terno secco a tutte  1 2 3 Ve al 0° colpo"));
   const auto venezia = [&] {
     std::vector<int> valori;

@@ -1,6 +1,8 @@
+#include <QElapsedTimer>
 #include <QToolBar>
 #include <QToolButton>
 
+#include "desktop/finestra_splash.h"
 #include "gui/finestra_prova.h"
 
 using namespace vaticlo;
@@ -19,12 +21,42 @@ struct Principale : PrincipaleProva {
   }
 };
 
+/// A splash on the screen that counts how often it opens the main window.
+struct Splash {
+  Splash() {
+    finestra.show();
+    QVERIFY(QTest::qWaitForWindowActive(&finestra));
+  }
+  int aperture = 0;
+  FinestraSplash finestra{[this] { ++aperture; }};
+};
+
 }  // namespace
 
 class PrincipaleGuiTest : public QObject {
   Q_OBJECT
 
  private slots:
+  void anyKeyEndsTheSplashAtOnceAndOnlyOnce() {
+    for (const auto tasto : {Qt::Key_A, Qt::Key_Tab, Qt::Key_Shift}) {
+      Splash splash;
+      QTest::keyPress(splash.finestra.windowHandle(), tasto);
+      QVERIFY(splash.aperture == 1 && !splash.finestra.isVisible());
+      QTest::keyClick(&splash.finestra, tasto);
+      QCOMPARE(splash.aperture, 1);
+    }
+  }
+
+  void withoutAKeyTheSplashWaitsFiveSecondsWhateverTheMouseDoes() {
+    QElapsedTimer orologio;
+    orologio.start();
+    Splash splash;
+    QTest::mouseClick(splash.finestra.windowHandle(), Qt::LeftButton);
+    QTRY_COMPARE_WITH_TIMEOUT(splash.aperture, 1, 6500);
+    QVERIFY(orologio.elapsed() > 4700);  // such a timer may be a twentieth early
+    QVERIFY(!splash.finestra.isVisible());
+  }
+
   void accessKeysReachTheEntries() {
     const std::pair<QList<Qt::Key>, const char*> casi[] = {
         {{Qt::Key_A, Qt::Key_I}, "Inserimento Estrazioni"},
