@@ -5,6 +5,7 @@
 
 #include "cartella_grande.h"
 #include "check/clsmetodo.h"
+#include "console/servizi_console.h"
 #include "platform/file_intero.h"
 #include "statistics/clsstatistica.h"
 
@@ -12,19 +13,6 @@ namespace vaticlo {
 namespace {
 
 constexpr int kEstrazioni = 7270;
-
-class Muto : public Servizi {
- public:
-  Risposta mostra(const Messaggio& /*messaggio*/) override { return Risposta::Ok; }
-  std::string chiedi(const std::string& /*testo*/, const std::string& /*titolo*/) override { return {}; }
-  void stampa(const std::string& /*testo*/) override {}
-  bool scarica(const std::string& /*indirizzo*/, const std::filesystem::path& /*destinazione*/) override {
-    return false;
-  }
-  void apriPagina(const std::string& /*indirizzo*/) override {}
-  [[nodiscard]] std::chrono::year_month_day oggi() const override { return {}; }
-  void eventiInAttesa() override {}
-};
 
 class CorsaMuta : public FinestraCorsa {
  public:
@@ -50,7 +38,7 @@ class Cartella {
   Cartella& operator=(const Cartella&) = delete;
   ~Cartella() { std::filesystem::remove_all(programma.cartella.radice()); }
 
-  Muto servizi;
+  ServiziConsole servizi;
   Programma programma;
 };
 

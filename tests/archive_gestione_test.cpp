@@ -57,7 +57,6 @@ TEST_F(DrawStore, AnEditedDrawKeepsItsDateButForTheCentury) {
   archivio.scrivi(p);
   gestione().Visualizza(frm, 1);
   frm.txtestr[54].Text("90");
-  frm.data = dataDaTesto("12/05/2004");
   gestione().salva(frm, 1);
   EXPECT_THAT(riga(1, 0), ElementsAre(3, 3, 46, 20, 0));
   EXPECT_THAT(riga(1, 11), ElementsAre(0, 0, 0, 0, 90));

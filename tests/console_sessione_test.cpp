@@ -4,6 +4,7 @@
 #include "console/parole.h"
 #include "console/sessione.h"
 #include "sostegno/logica.h"
+#include "sostegno/server_prova.h"
 
 namespace vaticlo::prova {
 namespace {
@@ -59,6 +60,8 @@ TEST_F(Console, EachCommandSaysHowItWent) {
     zeri += sigla + " 0* 0* 0* 0* 0* 0* 0* 0* 0* 0*\n";
   }
   const std::string riga = "2005/01/08\tBA\t1\t2\t3\t4\t5\r\n", mio = " 'Il mio' ";
+  const ServerProva server(
+      ServerProva::Risposte{{"/uno", "HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nuno"}});
   p.scrivi("uno.txt", riga);
   p.scrivi("due.txt", riga + riga);
   const auto file = [this](const char* nome) { return (p.cartella().radice() / nome).string(); };
@@ -99,7 +102,7 @@ TEST_F(Console, EachCommandSaysHowItWent) {
       {"statistica 3 -3", 3,
        attenzione + "L'estrazione di inzio non può essere maggiore dell'estrazione di fine!\n", ""},
       {"importa " + file("uno.txt"), 0, "Importate 1 estrazioni, dal 8/1/2005 al 8/1/2005\n", ""},
-      {"aggiorna --da file://" + file("uno.txt"), 0, "[Vaticlo] Aggiornamento avvenuto\n", ""}};
+      {"aggiorna --da " + server.indirizzo("/uno"), 0, "[Vaticlo] Aggiornamento avvenuto\n", ""}};
   archivioDi(3, "2 Ba 1 2 4 8 16,2 Naz 7").scrivi(p);
   for (const auto& [comando, stato, atteso, errore] : casi) {
     EXPECT_EQ(esegui(comando), stato) << comando;

@@ -1,6 +1,5 @@
-#include <utility>
-
 #include "dialogs/elenco_scansione.h"
+#include "dialogs/frm_metodi.h"
 #include "dialogs/gestione_metodi.h"
 #include "sostegno/cornice_prova.h"
 #include "sostegno/logica.h"
@@ -47,12 +46,29 @@ TEST_F(Metodi, TheListInPlayFollowsEachChoice) {
   EXPECT_EQ(stato(frm), "testo stampa");
   EXPECT_EQ(guardati([&] { frm.optSelMetodo_Click(0); }), 3);
   EXPECT_FALSE(frm.metodo.cmbMetodo.Enabled());
-  bool scelto = false;
+}
+
+TEST_F(Metodi, AnEventDuringAScanWaitsUntilItHasEnded) {
+  archivioDi(110).scrivi(p);
+  for (const char* nome : {"A", "B", "Metodo 1"}) scriviMetodoProva(p, nome, {});
+  scriviMetodoProva(p, "A", {{.estrazione = 109, .ruote = {1}, .ambate = {7}}});
+  frmPrev frm(p.programma, cornice);
+  frm.Form_Load();
+  std::string durante;
   p.servizi.allaPausa = [&] {
-    if (!std::exchange(scelto, true)) frm.optSelMetodo_Click(1);
+    durante += stato(frm) + cornice.chiesto + (frm.metodo.cmbMetodo.Enabled() ? "lista|" : "|");
+    if (p.servizi.pause != 2) return;
+    cornice.chiesto.clear();
+    frm.optSelMetodo_Click(1);
+    frm.btnStampa_Click();
+    frm.btnCancella_Click();
   };
-  EXPECT_EQ(guardati([&] { frm.btnCerca_Click(); }), 3 + 1) << "a choice during a scan has its own behind it";
-  EXPECT_EQ(stato(frm), "nota ");
+  EXPECT_EQ(guardati([&] { frm.btnCerca_Click(); }), 3 + 2) << "all methods, then twice the one chosen";
+  EXPECT_EQ(durante,
+            "prgbar stampaaltre |prgbar stampaaltre |prgbar stampa|prgbar stampalista|prgbar lista|");
+  EXPECT_EQ(p.servizi.stampati.size(), 1U);
+  EXPECT_EQ(cornice.chiesto, "chiudi ");
+  EXPECT_EQ(p.contenuto("PrevGioco.txt"), "") << "the report is that of the last choice";
 }
 
 TEST_F(Metodi, TheWinnersFollowTheArrows) {
@@ -66,6 +82,27 @@ TEST_F(Metodi, TheWinnersFollowTheArrows) {
   EXPECT_EQ(stato(frm), "testo stampa");
   EXPECT_THAT(frm.RichTextBox1.Text(), HasSubstr(" Ambata 7 Ba al 1°colpo\n"));
   EXPECT_FALSE(frm.btnStampa.Click) << "it has no command";
+}
+
+TEST_F(Metodi, TheirWindowRenamesAndDeletesAfterAYes) {
+  p.scrivi("Metodi/A.dat", "");
+  frmMetodi frm(p.programma, cornice);
+  frm.Form_Load();
+  frm.btnElimina.Click();
+  EXPECT_THAT(p.servizi.detti(), ElementsAre("[Attenzione] Nessun metodo selezionato!"));
+  frm.cmbMetodo.scegli(0);
+  EXPECT_EQ(frm.txtNome.Text(), "A");
+  frm.txtNome.Text("B");
+  p.servizi.risposta = Risposta::No;
+  frm.btnRinomina.Click();
+  frm.btnElimina.Click();
+  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("A.dat"));
+  p.servizi.risposta = Risposta::Si;
+  frm.btnRinomina.Click();
+  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("B.dat"));
+  frm.cmbMetodo.scegli(0);
+  frm.btnElimina.Click();
+  EXPECT_TRUE(frm.cmbMetodo.voci().empty() && p.cartella().elencaMetodi().empty());
 }
 
 TEST_F(Metodi, ANameMustBeAFileOnEverySystemAndNew) {

@@ -134,6 +134,9 @@ TEST_F(Somdif, EachChangeMarksItsOwnEqualValuesAlone) {
   EXPECT_EQ(colonna(), "4 1 9 n.3");
   frm.VScroll1.Value(3);
   EXPECT_EQ(colonna(), "1* 7 1* n.2");
+  frm.VScroll1.Value(4);
+  EXPECT_EQ(colonna(), "4 1 9 n.3");
+  frm.VScroll1.Value(3);
   frm.optdistmat.Click();
   EXPECT_EQ(colonna(), "89 7 1 n.2");
   frm.optsommat.Click();

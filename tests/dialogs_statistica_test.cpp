@@ -97,6 +97,7 @@ TEST_F(Statistica, ARunOffersWhatItFound) {
   p.servizi.allaPausa = [&] { durante = stato(); };
   elabora("101", "110");
   EXPECT_EQ(durante, "prgbar stop ");
+  EXPECT_EQ(cornice.chiesto, "altre lavoro libera ");
   EXPECT_EQ(stato(), "testo elabora esci vincite prev stampa ");
   EXPECT_THAT(frm.RichTextBox1.Text(), HasSubstr("\n\nPrevisioni Giocabili: 3\n"));
   frm.btnStampa_Click();

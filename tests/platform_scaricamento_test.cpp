@@ -1,76 +1,80 @@
-#include <array>
-#include <cstdlib>
-#include <thread>
-
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include "platform/scaricamento.h"
 #include "sostegno/cartella_prova.h"
+#include "sostegno/server_prova.h"
 
 namespace vaticlo {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// A web server on this machine that gives one answer to one request.
-struct UnaRisposta {
-  explicit UnaRisposta(const std::string& risposta) {
-    ::listen(ascolto, 1);  // on a free port
-    sockaddr_in luogo{};
-    socklen_t misura = sizeof luogo;
-    ::getsockname(ascolto, reinterpret_cast<sockaddr*>(&luogo), &misura);
-    indirizzo = "http://127.0.0.1:" + std::to_string(ntohs(luogo.sin_port)) + "/archivio";
-    servizio = std::thread([this, risposta] {
-      const int cliente = ::accept(ascolto, nullptr, nullptr);
-      std::array<char, 4096> domanda{};
-      if (::read(cliente, domanda.data(), domanda.size()) > 0 && !risposta.empty())
-        static_cast<void>(::send(cliente, risposta.data(), risposta.size(), MSG_NOSIGNAL));
-      ::close(cliente);
-    });
-  }
-  UnaRisposta(const UnaRisposta&) = delete;
-  UnaRisposta& operator=(const UnaRisposta&) = delete;
-  ~UnaRisposta() {
-    ::shutdown(ascolto, SHUT_RDWR);  // when nobody came
-    servizio.join();
-    ::close(ascolto);
-  }
-  int ascolto = ::socket(AF_INET, SOCK_STREAM, 0);
-  std::string indirizzo;
-  std::thread servizio;
-};
-
-TEST(Download, ReplacesTheDestinationOnlyAfterACompleteAndGoodTransfer) {
-  ::setenv("no_proxy", "*", 1);
-  const prova::ProgrammaProva p;
-  p.scrivi("segreto", "of this machine");
-  const auto segreto = "file://" + (p.cartella().radice() / "segreto").string();
-  const std::pair<std::string, std::string> casi[] = {
-      {"HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nnuovo", "nuovo"},
-      {"HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\nmozzo", "vecchio e lungo"},
-      {"HTTP/1.1 404 Not Found\r\nContent-Length: 5\r\n\r\nmanca", "vecchio e lungo"},
-      {"HTTP/1.1 302 Found\r\nLocation: " + segreto + "\r\nContent-Length: 0\r\n\r\n", "vecchio e lungo"},
-      {"", "vecchio e lungo"}};
-  for (const auto& [risposta, contenuto] : casi) {
-    p.scrivi("archivio", "vecchio e lungo");
-    const UnaRisposta server(risposta);
-    EXPECT_EQ(scaricaInFile(server.indirizzo, p.cartella().radice() / "archivio"), contenuto == "nuovo");
-    EXPECT_EQ(p.contenuto("archivio"), contenuto) << risposta;
-  }
+std::string risposta(const std::string& stato, const std::string& testo, const std::string& testa = "") {
+  return "HTTP/1.1 " + stato + "\r\nConnection: close\r\n" + testa +
+         "Content-Length: " + std::to_string(testo.size()) + "\r\n\r\n" + testo;
 }
 
-TEST(Download, LeavesNothingBesideADestinationThatRefuses) {
-  const prova::ProgrammaProva p;
-  const auto radice = p.cartella().radice();
-  p.scrivi("origine", "dati");
-  const auto origine = "file://" + (radice / "origine").string();
-  EXPECT_FALSE(scaricaInFile(origine, radice / "Metodi"));
-  EXPECT_EQ(std::distance(fs::directory_iterator(radice), {}), 2);  // Metodi and origine, as before
-  EXPECT_TRUE(scaricaInFile(origine, radice / "copia"));
-  EXPECT_EQ(p.contenuto("copia"), "dati");
+std::string rinvio(const std::string& luogo) {
+  return risposta("302 Found", "altrove", "Location: " + luogo + "\r\n");
+}
+
+class Download : public testing::Test {
+ protected:
+  /// Whether the download succeeded; whatever it did not bring has left the destination as it was.
+  bool scarica(const std::string& indirizzo, const std::string& nuovo = "") {
+    p.scrivi("archivio", kVecchio);
+    LimitiScaricamento limiti;
+    limiti.ottetti = 1000;
+    limiti.silenzio = std::chrono::seconds(1);
+    const bool riuscito = scaricaInFile(indirizzo, p.cartella().radice() / "archivio", limiti);
+    EXPECT_EQ(p.contenuto("archivio"), riuscito ? nuovo : kVecchio) << indirizzo;
+    const auto rimasti = std::distance(fs::directory_iterator(p.cartella().radice()), {});
+    EXPECT_EQ(rimasti, 2) << "Metodi and the destination, nothing beside them";
+    return riuscito;
+  }
+  static constexpr const char* kVecchio = "vecchio e lungo";
+  prova::ProgrammaProva p;
+};
+
+TEST_F(Download, ReplacesTheDestinationAfterACompleteAndGoodTransfer) {
+  const std::string mille(1000, 'x');
+  const prova::ServerProva server({{"/breve", risposta("200 OK", "nuovo")},
+                                   {"/mille", risposta("203 Non-Authoritative", mille)},
+                                   {"/rinvio", rinvio("/rinvio2")},
+                                   {"/rinvio2", rinvio("/breve")}});
+  EXPECT_TRUE(scarica(server.indirizzo("/breve"), "nuovo"));
+  EXPECT_TRUE(scarica(server.indirizzo("/mille"), mille));
+  EXPECT_TRUE(scarica(server.indirizzo("/rinvio"), "nuovo"));
+}
+
+TEST_F(Download, LeavesTheDestinationWhenAnythingGoesWrong) {
+  p.scrivi("Metodi/M.dat", "segreto");
+  const auto segreto = "file://" + (p.cartella().metodi() / "M.dat").string();
+  const std::string troppi(1001, 'x');
+  const std::string pezzo = "1f4\r\n" + std::string(500, 'x') + "\r\n";
+  const std::string aPezzi = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n" + pezzo;
+  const prova::ServerProva server({{"/muto", ""},
+                                   {"/mozzo", "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\nsolo un pezzo"},
+                                   {"/pezzi", aPezzi},
+                                   {"/manca", risposta("404 Not Found", "manca")},
+                                   {"/guasto", risposta("500 Internal Server Error", "guasto")},
+                                   {"/uguale", "HTTP/1.1 304 Not Modified\r\nConnection: close\r\n\r\n"},
+                                   {"/scelta", risposta("300 Multiple Choices", "quale?")},
+                                   {"/troppi", risposta("200 OK", troppi)},
+                                   {"/troppi-pezzi", aPezzi + pezzo + pezzo + "0\r\n\r\n"},
+                                   {"/segreto", rinvio(segreto)},
+                                   {"/giro", rinvio("/giro")}});
+  for (const char* percorso : {"/muto", "/mozzo", "/pezzi", "/manca", "/guasto", "/uguale", "/scelta",
+                               "/troppi", "/troppi-pezzi", "/segreto", "/giro", "/senza-risposta"})
+    EXPECT_FALSE(scarica(server.indirizzo(percorso)));
+  for (const auto& indirizzo : {segreto, std::string("http://127.0.0.1:1/"), std::string("non un indirizzo")})
+    EXPECT_FALSE(scarica(indirizzo));
+}
+
+TEST_F(Download, LeavesNothingBesideADestinationThatRefuses) {
+  const prova::ServerProva server(prova::ServerProva::Risposte{{"/breve", risposta("200 OK", "nuovo")}});
+  EXPECT_FALSE(scaricaInFile(server.indirizzo("/breve"), p.cartella().metodi()));
+  EXPECT_EQ(std::distance(fs::directory_iterator(p.cartella().radice()), {}), 1);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <bitset>
+#include <utility>
 
 #include "archive/data.h"
 #include "archive/ruota.h"
@@ -93,17 +94,27 @@ class Lettore {
 
 }  // namespace
 
-ArchivioEstrazioni importaEstrazioni(std::string_view testo) {
+ArchivioEstrazioni importaEstrazioni(std::string_view testo, const std::function<void(int)>& avanzamento) {
   if (testo.empty()) throw ErroreImportazione(1, "il file è vuoto");
   Lettore lettore;
+  const auto tutto = testo.size();
+  int percento = 0;
   for (int numeroRiga = 1; !testo.empty(); ++numeroRiga) {
     const auto fine = std::min(testo.find('\n'), testo.size());
     auto riga = testo.substr(0, fine);
     testo.remove_prefix(std::min(fine + 1, testo.size()));
     if (riga.ends_with('\r')) riga.remove_suffix(1);
     lettore.riga(numeroRiga, riga);
+    const auto fatto = static_cast<int>((tutto - testo.size()) * 100 / tutto);
+    if (avanzamento && fatto > std::exchange(percento, fatto)) avanzamento(fatto);
   }
   return std::move(lettore).finito();
+}
+
+std::string riassunto(const ArchivioEstrazioni& importato) {
+  const int ultima = importato.PrimoIndiceLibero() - 1;
+  return std::to_string(ultima) + " estrazioni, dal " + importato.DataEstrazione(1) + " al " +
+         importato.DataEstrazione(ultima);
 }
 
 }  // namespace vaticlo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -18,7 +19,11 @@ class ErroreImportazione : public std::runtime_error {
 /// Reads the public text form: a line for each wheel of each draw, oldest draw first,
 /// `yyyy/mm/dd<TAB>BA<TAB>58<TAB>22<TAB>47<TAB>49<TAB>69`, lines ended by LF or CR LF. All lines of one date
 /// are one draw; a wheel without a line keeps 0 in its cells. Throws ErroreImportazione at the first line
-/// that is not right.
-[[nodiscard]] ArchivioEstrazioni importaEstrazioni(std::string_view testo);
+/// that is not right. `avanzamento` is told each percent of the text that is done.
+[[nodiscard]] ArchivioEstrazioni importaEstrazioni(std::string_view testo,
+                                                   const std::function<void(int)>& avanzamento = {});
+
+/// How many draws an imported archive has, and from which date to which (Italian).
+[[nodiscard]] std::string riassunto(const ArchivioEstrazioni& importato);
 
 }  // namespace vaticlo

@@ -29,9 +29,7 @@ void aggiungiImporta(CLI::App& app, Sessione& sessione) {
   comando->callback([&sessione, file] {
     const auto archivio = leggiEstrazioni(*file);
     ScriviArchivio(sessione.programma().cartella, archivio);
-    const int ultima = archivio.PrimoIndiceLibero() - 1;
-    std::cout << "Importate " << ultima << " estrazioni, dal " << archivio.DataEstrazione(1) << " al "
-              << archivio.DataEstrazione(ultima) << '\n';
+    std::cout << "Importate " << riassunto(archivio) << '\n';
   });
 }
 

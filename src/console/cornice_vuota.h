@@ -11,6 +11,7 @@ class CorniceVuota : public Cornice {
   void chiudi(Finestra& /*finestra*/) override {}
   void riapri(Finestra& /*finestra*/) override {}
   void apriRisultati() override {}
+  void lavoro(bool /*inCorso*/) override {}
 };
 
 }  // namespace vaticlo

@@ -13,11 +13,14 @@ class ServiziConsole : public Servizi {
  public:
   Risposta mostra(const Messaggio& messaggio) override;
   std::string chiedi(const std::string& testo, const std::string& titolo) override;
+  std::filesystem::path scegliFile(const std::string& /*titolo*/) override { return {}; }
+  void avanzamento(const std::string& /*lavoro*/, int /*percento*/) override {}
   void stampa(const std::string& testo) override;
   bool scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) override;
   void apriPagina(const std::string& indirizzo) override;
   [[nodiscard]] std::chrono::year_month_day oggi() const override;
   void eventiInAttesa() override;
+  void ridisegna() override {}
 
   /// What the next input box is answered with.
   void preparaRisposta(std::string risposta) { risposta_ = std::move(risposta); }

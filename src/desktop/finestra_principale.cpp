@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <array>
@@ -92,6 +93,7 @@ void FinestraPrincipale::creaMenu() {
     }
     auto* azione = livello == 1 ? menuBar()->addAction(caption) : aperti.at(livello - 1)->addAction(caption);
     azione->setObjectName(nome);
+    if (!voce.tasto.empty()) azione->setShortcut(QKeySequence(daUtf8(voce.tasto)));
     connect(azione, &QAction::triggered, this,
             [this, comando = voce.comando] { confine_.esegui([&] { principale_.comando(comando); }); });
   }
@@ -194,6 +196,11 @@ void FinestraPrincipale::togli(Finestra& finestra) {
   sotto->deleteLater();
 }
 
+void FinestraPrincipale::abilitaComandi(bool abilitati) {
+  menuBar()->setEnabled(abilitati);
+  findChild<QToolBar*>()->setEnabled(abilitati);
+}
+
 bool FinestraPrincipale::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() == QEvent::Close) {
     if (const auto finestra = finestraDi(oggetto)) {
@@ -207,7 +214,10 @@ bool FinestraPrincipale::eventFilter(QObject* oggetto, QEvent* evento) {
 
 void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
   if (principale_.occupata()) {
+    // The work is asked to end, and the window closes behind it.
     evento->ignore();
+    principale_.interrompi();
+    QTimer::singleShot(0, this, &QWidget::close);
     return;
   }
   confine_.esegui([this] { principale_.Form_Unload(); });

@@ -26,6 +26,7 @@ class FinestraPrincipale : public QMainWindow, private VistaPrincipale {
   void portaSu(Finestra& finestra) override;
   void togli(Finestra& finestra) override;
   void chiudiPrincipale() override { close(); }
+  void abilitaComandi(bool abilitati) override;
 
   void creaMenu();
   void creaBarra();

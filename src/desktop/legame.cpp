@@ -30,6 +30,19 @@ Data daGiornoQt(const QDate& giorno) {
               std::chrono::day{static_cast<unsigned>(giorno.day())}};
 }
 
+/// A list that tells when it is about to show its items.
+class ElencoVista : public QComboBox {
+ public:
+  ElencoVista(std::function<void()> apre, QWidget* padre) : QComboBox(padre), apre_(std::move(apre)) {}
+  void showPopup() override {
+    apre_();
+    QComboBox::showPopup();
+  }
+
+ private:
+  std::function<void()> apre_;
+};
+
 void disegnaVoci(QComboBox& combo, const Elenco& modello) {
   const auto& voci = modello.voci();
   bool uguali = combo.count() == static_cast<int>(voci.size());
@@ -97,7 +110,12 @@ QScrollBar* Legame::barra(BarraScorrimento& modello, const QString& nome) {
 }
 
 QComboBox* Legame::elenco(Elenco& modello, const QString& nome, Tipo tipo) {
-  auto* widget = chiamato(new QComboBox(vista_), nome);
+  const auto apre = [this, &modello] {
+    confine_.esegui([&] {
+      if (modello.DropDown) modello.DropDown();
+    });
+  };
+  auto* widget = chiamato(new ElencoVista(apre, vista_), nome);
   widget->setEditable(tipo == Tipo::Modificabile);
   widget->setInsertPolicy(QComboBox::NoInsert);
   widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);

@@ -3,11 +3,14 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QProgressDialog>
 #include <QTextDocument>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -19,9 +22,15 @@ namespace vaticlo {
 
 namespace {
 
+constexpr int kAttesaAvanzamento = 300;  // milliseconds; what is done sooner shows no box
+
 QString qt(const std::string& testo) { return QString::fromStdString(testo); }
 
 }  // namespace
+
+ServiziDesktop::ServiziDesktop() = default;
+
+ServiziDesktop::~ServiziDesktop() = default;
 
 Risposta ServiziDesktop::mostra(const Messaggio& messaggio) {
   QMessageBox box(padre_);
@@ -62,6 +71,27 @@ std::string ServiziDesktop::chiedi(const std::string& testo, const std::string& 
   return box.exec() == QDialog::Accepted ? risposta->text().toStdString() : std::string();
 }
 
+std::filesystem::path ServiziDesktop::scegliFile(const std::string& titolo) {
+  const auto file = QFileDialog::getOpenFileName(
+      padre_, qt(titolo), QDir::homePath(),
+      QStringLiteral("File di testo delle estrazioni (*.txt);;Tutti i file (*)"));
+  return QFile::encodeName(file).toStdString();
+}
+
+void ServiziDesktop::avanzamento(const std::string& lavoro, int percento) {
+  if (percento >= 100) {
+    lavoro_.reset();
+    return;
+  }
+  if (!lavoro_) {
+    lavoro_ = std::make_unique<QProgressDialog>(qt(lavoro), QString(), 0, 100, padre_);
+    lavoro_->setWindowTitle(QApplication::applicationName());
+    lavoro_->setWindowModality(Qt::ApplicationModal);
+    lavoro_->setMinimumDuration(kAttesaAvanzamento);
+  }
+  lavoro_->setValue(percento);
+}
+
 void ServiziDesktop::stampa(const std::string& testo) {
   const auto predefinita = QPrinterInfo::defaultPrinter();
   if (predefinita.isNull()) return;
@@ -74,6 +104,7 @@ void ServiziDesktop::stampa(const std::string& testo) {
 
 bool ServiziDesktop::scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) {
   QApplication::setOverrideCursor(Qt::WaitCursor);
+  ridisegna();  // nothing is drawn until the end
   const bool riuscito = scaricaInFile(indirizzo, destinazione);
   QApplication::restoreOverrideCursor();
   return riuscito;
@@ -86,5 +117,7 @@ void ServiziDesktop::apriPagina(const std::string& indirizzo) {
 std::chrono::year_month_day ServiziDesktop::oggi() const { return dataLocale(); }
 
 void ServiziDesktop::eventiInAttesa() { QApplication::processEvents(); }
+
+void ServiziDesktop::ridisegna() { QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
 
 }  // namespace vaticlo

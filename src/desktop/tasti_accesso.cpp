@@ -39,21 +39,22 @@ bool TastiAccesso::premi(const QKeyEvent& tasto, bool davvero) const {
   if (tasto.modifiers() != Qt::AltModifier) return false;
   const auto* figlia = area_->activeSubWindow();
   const QKeySequence cercata(Qt::ALT | static_cast<Qt::Key>(tasto.key()));
-  QList<xpcmdbutton*> pulsanti;
   bool disabilitato = false;
   for (auto* pulsante : figlia->findChildren<xpcmdbutton*>()) {
     if (!pulsante->isVisible() || pulsante->shortcut() != cercata) continue;
-    disabilitato = disabilitato || !pulsante->isEnabled();
-    if (pulsante->isEnabled()) pulsanti.append(pulsante);
+    if (!pulsante->isEnabled()) {
+      disabilitato = true;
+      continue;
+    }
+    if (davvero && !tasto.isAutoRepeat()) {
+      pulsante->setFocus(Qt::ShortcutFocusReason);
+      pulsante->click();
+    }
+    return true;
   }
   // The key of a disabled button is the window's all the same: it must not open another one from the menu
   // bar.
-  if (pulsanti.isEmpty()) return disabilitato;
-  if (!davvero || tasto.isAutoRepeat()) return true;
-  const auto conFocus = pulsanti.indexOf(qobject_cast<xpcmdbutton*>(QApplication::focusWidget()));
-  pulsanti.at((conFocus + 1) % pulsanti.size())->setFocus(Qt::ShortcutFocusReason);
-  if (pulsanti.size() == 1 || conFocus < 0) pulsanti.front()->click();
-  return true;
+  return disabilitato;
 }
 
 }  // namespace vaticlo

@@ -8,8 +8,8 @@ class QMdiArea;
 namespace vaticlo {
 
 /// Access keys of the active child window come before those of the menu bar: in a draw window Alt+S is
-/// "&Salva", not "&Statistica". Where two of its buttons share a letter, the first answers, and the key then
-/// moves the focus between them. Ctrl+F4 and Ctrl+W close the active child window.
+/// "&Salva", not "&Statistica". Where two of its buttons share a letter, the first that can be pressed
+/// answers. Ctrl+F4 and Ctrl+W close the active child window.
 class TastiAccesso : public QObject {
  public:
   explicit TastiAccesso(QMdiArea* area);

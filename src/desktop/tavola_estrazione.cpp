@@ -41,7 +41,6 @@ QWidget* tavolaEstrazione(Legame& legame, std::span<CampoTesto, kCampiEstrazione
     }
   }
   griglia->setColumnMinimumWidth(0, tavola->fontMetrics().horizontalAdvance(QStringLiteral("Nazionale  ")));
-  griglia->setRowStretch(kRuote, 1);
   return tavola;
 }
 
@@ -62,15 +61,18 @@ QLayout* intestazione(Legame& legame, Etichetta& prima, Etichetta& numero, Etich
   return riga;
 }
 
-QLayout* tavolaConBarra(Legame& legame, ControlliEstrazione& estrazione) {
-  auto* riga = new QHBoxLayout;
-  riga->setSpacing(10);
-  riga->addWidget(tavolaEstrazione(legame, estrazione.txtestr));
-  auto* barra = legame.barra(estrazione.VScroll1, QStringLiteral("VScroll1"));
+QWidget* tavolaConBarra(Legame& legame, ControlliEstrazione& estrazione) {
+  auto* tavola = tavolaEstrazione(legame, estrazione.txtestr);
+  aggiungiBarra(legame, *tavola, estrazione.VScroll1);
+  return tavola;
+}
+
+void aggiungiBarra(Legame& legame, QWidget& tavola, BarraScorrimento& VScroll1, int primaRiga) {
+  auto* barra = legame.barra(VScroll1, QStringLiteral("VScroll1"));
   barra->setAccessibleName(QStringLiteral("Scorri le estrazioni"));
   barra->setToolTip(QStringLiteral("Scorri le estrazioni: in alto la più vecchia"));
-  riga->addWidget(barra);
-  return riga;
+  auto* griglia = static_cast<QGridLayout*>(tavola.layout());
+  griglia->addWidget(barra, primaRiga, griglia->columnCount(), griglia->rowCount() - primaRiga, 1);
 }
 
 }  // namespace vaticlo

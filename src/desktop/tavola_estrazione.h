@@ -19,6 +19,9 @@ namespace vaticlo {
                                     Etichetta& data);
 
 /// The table with its scroll bar at the right.
-[[nodiscard]] QLayout* tavolaConBarra(Legame& legame, ControlliEstrazione& estrazione);
+[[nodiscard]] QWidget* tavolaConBarra(Legame& legame, ControlliEstrazione& estrazione);
+
+/// Puts the scroll bar of a draw window at the right of a table laid out as a grid, as tall as its rows.
+void aggiungiBarra(Legame& legame, QWidget& tavola, BarraScorrimento& VScroll1, int primaRiga = 0);
 
 }  // namespace vaticlo

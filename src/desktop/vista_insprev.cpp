@@ -26,8 +26,9 @@ QWidget* selezione(Legame& legame, frmInsPrev& frm) {
   auto* widget = new QWidget(legame.vista());
   auto* riga = new QHBoxLayout(widget);
   riga->setContentsMargins(0, 0, 0, 0);
-  riga->addWidget(cornice(legame, frm.Frame1, QStringLiteral("Frame1"),
-                          legame.elenco(frm.cmbMetodo, QStringLiteral("cmbMetodo"))));
+  auto* metodi = legame.elenco(frm.cmbMetodo, QStringLiteral("cmbMetodo"));
+  metodi->setMinimumContentsLength(24);
+  riga->addWidget(cornice(legame, frm.Frame1, QStringLiteral("Frame1"), metodi));
   auto* previsioni = legame.elenco(frm.cmbPrevisione, QStringLiteral("cmbPrevisione"));
   previsioni->setMinimumContentsLength(32);
   riga->addWidget(cornice(legame, frm.Frame10, QStringLiteral("Frame10"), previsioni));
@@ -40,8 +41,7 @@ QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
   auto* colonna = new QVBoxLayout(gruppo);
   colonna->addLayout(
       intestazione(legame, frm.Label1, frm.estrazione.lblnestr, frm.Label13, frm.estrazione.lbldataestr));
-  colonna->addLayout(tavolaConBarra(legame, frm.estrazione));
-  colonna->addStretch(1);
+  colonna->addWidget(tavolaConBarra(legame, frm.estrazione), 1);
   return gruppo;
 }
 
@@ -69,8 +69,7 @@ QWidget* previsione(Legame& legame, frmInsPrev& frm) {
 
   auto* tutto = new QVBoxLayout(gruppo);
   tutto->addLayout(prima);
-  tutto->addWidget(combinazioni);
-  tutto->addStretch(1);
+  tutto->addWidget(combinazioni, 1);
   return gruppo;
 }
 

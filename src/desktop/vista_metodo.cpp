@@ -50,8 +50,7 @@ QWidget* vista(const std::shared_ptr<frmMetodo>& frm, const Confine& confine) {
   sinistra->setSpacing(10);
   sinistra->addWidget(scelta);
   sinistra->addLayout(testa);
-  sinistra->addLayout(tavola);
-  sinistra->addStretch(1);
+  sinistra->addWidget(tavola, 1);
 
   auto* area = legame->area(frm->RichTextBox1, QStringLiteral("RichTextBox1"));
   area->setAccessibleName(QStringLiteral("Esiti delle previsioni"));

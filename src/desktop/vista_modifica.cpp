@@ -26,7 +26,7 @@ QWidget* vista(const std::shared_ptr<frmModifica>& frm, const Confine& confine) 
 
   auto* centro = new QHBoxLayout;
   centro->setSpacing(24);
-  centro->addLayout(tavola);
+  centro->addWidget(tavola);
   centro->addStretch(1);
   centro->addLayout(pulsanti);
 

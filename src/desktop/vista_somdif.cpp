@@ -1,7 +1,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -30,7 +29,9 @@ QWidget* tavola(Legame& legame, frmSomdif& frm) {
     const auto colonna = static_cast<std::size_t>(c);
     auto* testa = new QLabel(daUtf8(kCoppiePosizioni[colonna].testa), widget);
     testa->setObjectName(c == 0 ? QStringLiteral("Label12") : QStringLiteral("Label%1").arg(13 + c));
-    griglia->addWidget(testa, 0, c + 1, Qt::AlignCenter);
+    testa->setAlignment(Qt::AlignCenter);
+    testa->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    griglia->addWidget(testa, 0, c + 1);
     for (int i = 0; i < kRuoteSomDif; ++i) {
       auto* campo =
           legame.campo(frm.colonne[colonna][static_cast<std::size_t>(i)],
@@ -46,7 +47,7 @@ QWidget* tavola(Legame& legame, frmSomdif& frm) {
     etichetta->setObjectName(QStringLiteral("Label%1").arg(i + 2));
     griglia->addWidget(etichetta, i + 1, 0);
   }
-  griglia->setRowStretch(kRuoteSomDif + 1, 1);
+  aggiungiBarra(legame, *widget, frm.VScroll1, 1);
   return widget;
 }
 
@@ -57,13 +58,6 @@ QWidget* vista(const std::shared_ptr<frmSomdif>& frm, const Confine& confine) {
   auto* legame = new Legame(widget, frm, confine);
 
   auto* testa = intestazione(*legame, frm->Label1, frm->lblnestr, frm->Label13, frm->lbldataestr);
-  auto* centro = new QHBoxLayout;
-  centro->setSpacing(10);
-  centro->addWidget(tavola(*legame, *frm), 1);
-  auto* barra = legame->barra(frm->VScroll1, QStringLiteral("VScroll1"));
-  barra->setAccessibleName(QStringLiteral("Scorri le estrazioni"));
-  centro->addWidget(barra);
-
   auto* sotto = new QHBoxLayout;
   sotto->setSpacing(18);
   sotto->addWidget(legame->opzioneDisegnata(frm->optdistciclo, QString::fromStdString(frm->Label28.Caption()),
@@ -81,7 +75,7 @@ QWidget* vista(const std::shared_ptr<frmSomdif>& frm, const Confine& confine) {
   tutto->setContentsMargins(14, 12, 14, 12);
   tutto->setSpacing(12);
   tutto->addLayout(testa);
-  tutto->addLayout(centro, 1);
+  tutto->addWidget(tavola(*legame, *frm), 1);
   tutto->addLayout(sotto);
   widget->setProperty(kPrimoFuoco, QStringLiteral("VScroll1"));
   return widget;

@@ -2,6 +2,7 @@
 
 #include "dialogs/elenco_scansione.h"
 #include "dialogs/frm_aggiornamento.h"
+#include "dialogs/frm_guida.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_insprev.h"
@@ -33,7 +34,7 @@ QWidget* traQueste(const std::shared_ptr<Finestra>& finestra, const Confine& con
 
 QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine) {
   return traQueste<frmInserisci, frmModifica, frmMetodo, frmInsPrev, frmStatistica, ElencoScansione,
-                   frmSomdif, frmMetodi, frmMigliore, frmAggiornamento, frmInfo>(finestra, confine);
+                   frmSomdif, frmMetodi, frmMigliore, frmAggiornamento, frmGuida, frmInfo>(finestra, confine);
 }
 
 }  // namespace vaticlo

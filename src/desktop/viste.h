@@ -11,6 +11,7 @@ namespace vaticlo {
 
 class ElencoScansione;
 class frmAggiornamento;
+class frmGuida;
 class frmInfo;
 class frmInserisci;
 class frmInsPrev;
@@ -30,6 +31,7 @@ inline constexpr const char* kPrimoFuoco = "primoFuoco";
 
 [[nodiscard]] QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmAggiornamento>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmGuida>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInfo>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInserisci>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine);

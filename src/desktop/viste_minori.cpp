@@ -1,15 +1,18 @@
 #include <QComboBox>
+#include <QFile>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QTextBrowser>
 #include <QVBoxLayout>
 
 #include "controls/xpcmdbutton.h"
 #include "desktop/legame.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_aggiornamento.h"
+#include "dialogs/frm_guida.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_metodi.h"
 #include "dialogs/frm_migliore.h"
@@ -33,6 +36,21 @@ QWidget* vista(const std::shared_ptr<frmInfo>& frm, const Confine& confine) {
   tutto->addWidget(legame->etichetta(frm->Label2, QStringLiteral("Label2")), 0, Qt::AlignCenter);
   tutto->addWidget(legame->etichetta(frm->Label3, QStringLiteral("Label3")), 0, Qt::AlignCenter);
   tutto->addStretch(1);
+  return widget;
+}
+
+QWidget* vista(const std::shared_ptr<frmGuida>& frm, const Confine& confine) {
+  auto* widget = new QWidget;
+  new Legame(widget, frm, confine);
+  auto* pagina = new QTextBrowser(widget);
+  pagina->setObjectName(QStringLiteral("pagina"));
+  pagina->setAccessibleName(QString::fromStdString(frm->Caption()));
+  pagina->setOpenExternalLinks(true);
+  pagina->setSource(QUrl::fromLocalFile(QFile::decodeName(frm->pagina.c_str())));
+  auto* tutto = new QVBoxLayout(widget);
+  tutto->setContentsMargins(0, 0, 0, 0);
+  tutto->addWidget(pagina);
+  widget->setProperty(kPrimoFuoco, pagina->objectName());
   return widget;
 }
 

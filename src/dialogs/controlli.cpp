@@ -32,6 +32,16 @@ void Elenco::AddItem(std::string testo, int itemData) {
   cambiato();
 }
 
+void Elenco::riempi(std::vector<std::string> testi) {
+  voci_.clear();
+  indice_ = -1;
+  for (auto& testo : testi) {
+    if (testo == testo_) indice_ = static_cast<int>(voci_.size());
+    voci_.push_back({std::move(testo)});
+  }
+  cambiato();
+}
+
 void Elenco::ListIndex(int indice) {
   if (indice != indice_) scegli(indice);
 }

@@ -126,6 +126,8 @@ class Elenco : public Controllo {
 
   void Clear();
   void AddItem(std::string testo, int itemData = 0);
+  /// Other items; the text stays, chosen when an item has it, and no event follows.
+  void riempi(std::vector<std::string> testi);
   [[nodiscard]] const std::vector<Voce>& voci() const { return voci_; }
   [[nodiscard]] int ListIndex() const { return indice_; }  ///< from 0; -1: none chosen
   /// Chooses an item; Click follows when the choice changes. Failure 380 for an item that is not there.
@@ -139,6 +141,7 @@ class Elenco : public Controllo {
   [[nodiscard]] int ItemDataScelta() const;
 
   std::function<void()> Click;
+  std::function<void()> DropDown;  ///< runs before the items are shown
 
  private:
   std::vector<Voce> voci_;

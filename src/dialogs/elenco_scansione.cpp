@@ -1,5 +1,7 @@
 #include "dialogs/elenco_scansione.h"
 
+#include <utility>
+
 #include "platform/rapporto.h"
 
 namespace vaticlo {
@@ -21,29 +23,36 @@ void ElencoScansione::Form_Load() {
   btnCerca_Click();
 }
 
+void ElencoScansione::evento(const std::function<void()>& passi) {
+  if (inCorso_) {
+    inAttesa_.push_back(passi);
+    return;
+  }
+  const bool daSolo = !std::exchange(inEvento_, true);
+  passi();
+  if (!daSolo) return;
+  for (; !inAttesa_.empty(); inAttesa_.pop_front()) inAttesa_.front()();
+  inEvento_ = false;
+}
+
 void ElencoScansione::optSelMetodo_Click(int indice) {
-  // With "Scegli" the list's own event may have run the scan just before: it then runs twice, which is meant.
-  metodo.optSelMetodo_Click(indice);
-  btnCerca_Click();
+  evento([this, indice] {
+    // With "Scegli" the list's own event may have run the scan just before: it then runs twice, which is
+    // meant.
+    metodo.optSelMetodo_Click(indice);
+    btnCerca_Click();
+  });
 }
 
 void ElencoScansione::btnCerca_Click() {
-  if (inCorso_) {
-    daRifare_ = true;  // the selection has changed under a scan: another follows
-    return;
-  }
-  do {
-    daRifare_ = false;
-    cerca();
-  } while (daRifare_);
+  evento([this] { cerca(); });
 }
 
 void ElencoScansione::cerca() {
-  inCorso_ = true;
-  btnCancella.Enabled(false);
   prgbar.Visible(true);
   RichTextBox1.Visible(false);
   lblPrev.Visible(false);
+  inCorso_ = true;
   std::filesystem::path rapporto;
   try {
     rapporto = scansione();
@@ -52,12 +61,13 @@ void ElencoScansione::cerca() {
     throw;
   }
   inCorso_ = false;
-  btnCancella.Enabled(true);
   prgbar.Visible(false);
   RichTextBox1.Text(testoRapporto(rapporto));
 }
 
-void ElencoScansione::btnCancella_Click() { cornice().chiudi(*this); }
+void ElencoScansione::btnCancella_Click() {
+  evento([this] { cornice().chiudi(*this); });
+}
 
 void ElencoScansione::mostraRapporto(bool qualcosa) {
   lblPrev.Visible(!qualcosa);
@@ -77,8 +87,10 @@ std::filesystem::path frmPrev::scansione() {
 }
 
 void frmPrev::btnStampa_Click() {
-  if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Pulsanti::SiNo}) == Risposta::Si)
-    programma_.servizi.stampa(RichTextBox1.Text());
+  evento([this] {
+    if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Pulsanti::SiNo}) == Risposta::Si)
+      programma_.servizi.stampa(RichTextBox1.Text());
+  });
 }
 
 frmVinc::frmVinc(Programma& programma, Cornice& cornice) : ElencoScansione(programma, cornice) {
@@ -92,8 +104,10 @@ std::filesystem::path frmVinc::scansione() {
 }
 
 void frmVinc::UpDown1_Change(int ultime) {
-  txtColpi.Text(std::to_string(ultime));
-  btnCerca_Click();
+  evento([this, ultime] {
+    txtColpi.Text(std::to_string(ultime));
+    btnCerca_Click();
+  });
 }
 
 }  // namespace vaticlo

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <deque>
+#include <functional>
+
 #include "dialogs/controlli.h"
 #include "dialogs/finestra.h"
 #include "dialogs/scelta_metodo.h"
@@ -8,7 +11,8 @@
 
 namespace vaticlo {
 
-/// What the windows of the two scans share: the choice of methods, the progress, the report shown.
+/// What the windows of the two scans share: the choice of methods, the progress, the report shown. An event
+/// that comes while a scan is under way waits until it has ended, then runs.
 class ElencoScansione : public Finestra, protected FinestraScansione {
  public:
   ElencoScansione(Programma& programma, Cornice& cornice);
@@ -28,6 +32,7 @@ class ElencoScansione : public Finestra, protected FinestraScansione {
   Pulsante btnCancella{"&Esci", "Chiudi la finestra"};
 
  protected:
+  void evento(const std::function<void()>& passi);
   /// Runs the scan and gives the report file that it wrote.
   virtual std::filesystem::path scansione() = 0;
 
@@ -42,7 +47,9 @@ class ElencoScansione : public Finestra, protected FinestraScansione {
  private:
   void cerca();
 
-  bool inCorso_ = false, daRifare_ = false;
+  bool inCorso_ = false;   ///< a scan is under way
+  bool inEvento_ = false;  ///< an event is, with what it causes
+  std::deque<std::function<void()>> inAttesa_;
 };
 
 /// The predictions in play.

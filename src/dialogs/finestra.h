@@ -18,6 +18,8 @@ class Cornice {
   virtual void riapri(Finestra& finestra) = 0;
   /// Opens the viewer of the two lists of a statistics run, or brings it up again.
   virtual void apriRisultati() = 0;
+  /// Long work begins or ends in one of the windows: meanwhile the main window takes no command.
+  virtual void lavoro(bool inCorso) = 0;
 };
 
 /// Size of a child window and its place beside the main window's top left corner, in twips (15 are a pixel at
@@ -40,6 +42,8 @@ class Finestra {
   virtual void Form_Activate() {}
   /// Long work is under way inside one of its events: it can't be closed and no other window opened.
   [[nodiscard]] virtual bool occupata() const { return false; }
+  /// Asks such work to end soon.
+  virtual void interrompi() {}
 
   [[nodiscard]] const std::string& Caption() const { return caption_; }
   [[nodiscard]] const Misure& misure() const { return misure_; }

@@ -1,6 +1,6 @@
 #include "dialogs/frm_insprev.h"
 
-#include "methods/catalogo.h"
+#include "dialogs/scelta_metodo.h"
 #include "platform/failure.h"
 #include "platform/testo.h"
 
@@ -26,7 +26,7 @@ std::string voceDiElenco(const FileMetodo& metodo, int slot) {
 }  // namespace
 
 frmInsPrev::frmInsPrev(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
-  for (auto& nome : metodiOfferti(programma.cartella)) cmbMetodo.AddItem(std::move(nome));
+  offriMetodi(cmbMetodo, programma.cartella);
   for (auto& campo : estrazione.txtestr) campo.Locked = true;
   txtNum.esempio = "Es. 899.11.22.33";
   txtRuote.esempio = "Es.:Ba-Ca-Tutte";

@@ -7,6 +7,7 @@
 #include "dialogs/aggiornamento.h"
 #include "dialogs/elenco_scansione.h"
 #include "dialogs/frm_aggiornamento.h"
+#include "dialogs/frm_guida.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_insprev.h"
@@ -17,6 +18,7 @@
 #include "dialogs/frm_somdif.h"
 #include "dialogs/frm_statistica.h"
 #include "dialogs/gestione_metodi.h"
+#include "dialogs/importa_estrazioni.h"
 #include "platform/failure.h"
 
 namespace vaticlo {
@@ -118,11 +120,17 @@ void frmPrincipale::comando(Comando comando) {
     case Comando::Riserva:
       apri<frmAggiornamento>();
       break;
+    case Comando::Importa:
+      importaEstrazioniDaFile(programma_);
+      break;
     case Comando::PaginaEstrazioni:
       programma_.servizi.apriPagina(kPaginaEstrazioni);
       break;
     case Comando::PaginaRegole:
       programma_.servizi.apriPagina(kPaginaRegole);
+      break;
+    case Comando::Guida:
+      apriGuida();
       break;
     case Comando::Informazioni:
       apri<frmInfo>();
@@ -181,6 +189,14 @@ bool frmPrincipale::occupata() const {
   return std::any_of(finestre_.begin(), finestre_.end(), [](const auto& f) { return f->occupata(); });
 }
 
+void frmPrincipale::interrompi() {
+  for (const auto& finestra : finestre_) finestra->interrompi();
+}
+
+void frmPrincipale::lavoro(bool inCorso) {
+  if (vista_ != nullptr) vista_->abilitaComandi(!inCorso);
+}
+
 void frmPrincipale::chiudi(Finestra& finestra) {
   const auto posto =
       std::find_if(finestre_.begin(), finestre_.end(), [&](const auto& f) { return f.get() == &finestra; });
@@ -215,6 +231,13 @@ void frmPrincipale::creaMetodo() {
   const auto nome = programma_.servizi.chiedi("Nome del nuovo metodo:", "Crea Metodo");
   if (nome.empty()) return;
   if (GestioneMetodi(programma_).crea(nome)) programma_.servizi.mostra({"Il metodo è stato creato!"});
+}
+
+void frmPrincipale::apriGuida() {
+  if (std::filesystem::exists(programma_.cartella.guida()))
+    apri<frmGuida>();
+  else
+    programma_.servizi.mostra({"La guida non è nella cartella del programma (guida/guida.html)!"});
 }
 
 }  // namespace vaticlo

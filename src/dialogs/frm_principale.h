@@ -18,6 +18,7 @@ class VistaPrincipale {
   virtual void portaSu(Finestra& finestra) = 0;
   virtual void togli(Finestra& finestra) = 0;
   virtual void chiudiPrincipale() = 0;
+  virtual void abilitaComandi(bool abilitati) = 0;
 };
 
 /// The main window: the commands of its menu and its toolbar, the child windows that are open, and which of
@@ -44,11 +45,14 @@ class frmPrincipale : public Cornice {
   void Form_Unload();
   /// Long work is under way: only its own stop is listened to.
   [[nodiscard]] bool occupata() const;
+  /// Asks the work under way to end soon.
+  void interrompi();
 
   void chiudiAltre(Finestra& tranne) override { chiudiTutte(&tranne); }
   void chiudi(Finestra& finestra) override;
   void riapri(Finestra& finestra) override;
   void apriRisultati() override;
+  void lavoro(bool inCorso) override;
 
   [[nodiscard]] const std::vector<std::shared_ptr<Finestra>>& finestre() const { return finestre_; }
   template <class F>
@@ -66,6 +70,7 @@ class frmPrincipale : public Cornice {
   void apriNuova(const std::shared_ptr<Finestra>& finestra);
   void chiudiTutte(const Finestra* tranne = nullptr);
   void creaMetodo();
+  void apriGuida();
 
   Programma& programma_;
   VistaPrincipale* vista_ = nullptr;

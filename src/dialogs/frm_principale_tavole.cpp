@@ -25,9 +25,11 @@ constexpr std::array kMenu = {
     VoceMenu{"mnuUtility2", 2, "Vincenti alle Ultime Estrazioni", Comando::Vincenti},
     VoceMenu{"mnuUtility3", 2, "Somma/Distanza Estratti", Comando::Somdif},
     VoceMenu{"mnuUtility4", 2, "Scarica Archivio di Riserva", Comando::Riserva},
-    VoceMenu{"mnuUtility5", 2, "Estrazioni del Lotto (pagina web)", Comando::PaginaEstrazioni},
-    VoceMenu{"mnuUtility6", 2, "Regole del Lotto (pagina web)", Comando::PaginaRegole},
+    VoceMenu{"mnuUtility5", 2, "Importa Estrazioni da File...", Comando::Importa},
+    VoceMenu{"mnuUtility6", 2, "Estrazioni del Lotto (pagina web)", Comando::PaginaEstrazioni},
+    VoceMenu{"mnuUtility7", 2, "Regole del Lotto (pagina web)", Comando::PaginaRegole},
     VoceMenu{"mnuInformazioni", 1, "&?", Comando::Sottomenu},
+    VoceMenu{"mnuInformazioni1", 2, "&Guida", Comando::Guida, "F1"},
     VoceMenu{"mnuInformazioni2", 2, "&Informazioni su....", Comando::Informazioni},
 };
 

@@ -21,8 +21,10 @@ enum class Comando {
   Vincenti,
   Somdif,
   Riserva,
+  Importa,
   PaginaEstrazioni,
   PaginaRegole,
+  Guida,
   Informazioni,
 };
 
@@ -32,6 +34,7 @@ struct VoceMenu {
   int livello;
   std::string_view caption;
   Comando comando;
+  std::string_view tasto = {};  ///< a key of its own
 };
 [[nodiscard]] std::span<const VoceMenu> tavolaMenu();
 

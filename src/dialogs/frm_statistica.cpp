@@ -160,6 +160,7 @@ void frmStatistica::btnStampa_Click() {
 void frmStatistica::btnCancella_Click() { cornice().chiudi(*this); }
 
 void frmStatistica::corsaIniziata() {
+  cornice().lavoro(true);
   btnStop.Enabled(true);
   btnElabora.Enabled(false);
   btnCancella.Enabled(false);
@@ -174,6 +175,7 @@ void frmStatistica::comandiACorsaFerma() {
   btnStop.Enabled(false);
   btnElabora.Enabled(true);
   btnCancella.Enabled(true);
+  cornice().lavoro(false);
 }
 
 }  // namespace vaticlo

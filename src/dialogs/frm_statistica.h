@@ -17,6 +17,7 @@ class frmStatistica : public Finestra, private FinestraCorsa {
 
   void Form_Load() override;
   [[nodiscard]] bool occupata() const override { return btnStop.Enabled(); }
+  void interrompi() override { btnStop_Click(); }
   void DTInizio_Change();
   void DTFine_Change();
   void btnElabora_Click();

@@ -2,11 +2,16 @@
 
 namespace vaticlo {
 
+void offriMetodi(Elenco& elenco, const CartellaProgramma& cartella) {
+  elenco.DropDown = [&elenco, &cartella] { elenco.riempi(metodiOfferti(cartella)); };
+  elenco.DropDown();
+}
+
 ControlliMetodo::ControlliMetodo(const CartellaProgramma& cartella) {
   optSelMetodo[0].Caption("Tutti");
   optSelMetodo[0].Value(true);
   optSelMetodo[1].Caption("Scegli");
-  for (auto& nome : metodiOfferti(cartella)) cmbMetodo.AddItem(std::move(nome));
+  offriMetodi(cmbMetodo, cartella);
   cmbMetodo.Enabled(false);
 }
 

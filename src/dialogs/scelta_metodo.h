@@ -7,6 +7,9 @@
 
 namespace vaticlo {
 
+/// Offers the methods of the folder in a list, read anew each time it drops down. The folder outlives it.
+void offriMetodi(Elenco& elenco, const CartellaProgramma& cartella);
+
 /// The controls that choose between all methods and one: "Tutti" is on and the list disabled when a dialog
 /// opens.
 class ControlliMetodo {

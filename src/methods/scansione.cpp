@@ -49,7 +49,7 @@ void ScansionePrevisioni::scorriMetodi(const std::filesystem::path& percorso) {
       RiportaPrevisione(rapporto, nome);
     }
     frm_.prgbar_Value(++fatti);
-    programma_.servizi.eventiInAttesa();
+    programma_.servizi.ridisegna();
   }
   rapporto.chiudi();
   frm_.mostraRapporto(g_.ContaGiocabili >= 1);

@@ -15,9 +15,8 @@ namespace vaticlo {
 
 namespace {
 
-constexpr long kAttesaCollegamento = 20;                // seconds
-constexpr long kAttesaSenzaDati = 30;                   // seconds at less than a byte a second
-constexpr std::size_t kLimite = std::size_t{64} << 20;  // no archive is anywhere near it
+constexpr long kRedirezioni = 5;
+constexpr long kQuasiSilenzio = 64;  // bytes a second
 
 // The few entries of libcurl that a download needs, from a library opened on first use.
 class LibreriaCurl {
@@ -27,14 +26,16 @@ class LibreriaCurl {
     prendi(init, "curl_easy_init");
     prendi(setopt, "curl_easy_setopt");
     prendi(perform, "curl_easy_perform");
+    prendi(getinfo, "curl_easy_getinfo");
     prendi(cleanup, "curl_easy_cleanup");
   }
 
-  [[nodiscard]] bool pronta() const { return init && setopt && perform && cleanup; }
+  [[nodiscard]] bool pronta() const { return init && setopt && perform && getinfo && cleanup; }
 
   decltype(&curl_easy_init) init = nullptr;
   decltype(&curl_easy_setopt) setopt = nullptr;
   decltype(&curl_easy_perform) perform = nullptr;
+  decltype(&curl_easy_getinfo) getinfo = nullptr;
   decltype(&curl_easy_cleanup) cleanup = nullptr;
 
  private:
@@ -46,33 +47,48 @@ class LibreriaCurl {
   void* libreria_;  // never closed: TLS libraries below it do not survive being unloaded
 };
 
-std::size_t raccogli(const char* dati, std::size_t uno, std::size_t ottetti, void* destinazione) {
-  auto& testo = *static_cast<std::string*>(destinazione);
-  if (testo.size() + ottetti > kLimite) return 0;
-  testo.append(dati, uno * ottetti);
-  return uno * ottetti;
+struct Raccolta {
+  std::size_t limite;
+  std::string testo;
+};
+
+std::size_t raccogli(const char* dati, std::size_t uno, std::size_t quanti, void* destinazione) {
+  auto& raccolta = *static_cast<Raccolta*>(destinazione);
+  if (uno * quanti > raccolta.limite - raccolta.testo.size()) return CURL_WRITEFUNC_ERROR;
+  raccolta.testo.append(dati, uno * quanti);
+  return uno * quanti;
 }
 
-std::optional<std::string> scarica(const std::string& indirizzo) {
+std::optional<std::string> scarica(const std::string& indirizzo, const LimitiScaricamento& limiti) {
   const LibreriaCurl curl;
   if (!curl.pronta()) return std::nullopt;
   const std::unique_ptr<CURL, decltype(curl.cleanup)> richiesta(curl.init(), curl.cleanup);
   if (!richiesta) return std::nullopt;
 
-  std::string contenuto;
-  curl.setopt(richiesta.get(), CURLOPT_URL, indirizzo.c_str());
-  curl.setopt(richiesta.get(), CURLOPT_PROTOCOLS_STR, "http,https,file");
-  curl.setopt(richiesta.get(), CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
-  curl.setopt(richiesta.get(), CURLOPT_FOLLOWLOCATION, 1L);
-  curl.setopt(richiesta.get(), CURLOPT_FAILONERROR, 1L);
-  curl.setopt(richiesta.get(), CURLOPT_NOSIGNAL, 1L);
-  curl.setopt(richiesta.get(), CURLOPT_CONNECTTIMEOUT, kAttesaCollegamento);
-  curl.setopt(richiesta.get(), CURLOPT_LOW_SPEED_LIMIT, 1L);
-  curl.setopt(richiesta.get(), CURLOPT_LOW_SPEED_TIME, kAttesaSenzaDati);
-  curl.setopt(richiesta.get(), CURLOPT_WRITEFUNCTION, &raccogli);
-  curl.setopt(richiesta.get(), CURLOPT_WRITEDATA, &contenuto);
-  if (curl.perform(richiesta.get()) != CURLE_OK) return std::nullopt;
-  return contenuto;
+  Raccolta raccolta{limiti.ottetti, {}};
+  bool accettate = true;  // an older library would take any protocol instead of these two
+  const auto opzione = [&](CURLoption quale, auto valore) {
+    accettate = curl.setopt(richiesta.get(), quale, valore) == CURLE_OK && accettate;
+  };
+  opzione(CURLOPT_URL, indirizzo.c_str());
+  opzione(CURLOPT_PROTOCOLS_STR, "http,https");
+  opzione(CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+  opzione(CURLOPT_FOLLOWLOCATION, 1L);
+  opzione(CURLOPT_MAXREDIRS, kRedirezioni);
+  opzione(CURLOPT_FAILONERROR, 1L);
+  opzione(CURLOPT_NOSIGNAL, 1L);
+  opzione(CURLOPT_CONNECTTIMEOUT, static_cast<long>(limiti.collegamento.count()));
+  opzione(CURLOPT_LOW_SPEED_LIMIT, kQuasiSilenzio);
+  opzione(CURLOPT_LOW_SPEED_TIME, static_cast<long>(limiti.silenzio.count()));
+  opzione(CURLOPT_TIMEOUT, static_cast<long>(limiti.tutto.count()));
+  opzione(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(limiti.ottetti));
+  opzione(CURLOPT_WRITEFUNCTION, &raccogli);
+  opzione(CURLOPT_WRITEDATA, &raccolta);
+  if (!accettate || curl.perform(richiesta.get()) != CURLE_OK) return std::nullopt;
+  long stato = 0;
+  curl.getinfo(richiesta.get(), CURLINFO_RESPONSE_CODE, &stato);
+  if (stato < 200 || stato > 299) return std::nullopt;
+  return std::move(raccolta.testo);
 }
 
 // Beside the destination first, then in its place in one step: whatever fails, the old file stays whole.
@@ -96,8 +112,9 @@ bool sostituisci(const std::filesystem::path& destinazione, const std::string& c
 
 }  // namespace
 
-bool scaricaInFile(const std::string& indirizzo, const std::filesystem::path& destinazione) {
-  const auto contenuto = scarica(indirizzo);
+bool scaricaInFile(const std::string& indirizzo, const std::filesystem::path& destinazione,
+                   const LimitiScaricamento& limiti) {
+  const auto contenuto = scarica(indirizzo, limiti);
   return contenuto && sostituisci(destinazione, *contenuto);
 }
 

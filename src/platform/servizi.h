@@ -26,6 +26,10 @@ class Servizi {
   virtual Risposta mostra(const Messaggio& messaggio) = 0;
   /// The text typed into an input box; empty when it was cancelled.
   virtual std::string chiedi(const std::string& testo, const std::string& titolo) = 0;
+  /// The file that the user picks to be read; an empty path when none.
+  virtual std::filesystem::path scegliFile(const std::string& titolo) = 0;
+  /// `lavoro` has got that far, in percent; 100 ends it.
+  virtual void avanzamento(const std::string& lavoro, int percento) = 0;
   /// Prints the text (UTF-8) on the default printer; without one it does nothing.
   virtual void stampa(const std::string& testo) = 0;
   /// Fetches an address into a file and waits for the end. The file is written only when the transfer was
@@ -33,8 +37,10 @@ class Servizi {
   virtual bool scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) = 0;
   virtual void apriPagina(const std::string& indirizzo) = 0;
   [[nodiscard]] virtual std::chrono::year_month_day oggi() const = 0;
-  /// Gives pending events of the user their turn.
+  /// Gives pending events their turn, those of the user among them.
   virtual void eventiInAttesa() = 0;
+  /// Gives the screen its turn; what the user does meanwhile waits.
+  virtual void ridisegna() = 0;
 };
 
 }  // namespace vaticlo

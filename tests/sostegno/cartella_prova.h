@@ -22,6 +22,8 @@ class ServiziProva : public Servizi {
     domande.push_back({testo, titolo});
     return digitato;
   }
+  std::filesystem::path scegliFile(const std::string& /*titolo*/) override { return scelto; }
+  void avanzamento(const std::string& /*lavoro*/, int percento) override { percenti.push_back(percento); }
   void stampa(const std::string& testo) override { stampati.push_back(testo); }
   bool scarica(const std::string& indirizzo, const std::filesystem::path& /*destinazione*/) override {
     scaricati.push_back(indirizzo);
@@ -33,18 +35,21 @@ class ServiziProva : public Servizi {
     ++pause;
     if (allaPausa) allaPausa();
   }
+  void ridisegna() override { eventiInAttesa(); }
 
   /// The texts of the message boxes so far, as "[title] text".
   [[nodiscard]] std::vector<std::string> detti() const;
 
   Risposta risposta = Risposta::Si;
   std::string digitato;
+  std::filesystem::path scelto;
   bool scaricamentoRiesce = true;
   std::chrono::year_month_day giornoDiOggi{std::chrono::year{2026}, std::chrono::March, std::chrono::day{14}};
   std::function<void()> allaPausa;
   std::vector<Messaggio> messaggi;
   std::vector<std::pair<std::string, std::string>> domande;
   std::vector<std::string> stampati, scaricati, pagine;
+  std::vector<int> percenti;
   int pause = 0;
 };
 

@@ -13,6 +13,7 @@ class CorniceProva : public Cornice {
   void chiudi(Finestra& /*finestra*/) override { chiesto += "chiudi "; }
   void riapri(Finestra& /*finestra*/) override { chiesto += "riapri "; }
   void apriRisultati() override { chiesto += "risultati "; }
+  void lavoro(bool inCorso) override { chiesto += inCorso ? "lavoro " : "libera "; }
 
   std::string chiesto;
 };

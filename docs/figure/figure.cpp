@@ -1,0 +1,230 @@
+// Takes the pictures of the user's guide: vaticlo_figure FOLDER. The main window works on invented draws, on
+// a day of its own, and goes through the guide's worked example; each window is pictured on its way.
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDialog>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QTranslator>
+#include <cstdlib>
+#include <iostream>
+#include <utility>
+
+#include "console/dimostrazione.h"
+#include "desktop/finestra_principale.h"
+#include "desktop/finestra_splash.h"
+#include "desktop/servizi_desktop.h"
+
+namespace vaticlo {
+
+namespace {
+
+constexpr const char* kMetodo = "La mia prova";
+
+/// The desktop's services on a day that stays the same, with a server that always answers.
+class ServiziFigure : public ServiziDesktop {
+ public:
+  [[nodiscard]] std::chrono::year_month_day oggi() const override {
+    return {std::chrono::year{2025}, std::chrono::September, std::chrono::day{23}};
+  }
+  bool scarica(const std::string& /*indirizzo*/, const std::filesystem::path& /*dove*/) override {
+    return true;
+  }
+};
+
+[[noreturn]] void ferma(const QString& perche) {
+  std::cerr << perche.toStdString() << '\n';
+  std::_Exit(EXIT_FAILURE);
+}
+
+class Fotografo {
+ public:
+  Fotografo(Programma& programma, ServiziDesktop& servizi, QString uscita)
+      : uscita_(std::move(uscita)), principale_(programma) {
+    servizi.padre(&finestra_);
+    finestra_.show();
+  }
+
+  void tutte();
+
+ private:
+  void salva(const QString& nome, const QPixmap& figura) const {
+    if (!figura.save(uscita_ + '/' + nome + QStringLiteral(".png"))) ferma("not written: " + nome);
+  }
+  void scatta(const QString& nome) const {
+    QEventLoop posa;  // until the layouts have settled
+    QTimer::singleShot(100, &posa, &QEventLoop::quit);
+    posa.exec();
+    salva(nome, figlia().grab());
+  }
+
+  void scegli(const QString& voce) const {
+    auto* azione = finestra_.findChild<QAction*>(voce);
+    if (azione == nullptr) ferma("no such entry: " + voce);
+    azione->trigger();
+    QApplication::processEvents();
+  }
+  /// Runs `azione`, which waits for an answer to its boxes: the first one gets `risposta` and is pictured
+  /// under `nome`, Enter ends each.
+  template <class Azione>
+  void conRiquadro(QString nome, const QString& risposta, Azione azione) const {
+    QTimer orologio;
+    QObject::connect(&orologio, &QTimer::timeout, [&] {
+      auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (box == nullptr) return;
+      if (auto* campo = box->findChild<QLineEdit*>()) campo->setText(risposta);
+      if (!nome.isEmpty()) salva(std::exchange(nome, {}), conTitolo(*box));
+      QKeyEvent invio(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+      QApplication::sendEvent(box, &invio);
+    });
+    orologio.start(50);
+    azione();
+    QApplication::processEvents();
+  }
+
+  [[nodiscard]] QMdiSubWindow& figlia() const {
+    auto* attiva = finestra_.findChild<QMdiArea*>()->activeSubWindow();
+    if (attiva == nullptr) ferma("no window is open");
+    return *attiva;
+  }
+  template <class T>
+  [[nodiscard]] T& nella(const QString& nome) const {
+    auto* widget = figlia().findChild<T*>(nome);
+    if (widget == nullptr) ferma(figlia().windowTitle() + " has no " + nome);
+    return *widget;
+  }
+  void premi(const QString& nome) const { nella<QAbstractButton>(nome).click(); }
+  void scorri(int estrazione) const { nella<QScrollBar>("VScroll1").setValue(estrazione + 1); }
+  void scrivi(const QString& nome, const QString& testo) const {
+    auto& campo = nella<QLineEdit>(nome);
+    campo.setText(testo);
+    Q_EMIT campo.textEdited(testo);
+  }
+  void sceglie(const QString& nome, const QString& voce) const {
+    auto& elenco = nella<QComboBox>(nome);
+    elenco.setCurrentIndex(elenco.findText(voce));
+    Q_EMIT elenco.activated(elenco.currentIndex());
+  }
+
+  /// A box in the frame of a window; without a screen nobody draws it one.
+  static QPixmap conTitolo(QWidget& box) {
+    QMdiArea area;
+    auto* dentro = new QLabel;
+    dentro->setPixmap(box.grab());
+    auto* cornice = area.addSubWindow(dentro, Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    cornice->setWindowTitle(box.windowTitle());
+    cornice->resize(cornice->sizeHint());
+    return cornice->grab();
+  }
+
+  void previsione(int estrazione, const QStringList& testi, int colpi, const QString& figura = {}) const;
+
+  QString uscita_;
+  Confine confine_;
+  frmPrincipale principale_;
+  FinestraPrincipale finestra_{principale_, confine_};
+};
+
+/// Saves a prediction of the example; `testi` are number, wheels, ambate, ambi and sorti.
+void Fotografo::previsione(int estrazione, const QStringList& testi, int colpi, const QString& figura) const {
+  static const QStringList campi{"txtNum", "txtRuote", "txtAmbate", "txtAmbi", "txtSup"};
+  scegli("mnuGestione21");
+  sceglie("cmbMetodo", kMetodo);
+  scorri(estrazione);
+  for (int n = 0; n < campi.size(); ++n) scrivi(campi[n], testi[n]);
+  sceglie("cmbColpi", QString::number(colpi));
+  if (!figura.isEmpty()) scatta(figura);
+  conRiquadro({}, {}, [&] { premi("btnElabora"); });
+}
+
+void Fotografo::tutte() {
+  scegli("mnu1Inserisci");
+  for (const auto& [campo, numero] : {std::pair{0, 58}, {1, 22}, {2, 47}, {3, 49}, {4, 69}, {5, 27}, {6, 57}})
+    scrivi(QString("txtestr_%1").arg(campo), QString::number(numero));
+  nella<QLineEdit>("txtestr_7").setFocus();
+  scatta("inserisci");
+  scegli("mnu1Modifica");
+  scatta("modifica");
+  salva("principale", finestra_.grab());
+  conRiquadro("cerca", "315", [&] { premi("btnTrova"); });
+  conRiquadro("aggiornamento", {}, [&] { scegli("mnu1Aggiorna"); });
+
+  conRiquadro("crea-metodo", kMetodo, [&] { scegli("mnuGestione11"); });
+  previsione(315, {"899.45.10", "Ro-Ve", "59", "64-82", "59-64-82"}, 10, "crea-previsione");
+  previsione(346, {"", "Na", "40", "", ""}, 9);
+  previsione(358, {"", "Ro-To", "77", "", ""}, 6);
+  scegli("mnuGestione12");
+  sceglie("cmbMetodo", kMetodo);
+  scatta("modifica-metodo");
+  scegli("mnuGestione22");
+  sceglie("cmbMetodo", kMetodo);
+  sceglie("cmbPrevisione", "Previsione n.1 del 04/07//2025");
+  scatta("modifica-previsione");
+
+  scegli("mnuMetodi");
+  scorri(315);
+  scatta("vaticla");
+
+  scegli("mnu1metodo1");
+  premi("optSelMetodo_1");
+  sceglie("cmbMetodo", kMetodo);
+  nella<QDateEdit>("DTInizio").setDate({2025, 6, 7});
+  premi("btnElabora");
+  scatta("statistica");
+  premi("btnVincite");
+  scatta("vincite");
+
+  scegli("mnuUtility1");
+  scatta("in-gioco");
+  scegli("mnuUtility2");
+  scatta("vincenti");
+  scegli("mnuUtility3");
+  scorri(315);
+  scatta("somma-distanza");
+  scegli("mnuUtility4");
+  scatta("riserva");
+  scegli("mnuInformazioni2");
+  scatta("informazioni");
+}
+
+}  // namespace
+
+}  // namespace vaticlo
+
+int main(int argc, char* argv[]) {
+  using namespace vaticlo;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication applicazione(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Vaticlo"));
+  QApplication::setStyle(QStringLiteral("Fusion"));
+  QApplication::setCursorFlashTime(0);
+  QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+  QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+  QTranslator italiano;
+  if (italiano.load(QStringLiteral(":/traduzioni/qtbase_it.qm"))) QApplication::installTranslator(&italiano);
+  if (argc != 2) ferma("vaticlo_figure FOLDER");
+  const QString uscita = argv[1];
+
+  const QTemporaryDir cartella;
+  ServiziFigure servizi;
+  Programma programma(cartella.path().toStdString(), servizi);
+  std::filesystem::create_directories(programma.cartella.metodi());
+  std::ostream nessuno(nullptr);
+  creaDimostrazione(programma, nessuno);
+  FinestraSplash splash([] {});
+  splash.grab().save(uscita + QStringLiteral("/splash.png"));
+  Fotografo(programma, servizi, uscita).tutte();
+  return EXIT_SUCCESS;
+}

@@ -1,0 +1,12 @@
+#include "dialogs/frm_guida.h"
+
+namespace vaticlo {
+
+frmGuida::frmGuida(Programma& programma, Cornice& cornice)
+    : Finestra(cornice), pagina(programma.cartella.guida()) {
+  Caption("Guida");
+}
+
+void frmGuida::Form_Load() { prendiMisure({7500, 11000, 300, 400}); }
+
+}  // namespace vaticlo

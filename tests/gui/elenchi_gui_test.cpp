@@ -1,0 +1,144 @@
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLabel>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTextBrowser>
+
+#include "gui/finestra_prova.h"
+
+using namespace vaticlo;
+using namespace vaticlo::prova;
+
+namespace {
+
+/// 110 draws, 7 on Bari in draw 108. "Metodo 2" has won there, "Zeta" is in play.
+struct Elenchi : PrincipaleProva {
+  Elenchi() {
+    archivioDi(110, "108 Ba 7").scrivi(p);
+    scriviMetodoProva(p, "Metodo 2", {{.estrazione = 107, .ruote = {1}, .ambate = {7}}});
+    scriviMetodoProva(p, "Zeta", {{.estrazione = 109, .ruote = {1}, .colpi = 5, .ambate = {9}}});
+  }
+  /// The methods of the report shown, or the note in its place.
+  [[nodiscard]] QString elenco() const {
+    if (const auto* nota = figlia().findChild<QLabel*>("lblPrev"); nota->isVisible()) return nota->text();
+    QStringList metodi;
+    for (const auto& riga : testo("RichTextBox1").split('\n'))
+      if (riga.startsWith(" Metodo: ")) metodi << riga.mid(9);
+    return metodi.join(' ');
+  }
+};
+
+}  // namespace
+
+class ElenchiGuiTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void theListInPlayFollowsTheChoiceOfAMethod() {
+    Elenchi v;
+    v.scegli("mnuUtility1");
+    QCOMPARE(v.elenco(), QString("Zeta"));
+    v.clicca("btnStampa");
+    QCOMPARE(v.detti(), QStringList("[Ambolino] Stampo la previsione?"));
+    QVERIFY(!v.visibile("cmbMetodo").isEnabled());
+    v.usa("optSelMetodo_0").setFocus();
+    v.premi(Qt::Key_Right);  // "Metodo 1", which is in no file yet
+    QCOMPARE(v.elenco(), QString("Non ci sono previsioni in gioco"));
+    QVERIFY(v.p.esiste("Metodi/Metodo 1.dat"));
+    QVERIFY(!v.visibile("btnStampa").isEnabled());
+    const auto rosso = v.visibile("lblPrev").palette().color(QPalette::WindowText);
+    QVERIFY(rosso.red() > 2 * rosso.green() && rosso.red() > 2 * rosso.blue());
+    v.usa<QComboBox>("cmbMetodo").setFocus();
+    v.premi(Qt::Key_Down, {}, 2);
+    QCOMPARE(v.testo("cmbMetodo") + ": " + v.elenco(), QString("Zeta: Zeta"));
+    v.p.scrivi("Metodi/Nuovo.dat", "");  // a method made while the window is open
+    v.premi(Qt::Key_F4);
+    for (const auto tasto : {Qt::Key_Up, Qt::Key_Return})
+      QTest::keyClick(v.usa<QComboBox>("cmbMetodo").view(), tasto);
+    QCOMPARE(v.testo("cmbMetodo") + ": " + v.elenco(), QString("Nuovo: Non ci sono previsioni in gioco"));
+  }
+
+  void theWinnersFollowTheArrowsFromOneToFive() {
+    Elenchi v;
+    v.scegli("mnuUtility2");
+    v.usa<QSpinBox>("UpDown1").setFocus();
+    for (const auto& [tasto, volte, ultime, elenco] :
+         {std::tuple{Qt::Key_Down, 1, "1", "Non ci sono previsioni vincenti"},
+          {Qt::Key_Up, 1, "2", "Non ci sono previsioni vincenti"},
+          {Qt::Key_Up, 1, "3", "Metodo 2"},
+          {Qt::Key_Up, 5, "5", "Metodo 2"}}) {
+      v.premi(tasto, {}, volte);
+      QCOMPARE(v.testo("txtColpi") + ' ' + v.elenco(), QString(ultime) + ' ' + elenco);
+    }
+    v.scrivi("4");
+    QCOMPARE(v.testo("txtColpi"), QString("5"));
+    v.clicca("btnStampa");
+    QCOMPARE(v.detti(), QStringList());
+  }
+
+  void whatIsPressedDuringAScanRunsBehindIt() {
+    Elenchi v;
+    v.scegli("mnuUtility1");
+    QString durante;
+    v.p.servizi.pause = 0;
+    v.p.servizi.allaPausa = [&] {
+      if (v.p.servizi.pause != 1) return;
+      durante = v.visibile("prgbar").isVisible() ? v.testo("prgbar") : QString("no progress");
+      v.usa<QRadioButton>("optSelMetodo_1").click();
+      v.clicca("btnCancella");
+      v.figlia().close();
+      QCOMPARE(v.aperte().size(), 1);
+    };
+    v.usa("optSelMetodo_0").setFocus();
+    v.premi(Qt::Key_Space);  // chosen already: the scan of all methods once more
+    QCOMPARE(durante, QString("50%"));
+    QCOMPARE(v.p.servizi.pause, 2 + 2);
+    QCOMPARE(v.aperte(), QStringList());
+    QCOMPARE(v.p.contenuto("PrevGioco.txt"), std::string());
+  }
+
+  void theSumViewMarksEqualValuesInYellow() {
+    PrincipaleProva v;
+    archivioDi(3, "1 Ba 33 44, 2 Ba 1 90, 2 Ca 30 29, 2 Fi 10 55, 3 Ba 5 9").scrivi(v.p);
+    v.scegli("mnuUtility3");
+    QTRY_COMPARE(v.fuoco(), QString("VScroll1"));
+    const auto colonna = [&] {
+      QStringList campi;
+      for (int i = 0; i < 3; ++i) {
+        const auto nome = QString("txtestr_%1").arg(i);
+        const auto sfondo = v.visibile(nome).palette().color(QPalette::Base);
+        campi << v.testo(nome) + (sfondo == QColor(255, 255, 0)     ? "*"
+                                  : sfondo == QColor(192, 192, 192) ? ""
+                                                                    : "?");
+      }
+      return v.testo("lblnestr") + ": " + campi.join(' ');
+    };
+    QCOMPARE(colonna(), QString("3: 4 0* 0*"));
+    v.premi(Qt::Key_Up);
+    QCOMPARE(colonna(), QString("2: 1* 1* 45"));
+    v.clicca("optdistmat");
+    QCOMPARE(colonna(), QString("2: 89 1 45"));
+    v.premi(Qt::Key_Tab);
+    v.premi(Qt::Key_Space);
+    QCOMPARE(colonna(), QString("2: 1 59 65"));
+    v.p.servizi.digitato = "12/3/2005";  // of the first draw, whose raw numbers go to the first column
+    v.clicca("btnTrova");
+    QCOMPARE(colonna(), QString("1: 33 44 0"));
+  }
+
+  void theGuideOpensByItsKeyWhenItIsThere() {
+    PrincipaleProva v;
+    v.premi(Qt::Key_F1);
+    QVERIFY(v.detti().value(0).contains("guida/guida.html"));
+    std::filesystem::create_directory(v.p.cartella().guida().parent_path());
+    v.p.scrivi("guida/guida.html", "<meta charset=utf-8><h1>Città</h1>");
+    v.scegli("mnu1Modifica");
+    v.premi(Qt::Key_F1);
+    QCOMPARE(v.aperte(), QStringList({"Modifica Estrazione", "Guida"}));
+    QCOMPARE(v.usa<QTextBrowser>("pagina").toPlainText(), QString("Città"));
+  }
+};
+
+QTEST_MAIN(ElenchiGuiTest)
+#include "elenchi_gui_test.moc"
