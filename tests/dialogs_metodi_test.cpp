@@ -71,19 +71,6 @@ TEST_F(Metodi, AnEventDuringAScanWaitsUntilItHasEnded) {
   EXPECT_EQ(p.contenuto("PrevGioco.txt"), "") << "the report is that of the last choice";
 }
 
-TEST_F(Metodi, TheWinnersFollowTheArrows) {
-  archivioDi(110, "109 Ba 7").scrivi(p);
-  scriviMetodoProva(p, "M", {{.estrazione = 108, .ruote = {1}, .ambate = {7}}});
-  frmVinc frm(p.programma, cornice);
-  frm.Form_Load();
-  EXPECT_EQ(stato(frm), "nota ");
-  frm.UpDown1_Change(2);
-  EXPECT_EQ(frm.txtColpi.Text(), "2");
-  EXPECT_EQ(stato(frm), "testo stampa");
-  EXPECT_THAT(frm.RichTextBox1.Text(), HasSubstr(" Ambata 7 Ba al 1°colpo\n"));
-  EXPECT_FALSE(frm.btnStampa.Click) << "it has no command";
-}
-
 TEST_F(Metodi, TheirWindowRenamesAndDeletesAfterAYes) {
   p.scrivi("Metodi/A.dat", "");
   frmMetodi frm(p.programma, cornice);

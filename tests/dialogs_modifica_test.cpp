@@ -1,6 +1,5 @@
 #include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_modifica.h"
-#include "dialogs/frm_somdif.h"
 #include "sostegno/cornice_prova.h"
 #include "sostegno/logica.h"
 
@@ -109,52 +108,6 @@ TEST(Inserisci, ANumberIsTestedForItsRangeAndAsATextAgainstTheFieldsAtItsLeft) {
     EXPECT_EQ(frm.txtestr[f].Validate(), !messaggio.empty()) << f << ' ' << testo;
     EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, messaggio);
   }
-}
-
-class Somdif : public testing::Test {
- protected:
-  Somdif() {
-    archivioDi(3, "2 Ba 1 90,2 Ca 10 17,2 Fi 1 2,3 Ba 4,3 Ca 7 6,3 Fi 9").data(3, 1, 4, 2005).scrivi(p);
-    frm.Form_Load();
-  }
-  /// The first three fields of the first column, "*" behind the yellow ones, and the number of the draw.
-  [[nodiscard]] std::string colonna() const {
-    std::string testo;
-    for (std::size_t i = 0; i < 3; ++i)
-      testo += frm.colonne[0][i].Text() + (frm.colonne[0][i].BackColor() == kGiallo ? "* " : " ");
-    return testo + "n." + frm.lblnestr.Caption();
-  }
-  ProgrammaProva p;
-  CorniceProva cornice;
-  frmSomdif frm{p.programma, cornice};
-};
-
-TEST_F(Somdif, EachChangeMarksItsOwnEqualValuesAlone) {
-  EXPECT_EQ(cornice.chiesto, "") << "other windows stay open";
-  EXPECT_EQ(colonna(), "4 1 9 n.3");
-  frm.VScroll1.Value(3);
-  EXPECT_EQ(colonna(), "1* 7 1* n.2");
-  frm.VScroll1.Value(4);
-  EXPECT_EQ(colonna(), "4 1 9 n.3");
-  frm.VScroll1.Value(3);
-  frm.optdistmat.Click();
-  EXPECT_EQ(colonna(), "89 7 1 n.2");
-  frm.optsommat.Click();
-  EXPECT_EQ(colonna(), "1 27 3 n.2");
-  p.servizi.digitato = "3";
-  frm.btnTrova_Click();
-  EXPECT_EQ(colonna(), "4 13 9 n.3");
-}
-
-TEST_F(Somdif, ASearchByDateLeavesTheFirstNumbersOfTheDrawInTheFirstColumn) {
-  frm.VScroll1.Value(2);
-  p.servizi.digitato = "1/4/2005";
-  frm.btnTrova_Click();
-  EXPECT_EQ(colonna(), "4* 0* 0* n.3");
-  EXPECT_EQ(frm.colonne[0][5].Text() + frm.colonne[0][6].Text(), "76");
-  EXPECT_EQ(frm.colonne[1][0].Text(), "0") << "there is no field for Firenze";
-  EXPECT_EQ(frm.VScroll1.Value(), 2);
-  EXPECT_TRUE(p.servizi.messaggi.empty());
 }
 
 }  // namespace

@@ -54,7 +54,8 @@ TEST_F(Files, AreReadAsZerosBehindTheirEndAndKeepATailThatIsNotTheirs) {
 
 TEST_F(Files, ThatAreNoPlainOnesFail) {
   ASSERT_EQ(::mkfifo(percorso("tubo").c_str(), 0600), 0);
-  for (const auto& [nome, numero] : {std::pair{"Metodi", 75}, {"tubo", 75}, {"manca/x", 76}}) {
+  for (const auto* nome : {"Metodi", "tubo", "manca/x"}) {
+    const int numero = nome == std::string("manca/x") ? 76 : 75;
     EXPECT_EQ(failureDi([&] { return leggi(nome), 0; }), numero) << nome;
     EXPECT_EQ(failureDi([&] { return scrivi(nome), 0; }), numero) << nome;
   }
