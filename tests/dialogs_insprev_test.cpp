@@ -112,8 +112,10 @@ TEST_F(InsPrev, AModifiedPredictionIsRewrittenWholeInItsSlot) {
   scriviMetodoProva(p, "Metodo 1",
                     {kAltra, {101, {89, 9}, {1, 2}, 5, {1, 2, 3}, {4, 5, 99}, {6, 7, 99}}, kAltra});
   auto& f = apri(true);
+  f.cmbPrevisione.scegli(1);
+  f.cmbPrevisione.Text("Previsione n.1");  // a typed text chooses none
   f.btnElabora_Click();
-  detto("[Attenzione] Errore nella creazione del metodo!");  // none is chosen
+  detto("[Attenzione] Errore nella creazione del metodo!");
   f.cmbPrevisione.scegli(1);
   EXPECT_EQ(f.estrazione.lblnestr.Caption(), "101");
   f.estrazione.VScroll1.Value(111);

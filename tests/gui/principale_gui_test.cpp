@@ -112,6 +112,8 @@ class PrincipaleGuiTest : public QObject {
       v.barra(bottone);
       QCOMPARE(v.failures(), QList<int>());
     }
+    archivioDi(3).scrivi(v.p);
+    QCOMPARE(v.barra("Sirvan"), QStringList("Vaticla"));  // what failed to open has left nothing behind
   }
 };
 
