@@ -122,6 +122,8 @@ class EstrazioniGuiTest : public QObject {
     QCOMPARE(v.detti(), QStringList("[Attenzione] Sei sicuro di voler cancellare l'estrazione selezionata"));
     QCOMPARE(v.aperte(), QStringList("Modifica Estrazione"));
     QCOMPARE(v.vista(), QString("29 12/3/2005: 30 31 0 0 0"));
+    v.clicca("btnAnnulla");
+    QCOMPARE(v.aperte(), QStringList());
   }
 
   void comingBackFromAnotherWindowShowsTheNewestDraw() {

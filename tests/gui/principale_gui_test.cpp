@@ -3,6 +3,7 @@
 #include <QToolButton>
 
 #include "desktop/finestra_splash.h"
+#include "dialogs/aggiornamento.h"
 #include "gui/finestra_prova.h"
 
 using namespace vaticlo;
@@ -90,6 +91,19 @@ class PrincipaleGuiTest : public QObject {
     for (const auto* bottone : v.finestra.findChild<QToolBar*>("Toolbar1")->findChildren<QToolButton*>())
       QVERIFY2(bottone->isHidden() || !bottone->icon().pixmap(32).toImage().allGray(),  // as an empty one is
                qPrintable(bottone->objectName()));
+  }
+
+  void aMethodIsMadeByItsNameAndTheReserveCopyFetchedFromItsServer() {
+    Principale v;
+    v.scegli("mnuGestione11");  // no name: nothing happens
+    v.p.servizi.digitato = "Mio";
+    v.scegli("mnuGestione11");
+    QCOMPARE(v.detti(), QStringList("[Vaticlo] Il metodo è stato creato!"));
+    QVERIFY(v.p.esiste("Metodi/Mio.dat"));
+    v.scegli("mnuUtility4");
+    v.clicca("btninizia");
+    QCOMPARE(v.detti(), QStringList("[Vaticlo] ok"));
+    QVERIFY(v.p.servizi.scaricati == std::vector{indirizzoRiserva()});
   }
 
   void closingDeletesTheReportOfTheLastCheckAlone() {
