@@ -19,6 +19,7 @@
 #include <QTimer>
 #include <QTranslator>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
 #include <utility>
 
@@ -42,6 +43,9 @@ class ServiziFigure : public ServiziDesktop {
   bool scarica(const std::string& /*indirizzo*/, const std::filesystem::path& /*dove*/) override {
     return true;
   }
+  std::filesystem::path scegliFile(const std::string& /*titolo*/) override { return fileDaImportare; }
+
+  std::filesystem::path fileDaImportare;
 };
 
 [[noreturn]] void ferma(const QString& perche) {
@@ -137,6 +141,14 @@ class Fotografo {
   FinestraPrincipale finestra_{principale_, confine_};
 };
 
+/// A public text file of many draws.
+std::string fileDiEstrazioni() {
+  QString righe;
+  for (int n = 0; n < 7000; ++n)
+    righe += QDate(1939, 1, 7).addDays(n * 4).toString("yyyy/MM/dd") + "\tBA\t58\t22\t47\t49\t69\n";
+  return righe.toStdString();
+}
+
 /// Saves a prediction of the example; `testi` are number, wheels, ambate, ambi and sorti.
 void Fotografo::previsione(int estrazione, const QStringList& testi, int colpi, const QString& figura) const {
   static const QStringList campi{"txtNum", "txtRuote", "txtAmbate", "txtAmbi", "txtSup"};
@@ -197,6 +209,9 @@ void Fotografo::tutte() {
   scatta("riserva");
   scegli("mnuInformazioni2");
   scatta("informazioni");
+  scegli("mnuInformazioni1");
+  scatta("guida");
+  conRiquadro("importa", {}, [&] { scegli("mnuUtility5"); });
 }
 
 }  // namespace
@@ -221,6 +236,9 @@ int main(int argc, char* argv[]) {
   ServiziFigure servizi;
   Programma programma(cartella.path().toStdString(), servizi);
   std::filesystem::create_directories(programma.cartella.metodi());
+  std::filesystem::create_directory_symlink(VATICLO_GUIDA, programma.cartella.guida().parent_path());
+  servizi.fileDaImportare = programma.cartella.radice() / "estrazioni.txt";
+  std::ofstream(servizi.fileDaImportare) << fileDiEstrazioni();
   std::ostream nessuno(nullptr);
   creaDimostrazione(programma, nessuno);
   FinestraSplash splash([] {});

@@ -199,6 +199,11 @@ void FinestraPrincipale::togli(Finestra& finestra) {
 void FinestraPrincipale::abilitaComandi(bool abilitati) {
   menuBar()->setEnabled(abilitati);
   findChild<QToolBar*>()->setEnabled(abilitati);
+  // Long work may disable what has the focus, which wanders on then: it comes back behind the work.
+  if (!abilitati)
+    fuoco_ = focusWidget();
+  else if (fuoco_ && area_->activeSubWindow() != nullptr && area_->activeSubWindow()->isAncestorOf(fuoco_))
+    fuoco_->setFocus(Qt::OtherFocusReason);
 }
 
 bool FinestraPrincipale::eventFilter(QObject* oggetto, QEvent* evento) {

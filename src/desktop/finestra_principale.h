@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include "desktop/confine.h"
 #include "dialogs/frm_principale.h"
@@ -38,6 +39,7 @@ class FinestraPrincipale : public QMainWindow, private VistaPrincipale {
   const Confine& confine_;
   QMdiArea* area_;
   bool mostrando_ = false;
+  QPointer<QWidget> fuoco_;
 };
 
 }  // namespace vaticlo

@@ -43,6 +43,18 @@ class ElencoVista : public QComboBox {
   std::function<void()> apre_;
 };
 
+/// A date field that selects the day, month or year that is clicked on, so that digits typed replace it.
+class SelettoreVista : public QDateEdit {
+ public:
+  explicit SelettoreVista(QWidget* padre) : QDateEdit(padre) { lineEdit()->installEventFilter(this); }
+  bool eventFilter(QObject* oggetto, QEvent* evento) override {
+    const bool preso = QDateEdit::eventFilter(oggetto, evento);
+    if (evento->type() == QEvent::MouseButtonRelease && !lineEdit()->hasSelectedText())
+      setSelectedSection(currentSection());
+    return preso;
+  }
+};
+
 void disegnaVoci(QComboBox& combo, const Elenco& modello) {
   const auto& voci = modello.voci();
   bool uguali = combo.count() == static_cast<int>(voci.size());
@@ -211,7 +223,7 @@ void Legame::premuto(Pulsante& modello) {
 }
 
 QDateEdit* Legame::selettoreData(SelettoreData& modello, const QString& nome) {
-  auto* widget = chiamato(new QDateEdit(vista_), nome);
+  auto* widget = chiamato(new SelettoreVista(vista_), nome);
   widget->setCalendarPopup(true);
   widget->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
   segui(modello, [&modello, widget] {
@@ -260,6 +272,7 @@ xpgroupbox* Legame::riquadroDisegnato(Riquadro& modello, const QString& nome) {
 QPlainTextEdit* Legame::area(AreaTesto& modello, const QString& nome) {
   auto* widget = chiamato(new QPlainTextEdit(vista_), nome);
   widget->setReadOnly(true);
+  widget->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   widget->setTabChangesFocus(true);
   widget->setUndoRedoEnabled(false);
   segui(modello, [&modello, widget, mostrato = std::string()]() mutable {

@@ -7,6 +7,6 @@ frmGuida::frmGuida(Programma& programma, Cornice& cornice)
   Caption("Guida");
 }
 
-void frmGuida::Form_Load() { prendiMisure({7500, 11000, 300, 400}); }
+void frmGuida::Form_Load() { prendiMisure({8400, 14850, 100, 100}); }
 
 }  // namespace vaticlo

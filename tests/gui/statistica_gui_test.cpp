@@ -88,7 +88,11 @@ class StatisticaGuiTest : public QObject {
     Statistica v;
     auto& inizio = v.usa<QDateEdit>("DTInizio");
     QCOMPARE(v.testo("DTInizio") + ' ' + v.testo("DTFine"), QString("03/01/2000 14/03/2026"));
-    inizio.setFocus();
+    auto* cifre = inizio.findChild<QLineEdit*>();
+    QTest::mouseClick(cifre, Qt::LeftButton, {}, QPoint(cifre->fontMetrics().horizontalAdvance("03/0"), 5));
+    v.scrivi("5");
+    QCOMPARE(v.testo("DTInizio"), QString("03/05/2000"));
+    inizio.setSelectedSection(QDateEdit::DaySection);
     v.scrivi("20032005");
     QCOMPARE(v.testo("txtestr_0"), QString("104"));
     QCOMPARE(inizio.maximumDate(), QDate(2026, 3, 14));
@@ -119,6 +123,7 @@ class StatisticaGuiTest : public QObject {
     Statistica v;
     v.intervallo("101", "110");
     v.clicca("btnElabora");
+    QCOMPARE(v.fuoco(), QString("btnElabora"));
     v.clicca("btnStampa");
     QCOMPARE(v.detti(), QStringList("[Ambolino] Stampo la statistica?"));
     QCOMPARE(QString::fromStdString(v.p.servizi.stampati.at(0)), v.testo("RichTextBox1"));
