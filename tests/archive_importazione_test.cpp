@@ -1,13 +1,8 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "archive/importazione.h"
+#include "sostegno/logica.h"
 
-namespace vaticlo {
+namespace vaticlo::prova {
 namespace {
-
-using testing::Each;
-using testing::ElementsAre;
 
 /// The message of the error; empty for a text that is taken.
 std::string erroreDi(std::string_view testo) {
@@ -38,7 +33,6 @@ TEST(Import, PutsAllLinesOfADateIntoOneDraw) {
   };
   EXPECT_THAT(cinquina(1, 8), ElementsAre(90, 2, 3, 4, 5));
   EXPECT_THAT(cinquina(2, 1), ElementsAre(58, 22, 47, 49, 69));
-  EXPECT_THAT(cinquina(2, 11), ElementsAre(1, 2, 3, 4, 5));
   EXPECT_THAT(cinquina(2, 8), Each(0));
   for (int ruota = 1; ruota <= 11; ++ruota)
     EXPECT_THAT(cinquina(3, ruota), ElementsAre(20, 30, 40, 50, ruota));
@@ -77,4 +71,4 @@ TEST(Import, TakesAsManyDrawsAsLeaveAFreeSlot) {
 }
 
 }  // namespace
-}  // namespace vaticlo
+}  // namespace vaticlo::prova

@@ -1,7 +1,6 @@
-#include <gmock/gmock.h>
-
 #include "check/clsmetodo.h"
-#include "sostegno/scenario.h"
+#include "check/numeri.h"
+#include "sostegno/logica.h"
 
 namespace vaticlo::prova {
 namespace {
@@ -42,42 +41,33 @@ TEST_F(Verifica, TheReportHasAnEntryForEachPredictionOfTheDraw) {
                      {.estrazione = 5433, .ruote = {1}, .ambate = {12}},
                      {.estrazione = 5432, .ruote = {1, 12}, .colpi = 3, .ambi = {8, 9, 99}}});
   scriviMetodoProva(p, "Metodo 2", {{.estrazione = 5432, .ruote = {1}, .colpi = 4, .ambate = {7}}});
-  const std::string prima =
-      " Previsione n.°1| Metodo: Metodo 1| Numero di Telefono di previsione: 899.12.34|"
-      " Colpi ancora in gioco: 6| Ruote: Ba-Ca-Naz| Ambate: 12-34| Ambi Secchi: 12-34;5-6| Sorti Superiori: "
-      "1-2-3||"
-      " Esito:| Ambata 12 Ba al 2°colpo| Ambo 5-6 Ca al 2°colpo| Terno in sorti superiori 1 2 3 Naz al 4° "
-      "colpo" +
-      kFine;
-  const std::string seconda =
-      "| Previsione n.°2| Metodo: Metodo 1| Ruote: Ba-Tutte| Ambi Secchi: 8-9|| Esito:| Negativo" + kFine;
-  const std::string terza =
-      "| Previsione n.°3| Metodo: Metodo 2| Ruote: Ba| Ambate: 7|| Esito:| In gioco" + kFine;
   archivio(5436, "5434 Ba 12, 5434 Ca 5 6, 5436 Naz 3 1 2");
-  EXPECT_EQ(verifica(5432, "5432"), rapportoDi(prima + seconda + terza));
+  EXPECT_EQ(
+      verifica(5432, "5432"),
+      rapportoDi(" Previsione n.°1| Metodo: Metodo 1| Numero di Telefono di previsione: 899.12.34|"
+                 " Colpi ancora in gioco: 6| Ruote: Ba-Ca-Naz| Ambate: 12-34|"
+                 " Ambi Secchi: 12-34;5-6| Sorti Superiori: 1-2-3||"
+                 " Esito:| Ambata 12 Ba al 2°colpo| Ambo 5-6 Ca al 2°colpo|"
+                 " Terno in sorti superiori 1 2 3 Naz al 4° colpo" +
+                 kFine +
+                 "| Previsione n.°2| Metodo: Metodo 1| Ruote: Ba-Tutte| Ambi Secchi: 8-9||"
+                 " Esito:| Negativo" +
+                 kFine + "| Previsione n.°3| Metodo: Metodo 2| Ruote: Ba| Ambate: 7|| Esito:| In gioco" +
+                 kFine));
   attende(3, 1, 1);
-  archivio(5434);
-  EXPECT_THAT(verifica(5432, "5432", {false, "Metodo 1"}),
-              testing::EndsWith(rapportoDi(" Previsione n.°2| Metodo: Metodo 1| Colpi ancora in gioco: 1|"
-                                           " Ruote: Ba-Tutte| Ambi Secchi: 8-9|| Esito:| In gioco" +
-                                           kFine)));
-  attende(2, 0, 2);
+  EXPECT_THAT(verifica(5432, "5432", {false, "Metodo 2"}),
+              StartsWith(rapportoDi(" Previsione n.°1| Metodo: Metodo 2")));
   EXPECT_EQ(verifica(5431, "5431"), "") << "a draw without predictions";
   attende(0, 0, 0);
 }
 
 TEST_F(Verifica, EveryColpoIsPlayedAndEachHitWritesItsLine) {
-  struct Caso {
-    SlotProva slot;
-    int ultima;
-    std::string uscite, esito;
-  };
   const auto ambata = gioca({1}, {7}), senzaColpi = gioca({1}, {7}, {}, {}, 0);
   const auto tutte = gioca({12, 1, 2}, {}, {5, 6, 99}),
              tutti = gioca({1, 2}, {12}, {12, 34, 99}, {1, 2, 3, 99});
-  const auto sorte = gioca({1}, {}, {}, {9, 3, 1, 2, 4, 99}), doppia = gioca({1}, {}, {}, {7, 7, 99});
-  const Caso casi[] = {
-      {ambata, 101, "", " In gioco"},
+  const auto sorte = gioca({1}, {}, {}, {9, 3, 1, 2, 4, 99});
+  // The prediction, the last draw, what came out, what is written.
+  const std::tuple<SlotProva, int, std::string, std::string> casi[] = {
       {ambata, 104, "", " In gioco"},  // the last colpo is the last draw
       {ambata, 105, "", " Negativo"},
       {senzaColpi, 101, "", " In gioco"},
@@ -94,34 +84,32 @@ TEST_F(Verifica, EveryColpoIsPlayedAndEachHitWritesItsLine) {
       {sorte, 104, "102 Ba 1 3,103 Ba 1 2 3 4,104 Ba 1 2 3 4 9",
        " Ambo in sorti superiori 3 1 Ba al 1° colpo| Quaterna in sorti superiori 3 1 2 4 Ba al 2° colpo|"
        " Cinquina in sorti superiori 9 3 1 2 4 Ba al 3° colpo"},
-      {doppia, 102, "102 Ba 7", " Ambo in sorti superiori 7 7 Ba al 1° colpo"},
   };
-  for (const auto& caso : casi) {
-    SCOPED_TRACE(caso.uscite + caso.esito);
-    archivio(caso.ultima, caso.uscite);
-    scriviMetodoProva(p, "M", {caso.slot});
-    EXPECT_THAT(verifica(101, "101"), testing::EndsWith(rapportoDi("| Esito:|" + caso.esito + kFine)));
-    attende(1, caso.esito.find(" al ") != std::string::npos, caso.esito == " In gioco");
+  for (const auto& [slot, ultima, uscite, esito] : casi) {
+    SCOPED_TRACE(uscite + esito);
+    archivio(ultima, uscite);
+    scriviMetodoProva(p, "M", {slot});
+    EXPECT_THAT(verifica(101, "101"), EndsWith(rapportoDi("| Esito:|" + esito + kFine)));
+    attende(1, esito.find(" al ") != std::string::npos, esito == " In gioco");
   }
 }
 
 TEST_F(Verifica, AFailureEndsTheRunSilentlyAndLeavesWhatWasWritten) {
   const auto buona = gioca({1}, {7});
   const auto prima = " Previsione n.°1| Metodo: A| Ruote: Ba| Ambate: 7|| Esito:| Negativo" + kFine;
-  scriviMetodoProva(p, "A", {buona});
-  scriviMetodoProva(p, "C", {buona});
+  // What stands in B, and what is written of it.
+  const std::pair<std::vector<SlotProva>, std::string> casi[] = {
+      {std::vector(10, buona), ""},
+      {{gioca({1}, std::vector<int>(180, 7))}, ""},
+      {{gioca({12}, {}, {5, 6, 99})},
+       "| Previsione n.°2| Metodo: B| Ruote: Tutte| Ambi Secchi: 5-6|| Esito:"}};
+  for (const char* nome : {"A", "C"}) scriviMetodoProva(p, nome, {buona});
   archivio(105);
-
-  scriviMetodoProva(p, "B", std::vector<SlotProva>(10, buona));
-  EXPECT_EQ(verifica(101, "101"), rapportoDi(prima)) << "ten predictions";
-  attende(1, 0, 0);
-  scriviMetodoProva(p, "B", {gioca({1}, std::vector<int>(180, 7))});
-  EXPECT_EQ(verifica(101, "101"), rapportoDi(prima)) << "a list without an end";
-  scriviMetodoProva(p, "B", {gioca({12}, {}, {5, 6, 99})});
-  EXPECT_EQ(verifica(101, "101"),
-            rapportoDi(prima + "| Previsione n.°2| Metodo: B| Ruote: Tutte| Ambi Secchi: 5-6|| Esito:"))
-      << "ambi on Tutte alone";
-  attende(2, 0, 0);
+  for (const auto& [slot, scritto] : casi) {
+    scriviMetodoProva(p, "B", slot);
+    EXPECT_EQ(verifica(101, "101"), rapportoDi(prima + scritto));
+    attende(scritto.empty() ? 1 : 2, 0, 0);
+  }
   EXPECT_EQ(verifica(101, "101a"), "") << "a number that is none";
   p.scrivi("Metodi/Z.txt", "");
   EXPECT_EQ(verifica(101, "101"), "") << "a file that is no method";
@@ -131,7 +119,62 @@ TEST_F(Verifica, ThePairOfAnAmboLivesOnFromMethodToMethod) {
   archivio(105);
   scriviMetodoProva(p, "A", {gioca({1}, {}, {12, 34, 99})});
   scriviMetodoProva(p, "B", {gioca({0}, {}, {7, 99})});
-  EXPECT_THAT(verifica(101, "101"), testing::HasSubstr(" Metodo: B\r\n Ruote: \r\n Ambi Secchi: 7-34\r\n"));
+  EXPECT_THAT(verifica(101, "101"), HasSubstr(" Metodo: B\r\n Ruote: \r\n Ambi Secchi: 7-34\r\n"));
+}
+
+TEST(Numeri, EachRelationIsTheOneThatPlayersKnow) {
+  struct Caso {
+    int (*relazione)(int);
+    std::vector<std::pair<int, int>> valori;
+  };
+  const Caso casi[] = {
+      {vert, {{12, 21}, {11, 19}, {19, 11}, {9, 90}, {90, 9}, {5, 50}, {50, 5}, {88, 89}, {89, 88}}},
+      {Diametrale, {{1, 46}, {45, 90}, {46, 1}, {90, 45}}},
+      {Somma30, {{1, 31}, {60, 90}, {61, 1}, {90, 30}}},
+      {Figura, {{9, 9}, {10, 1}, {45, 9}, {46, 1}, {89, 8}, {90, 9}}},
+      {Decina, {{9, 0}, {10, 1}, {90, 9}}},
+      {Cadenza, {{9, 9}, {10, 0}, {47, 7}, {90, 0}}},
+      {Mezzadecina, {{90, 5}, {5, 90}, {1, 6}, {6, 1}, {10, 15}, {15, 10}, {84, 89}, {80, 85}}},
+      {[](int n) { return DistanzaCiclica(n, 10); }, {{55, 45}, {56, 44}, {1, 9}}},
+      {[](int n) { return DifferenzaCiclica(n, 10); }, {{15, 5}, {5, 85}, {10, 90}}},
+      {[](int n) { return MinimoCinque(5, n, 4, 7, 6); }, {{3, 3}, {9, 4}}},
+      {[](int n) { return MassimoTre(5, 4, n); }, {{3, 5}, {9, 9}}},
+  };
+  for (const auto& caso : casi)
+    for (const auto& [n, atteso] : caso.valori)
+      EXPECT_EQ(caso.relazione(n), atteso) << &caso - casi << ": " << n;
+}
+
+TEST(Valutatori, LookAtTheWheelsUpToVenezia) {
+  ProgrammaProva p;
+  archivioDi(2, "1 Ba 1 2,1 Ca 3 2 1,1 Ve 4 3 2 1,1 Naz 1 2 3,1 To 1,2 Ba 5 4 3 2 1,2 Ve 1 90 45 46 10")
+      .scrivi(p);
+  clsMetodo controllo(p.programma, {});
+  const std::array<int, 5> numeri = {1, 2, 3, 4, 5};
+  for (const int ruota : {1, 2, 9, 10, 11})
+    EXPECT_EQ(controllo.ControllaCinquina(numeri, ruota, 1), ruota != 9 && ruota != 11) << ruota;
+  EXPECT_TRUE(controllo.ControllaCinquina(numeri, 1, 2));
+  controllo.Terzine = {{7, 8, 9}, {1, 2, 3}};
+  for (const int ruota : {1, 2}) EXPECT_TRUE(controllo.ControllaTerzina(ruota, 2, 1));
+  EXPECT_FALSE(controllo.ControllaTerzina(1, 1, 1));
+  EXPECT_EQ(failureDi([&] { return controllo.ControllaTerzina(1, 3, 1); }), 9);
+  controllo.rilascia();
+  EXPECT_EQ(
+      p.contenuto("Esiti.txt"),
+      rapportoDi(" Ambo in cinquina 1 2 Ba al 0° colpo| Terno in cinquina 1 2 3 Ca al 0° colpo|"
+                 " Quaterna in cinquina 1 2 3 4 Ve al 0° colpo| Cinquina secca  1 2 3 4 5 Ba al 0° colpo|"
+                 " Ambo in terzina 1 2 Ba al 0° colpo| Terno secco a tutte  1 2 3 Ca al 0° colpo|"
+                 " Terno secco a tutte  1 2 3 Ve al 0° colpo| Terno secco 1 2 3 Ca al 0° colpo|"
+                 " Terno secco a tutte  1 2 3 Ve al 0° colpo"));
+  const auto venezia = [&] {
+    std::vector<int> valori;
+    for (const auto& coppia : controllo.posizioni()) valori.push_back(coppia[9]);
+    return valori;
+  };
+  controllo.DistanzePosizioni(2);
+  EXPECT_THAT(venezia(), ElementsAre(1, 45, 1, 36, 9, 0, 0, 0, 0, 0));
+  controllo.DifferenzePosizioni(2);
+  EXPECT_THAT(venezia(), ElementsAre(89, 45, 1, 36, 9, 44, 45, 44, 80, 35));
 }
 
 }  // namespace

@@ -1,14 +1,9 @@
-#include <gmock/gmock.h>
-
 #include "dialogs/frm_insprev.h"
 #include "sostegno/cornice_prova.h"
-#include "sostegno/failure_prova.h"
-#include "sostegno/scenario.h"
+#include "sostegno/logica.h"
 
 namespace vaticlo::prova {
 namespace {
-
-using testing::ElementsAre;
 
 const SlotProva kAltra = {.estrazione = 3500, .ruote = {3}, .ambate = {9}};
 
@@ -27,8 +22,7 @@ class InsPrev : public testing::Test {
     frm->Form_Load();
     frm->cmbMetodo.Text("Metodo 1");
     if (modifica) frm->cmbMetodo_Click();
-    frm->txtRuote.Text("Ba");
-    frm->txtAmbate.Text("7");
+    compila({"", "Ba", "7", "", ""});
     return *frm;
   }
   /// Types into the five fields, in the order of campi().
@@ -38,14 +32,17 @@ class InsPrev : public testing::Test {
   [[nodiscard]] std::array<CampoTesto*, 5> campi() const {
     return {&frm->txtNum, &frm->txtRuote, &frm->txtAmbate, &frm->txtAmbi, &frm->txtSup};
   }
-  /// A stored prediction as the modify variant lists and shows it.
-  std::string mostrata(int voce) {
-    auto& f = apri(true);
-    f.cmbPrevisione.scegli(voce);
+  /// What the window shows: item of the list, draw, colpi, and the five fields.
+  [[nodiscard]] std::string vista() const {
     std::string testo =
-        f.cmbPrevisione.Text() + "|" + f.estrazione.lblnestr.Caption() + "|" + f.cmbColpi.Text();
+        frm->cmbPrevisione.Text() + "|" + frm->estrazione.lblnestr.Caption() + "|" + frm->cmbColpi.Text();
     for (const auto* campo : campi()) testo += "|" + campo->Text();
     return testo;
+  }
+  /// A stored prediction as the modify variant shows it.
+  std::string mostrata(int voce) {
+    apri(true).cmbPrevisione.scegli(voce);
+    return vista();
   }
   /// The one message so far.
   void detto(const std::string& testo, Icona icona = Icona::Esclamazione) {
@@ -59,26 +56,21 @@ class InsPrev : public testing::Test {
 };
 
 TEST_F(InsPrev, WhatCantBeSavedIsRefusedAndChangesNothing) {
-  const struct {
-    const char* metodo;
-    std::array<const char*, 5> campi;
-    const char* messaggio;
-    Icona icona = Icona::Esclamazione;
-  } casi[] = {
+  const std::tuple<const char*, std::array<const char*, 5>, std::string> casi[] = {
       {" ", {"", "", "", "", ""}, "Bisogna scegliere il metodo al quale deve appartenere la previsione!"},
       {"Manca", {"", "  ", "", "", ""}, "Attenzione scegliere almeno una ruota di gioco!"},
       {"Manca", {"", "Ba", "", " ", " "}, "Scegliere almeno una combinazione da giocare!"},
-      {"Manca", {"", "Ba", "7", "", ""}, "Non esiste il file del metodo selezionato!", Icona::Nessuna},
+      {"Manca", {"", "Ba", "7", "", ""}, "Non esiste il file del metodo selezionato!"},
       {"Metodo 1", {"", "Ba - Ca", "7", "", ""}, "Errore nell'inserimento delle ruote!"},
-      {"Metodo 1", {" ", "Ba", "7", "", ""}, "Errore nella creazione del metodo!"},
-  };
+      {"Metodo 1", {" ", "Ba", "7", "", ""}, "Errore nella creazione del metodo!"}};
   const auto prima = file();
-  for (const auto& caso : casi) {
+  for (const auto& [metodo, testi, messaggio] : casi) {
     auto& f = apri(false);
-    f.cmbMetodo.Text(caso.metodo);
-    compila(caso.campi);
+    f.cmbMetodo.Text(metodo);
+    compila(testi);
     f.btnElabora_Click();
-    detto(std::string("[Attenzione] ") + caso.messaggio, caso.icona);
+    detto("[Attenzione] " + messaggio,
+          messaggio.starts_with("Non esiste") ? Icona::Nessuna : Icona::Esclamazione);
     EXPECT_EQ(cornice.chiesto, "altre ");
     EXPECT_TRUE(file() == prima && !p.esiste("Metodi/Manca.dat"));
   }
@@ -96,6 +88,8 @@ TEST_F(InsPrev, ASavedPredictionComesBackAsItWasTyped) {
   EXPECT_FALSE(f.Frame10.Visible() || f.btnElimina.Visible());
   EXPECT_EQ(mostrata(0),
             "Previsione n.1 del 12/03//2005|132|8|899.12.34|Ba-Tutte-Naz|7;8|12-34;1-2-3|1-2-3;4-5");
+  EXPECT_EQ(frm->Caption(), "Modifica Previsione");
+  EXPECT_TRUE(frm->Frame10.Visible() && frm->btnElimina.Visible());
   EXPECT_EQ(frm->estrazione.VScroll1.Value(), 151) << "the bar does not follow";
 }
 
@@ -118,25 +112,24 @@ TEST_F(InsPrev, AModifiedPredictionIsRewrittenWholeInItsSlot) {
   scriviMetodoProva(p, "Metodo 1",
                     {kAltra, {101, {89, 9}, {1, 2}, 5, {1, 2, 3}, {4, 5, 99}, {6, 7, 99}}, kAltra});
   auto& f = apri(true);
-  EXPECT_EQ(f.Caption(), "Modifica Previsione");
-  EXPECT_TRUE(f.Frame10.Visible() && f.btnElimina.Visible());
-  EXPECT_EQ(f.cmbPrevisione.voci().size(), 3U) << "a multiple of 100 hides nothing here";
+  f.cmbPrevisione.scegli(1);
+  f.cmbPrevisione.Text("Previsione n.1");  // a typed text chooses none
   f.btnElabora_Click();
-  detto("[Attenzione] Errore nella creazione del metodo!");  // none is chosen
+  detto("[Attenzione] Errore nella creazione del metodo!");
   f.cmbPrevisione.scegli(1);
   EXPECT_EQ(f.estrazione.lblnestr.Caption(), "101");
   f.estrazione.VScroll1.Value(111);
   compila({"", "Ro", "", "", "6-7"});
   f.btnElabora_Click();
   EXPECT_EQ(mostrata(1), "Previsione n.2 del 12/03//2005|110|5||Ro|||6-7");
-  EXPECT_EQ(LeggiMetodo(p.cartella(), "Metodo 1").EstrazioneCalcolo(3), 3500);
+  EXPECT_EQ(frm->cmbPrevisione.voci().size(), 3U) << "a multiple of 100 hides nothing here";
 }
 
 TEST_F(InsPrev, ChoosingAMethodEmptiesItsBetsAndKeepsNumberAndColpi) {
   auto& f = apri(true);
   compila({"899", "Ba", "7", "1-2", "3-4"});
   f.cmbMetodo.scegli(0);
-  for (const auto* campo : campi()) EXPECT_EQ(campo->Text(), campo == &f.txtNum ? "899" : "");
+  EXPECT_EQ(vista(), "|150|10|899||||");
   f.txtRuote.Text("Ba");
   f.cmbMetodo.scegli(1);
   EXPECT_EQ(f.txtRuote.Text(), "Ba") << "no further step without a file";
@@ -150,13 +143,13 @@ TEST_F(InsPrev, ADeleteAlwaysFails) {
   f.btnElimina_Click();
   f.cmbPrevisione.scegli(0);
   f.btnElimina_Click();
-  EXPECT_THAT(p.servizi.detti(), ElementsAre("[Attenzione] Nessuna previsione selezionata!",
-                                             "[Attenzione] Sicuro di eliminare la previsione?",
-                                             "[Attenzione] Errore nell'eliminaizione della previsione!"));
-  EXPECT_TRUE(file() == prima);
   p.servizi.risposta = Risposta::No;
   f.btnElimina_Click();
-  EXPECT_EQ(p.servizi.messaggi.size(), 4U) << "the question alone";
+  const auto* domanda = "[Attenzione] Sicuro di eliminare la previsione?";
+  EXPECT_THAT(p.servizi.detti(),
+              ElementsAre("[Attenzione] Nessuna previsione selezionata!", domanda,
+                          "[Attenzione] Errore nell'eliminaizione della previsione!", domanda));
+  EXPECT_TRUE(file() == prima);
 }
 
 }  // namespace

@@ -1,16 +1,11 @@
-#include <utility>
-
-#include <gmock/gmock.h>
-
 #include "dialogs/elenco_scansione.h"
+#include "dialogs/frm_metodi.h"
 #include "dialogs/gestione_metodi.h"
 #include "sostegno/cornice_prova.h"
-#include "sostegno/scenario.h"
+#include "sostegno/logica.h"
 
 namespace vaticlo::prova {
 namespace {
-
-using testing::ElementsAre;
 
 class Metodi : public testing::Test {
  protected:
@@ -38,9 +33,12 @@ TEST_F(Metodi, TheListInPlayFollowsEachChoice) {
   EXPECT_EQ(guardati([&] { frm.Form_Load(); }), 3);
   EXPECT_EQ(cornice.chiesto, "altre ");
   EXPECT_EQ(stato(frm), "testo stampa");
-  frm.btnStampa_Click();
-  EXPECT_THAT(p.servizi.stampati, ElementsAre(testing::StartsWith(" Previsione n.°1\n Metodo: Y\n")));
-  EXPECT_EQ(p.servizi.detti()[0], "[Ambolino] Stampo la previsione?");
+  for (const auto risposta : {Risposta::No, Risposta::Si}) {
+    p.servizi.risposta = risposta;
+    frm.btnStampa.Click();
+  }
+  EXPECT_THAT(p.servizi.stampati, ElementsAre(StartsWith(" Previsione n.°1\n Metodo: Y\n")));
+  EXPECT_EQ(p.servizi.detti(), std::vector<std::string>(2, "[Ambolino] Stampo la previsione?"));
   EXPECT_EQ(guardati([&] { frm.optSelMetodo_Click(1); }), 2) << "the list's own event and the option's";
   EXPECT_EQ(stato(frm), "nota ");
   EXPECT_EQ(guardati([&] { frm.optSelMetodo_Click(1); }), 1) << "no change in the list";
@@ -73,17 +71,25 @@ TEST_F(Metodi, AnEventDuringAScanWaitsUntilItHasEnded) {
   EXPECT_EQ(p.contenuto("PrevGioco.txt"), "") << "the report is that of the last choice";
 }
 
-TEST_F(Metodi, TheWinnersFollowTheArrows) {
-  archivioDi(110, "109 Ba 7").scrivi(p);
-  scriviMetodoProva(p, "M", {{.estrazione = 108, .ruote = {1}, .ambate = {7}}});
-  frmVinc frm(p.programma, cornice);
+TEST_F(Metodi, TheirWindowRenamesAndDeletesAfterAYes) {
+  p.scrivi("Metodi/A.dat", "");
+  frmMetodi frm(p.programma, cornice);
   frm.Form_Load();
-  EXPECT_EQ(stato(frm), "nota ");
-  frm.UpDown1_Change(2);
-  EXPECT_EQ(frm.txtColpi.Text(), "2");
-  EXPECT_EQ(stato(frm), "testo stampa");
-  EXPECT_THAT(frm.RichTextBox1.Text(), testing::HasSubstr(" Ambata 7 Ba al 1°colpo\n"));
-  EXPECT_FALSE(frm.btnStampa.Click) << "it has no command";
+  frm.btnElimina.Click();
+  EXPECT_THAT(p.servizi.detti(), ElementsAre("[Attenzione] Nessun metodo selezionato!"));
+  frm.cmbMetodo.scegli(0);
+  EXPECT_EQ(frm.txtNome.Text(), "A");
+  frm.txtNome.Text("B");
+  p.servizi.risposta = Risposta::No;
+  frm.btnRinomina.Click();
+  frm.btnElimina.Click();
+  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("A.dat"));
+  p.servizi.risposta = Risposta::Si;
+  frm.btnRinomina.Click();
+  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("B.dat"));
+  frm.cmbMetodo.scegli(0);
+  frm.btnElimina.Click();
+  EXPECT_TRUE(frm.cmbMetodo.voci().empty() && p.cartella().elencaMetodi().empty());
 }
 
 TEST_F(Metodi, ANameMustBeAFileOnEverySystemAndNew) {
@@ -94,32 +100,27 @@ TEST_F(Metodi, ANameMustBeAFileOnEverySystemAndNew) {
                                  "a.DAT", "a.dat.b", " CITTÀ ", lungo.c_str()}) {
     p.servizi.messaggi.clear();
     EXPECT_FALSE(gestione.crea(nome)) << nome;
-    EXPECT_THAT(p.servizi.detti(), ElementsAre(testing::StartsWith("[Attenzione] "))) << nome;
+    EXPECT_THAT(p.servizi.detti(), ElementsAre(StartsWith("[Attenzione] "))) << nome;
   }
   EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("Città.dat"));
 }
 
-TEST_F(Metodi, AMethodIsCreatedRenamedAndDeleted) {
+TEST_F(Metodi, AMethodIsCreatedRenamedAndDeletedAndNeverReplacesAnother) {
   GestioneMetodi gestione(p.programma);
   EXPECT_TRUE(gestione.crea(" Mio 1.5 "));
   EXPECT_TRUE(p.contenuto("Metodi/Mio 1.5.dat") == std::string(12600, '\0'));
   p.scrivi("Metodi/mio.dat", "mio");
   EXPECT_TRUE(gestione.rinomina("mio", "MIO")) << "upper and lower case alone may change";
   EXPECT_TRUE(p.servizi.messaggi.empty());
-  EXPECT_FALSE(gestione.rinomina("MIO", "mio 1.5")) << "the name of another";
+  p.scrivi("Metodi/Mio.dat", "altro");
+  EXPECT_FALSE(gestione.rinomina("MIO", "mio 1.5"));
+  EXPECT_FALSE(gestione.rinomina("MIO", "Mio"));
   EXPECT_FALSE(gestione.rinomina("manca", "altro"));
   EXPECT_FALSE(gestione.elimina("manca"));
-  EXPECT_EQ(p.servizi.messaggi.size(), 3U);
-  EXPECT_EQ(p.contenuto("Metodi/MIO.dat"), "mio");
+  EXPECT_EQ(p.servizi.messaggi.size(), 4U);
   EXPECT_TRUE(gestione.elimina("Mio 1.5"));
-  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("MIO.dat"));
-}
-
-TEST_F(Metodi, ARenameNeverReplacesAnotherMethod) {
-  p.scrivi("Metodi/alfa.dat", "1");
-  p.scrivi("Metodi/Alfa.dat", "2");
-  EXPECT_FALSE(GestioneMetodi(p.programma).rinomina("alfa", "Alfa"));
-  EXPECT_EQ(p.contenuto("Metodi/Alfa.dat"), "2");
+  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("MIO.dat", "Mio.dat"));
+  EXPECT_EQ(p.contenuto("Metodi/MIO.dat") + p.contenuto("Metodi/Mio.dat"), "mioaltro");
 }
 
 }  // namespace

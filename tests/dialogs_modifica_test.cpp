@@ -1,10 +1,7 @@
-#include <gmock/gmock.h>
-
+#include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_modifica.h"
-#include "dialogs/frm_somdif.h"
 #include "sostegno/cornice_prova.h"
-#include "sostegno/failure_prova.h"
-#include "sostegno/scenario.h"
+#include "sostegno/logica.h"
 
 namespace vaticlo::prova {
 namespace {
@@ -27,17 +24,16 @@ class Modifica : public testing::Test {
 };
 
 TEST_F(Modifica, OpensOnTheNewestDrawAndTheBarStandsOneAboveIt) {
-  archivioDi(3).data(1, 5, 1, 2004).scrivi(p);
   apri();
-  EXPECT_EQ(cornice.chiesto, "altre ");
+  EXPECT_EQ(vista(), "1/1 n.1 0/0/000") << "an empty archive";
+  archivioDi(3).data(1, 5, 1, 2004).scrivi(p);
+  frm.Form_Activate();
   EXPECT_EQ(vista(), "4/4 n.3 12/3/2005");
   auto& barra = frm.estrazione.VScroll1;
-  for (const auto& [valore, atteso] :
-       {std::pair{1, "1/4 n.1 5/1/2004"}, {2, "2/4 n.1 5/1/2004"}, {3, "3/4 n.2 12/3/2005"}}) {
+  for (const int valore : {1, 2}) {
     barra.Value(valore);
-    EXPECT_EQ(vista(), atteso);
+    EXPECT_EQ(vista(), std::to_string(valore) + "/4 n.1 5/1/2004");
   }
-  EXPECT_EQ(p.globals().EstrazioneCorrente, 2);
   for (const int fuori : {0, 5}) EXPECT_EQ(failureDi([&] { return barra.Value(fuori), 0; }), 380);
   frm.Form_Activate();
   EXPECT_EQ(vista(), "4/4 n.3 12/3/2005") << "active again with the bar elsewhere";
@@ -45,47 +41,31 @@ TEST_F(Modifica, OpensOnTheNewestDrawAndTheBarStandsOneAboveIt) {
   EXPECT_EQ(vista(), "4/4 n.4 0/0/000") << "active again with the bar at its end already";
 }
 
-TEST_F(Modifica, AnEmptyArchiveShowsItsFirstFreeSlot) {
-  apri();
-  EXPECT_EQ(vista(), "1/1 n.1 0/0/000");
-}
-
 TEST_F(Modifica, ADrawIsFoundByNumberOrDate) {
-  // What is typed, the draw shown then (30: as before), the message.
-  const std::string campo = "Inserisci un valore corretto compreso tra 1 e 60.",
-                    numero = "Inserisci un valore numerico";
-  const std::vector<std::string> casi = {"60",         "60", "",
-                                         "2",          "2",  "",
-                                         "1",          "30", campo,
-                                         "61",         "30", campo,
-                                         "-5",         "30", campo,
-                                         "2,5",        "2",  "",
-                                         "3,5",        "4",  "",
-                                         "",           "30", "",
-                                         "16.03.2005", "60", "",
-                                         "1-1-1945",   "1",  "",
-                                         "8/1/45",     "2",  "",
-                                         "30/2/2004",  "30", numero,
-                                         "1/1/1944",   "30", "Inserisci una data corretta"};
+  const std::string campo = "Inserisci un valore corretto compreso tra 1 e 60.";
+  const std::tuple<const char*, int, std::string> casi[] = {
+      // what is typed, the draw shown then (30: as before), the message
+      {"60", 60, ""},
+      {"2,5", 2, ""},
+      {"1", 30, campo},
+      {"61", 30, campo},
+      {"", 30, ""},
+      {"16.03.2005", 60, ""},
+      {"8/1/45", 2, ""},
+      {"30/2/2004", 30, "Inserisci un valore numerico"},
+      {"1/1/1944", 30, "Inserisci una data corretta"}};
   archivioDi(60).data(1, 1, 1, 1945).data(2, 10, 1, 1945).data(60, 16, 3, 2005).scrivi(p);
   apri();
-  for (std::size_t n = 0; n < casi.size(); n += 3) {
-    SCOPED_TRACE(casi[n]);
+  for (const auto& [digitato, trovata, messaggio] : casi) {
     frm.estrazione.VScroll1.Value(31);
     p.servizi.messaggi.clear();
-    p.servizi.digitato = casi[n];
+    p.servizi.digitato = digitato;
     frm.btnTrova_Click();
-    EXPECT_EQ(frm.estrazione.lblnestr.Caption(), casi[n + 1]);
-    EXPECT_EQ(estrazioneDellaBarra(frm.estrazione.VScroll1), std::stoi(casi[n + 1]));
-    EXPECT_EQ(p.globals().EstrazioneCorrente, std::stoi(casi[n + 1]));
-    EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, casi[n + 2]);
+    EXPECT_EQ(frm.estrazione.lblnestr.Caption(), std::to_string(trovata)) << digitato;
+    EXPECT_EQ(p.globals().EstrazioneCorrente, trovata) << digitato;
+    EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, messaggio) << digitato;
   }
-  p.servizi.digitato = "40000";
-  EXPECT_EQ(failureDi([&] { return frm.btnTrova_Click(), 0; }), 6);
-  EXPECT_EQ(p.servizi.domande[0].first,
-            "Inserisci il numero dell'estrazione (compreso tra 1 e 60) da ricercare oppure la data "
-            "dell'estrazione in"
-            " uno dei seguenti formati:(gg/mm/aaaa oppure gg-mm-aaaa oppure gg.mm.aaaa).");
+  EXPECT_THAT(p.servizi.domande[0].first, HasSubstr("dell'estrazione (compreso tra 1 e 60) da"));
 }
 
 TEST_F(Modifica, NothingIsSavedOrDeletedWithoutAYes) {
@@ -105,55 +85,29 @@ TEST_F(Modifica, NothingIsSavedOrDeletedWithoutAYes) {
   EXPECT_EQ(cornice.chiesto, "altre riapri ");
   EXPECT_EQ(vista(), "3/3 n.3 0/0/000") << "the bar moves to its new end, then the deleted number is shown";
   EXPECT_EQ(p.globals().EstrazioneCorrente, 2);
-  EXPECT_EQ(p.servizi.detti()[2], "[Attenzione] Sei sicuro di voler modificare l'estrazione corrente");
-  EXPECT_EQ(p.servizi.detti()[3], "[Attenzione] Sei sicuro di voler cancellare l'estrazione selezionata");
 }
 
-class Somdif : public testing::Test {
- protected:
-  Somdif() {
-    archivioDi(3, "2 Ba 1 90,2 Ca 10 11,2 Fi 1 8,3 Ba 4,3 Ca 7 6,3 Fi 9").data(3, 1, 4, 2005).scrivi(p);
-    frm.Form_Load();
-  }
-  /// The first three fields of the first column, "*" behind the yellow ones, and the number of the draw.
-  [[nodiscard]] std::string colonna() const {
-    std::string testo;
-    for (std::size_t i = 0; i < 3; ++i)
-      testo += frm.colonne[0][i].Text() + (frm.colonne[0][i].BackColor() == kGiallo ? "* " : " ");
-    return testo + "n." + frm.lblnestr.Caption();
-  }
+TEST(Inserisci, ANumberIsTestedForItsRangeAndAsATextAgainstTheFieldsAtItsLeft) {
   ProgrammaProva p;
   CorniceProva cornice;
-  frmSomdif frm{p.programma, cornice};
-};
-
-TEST_F(Somdif, EachChangeMarksItsOwnEqualValuesAlone) {
-  EXPECT_EQ(cornice.chiesto, "") << "other windows stay open";
-  EXPECT_EQ(colonna(), "4 1 9 n.3");
-  frm.VScroll1.Value(3);
-  EXPECT_EQ(colonna(), "1* 1* 7 n.2");
-  frm.VScroll1.Value(4);
-  EXPECT_EQ(colonna(), "4 1 9 n.3");
-  frm.VScroll1.Value(3);
-  frm.opzione_Click(TipoSomDif::Matematica);
-  EXPECT_EQ(colonna(), "89 1 7 n.2");
-  frm.opzione_Click(TipoSomDif::Somma);
-  EXPECT_EQ(colonna(), "1 21 9 n.2");
-  p.servizi.digitato = "3";
-  frm.btnTrova_Click();
-  EXPECT_EQ(colonna(), "4 13 9 n.3");
-}
-
-TEST_F(Somdif, ASearchByDateLeavesTheFirstNumbersOfTheDrawInTheFirstColumn) {
-  frm.VScroll1.Value(2);
-  p.servizi.digitato = "1/4/2005";
-  frm.btnTrova_Click();
-  EXPECT_EQ(colonna(), "4* 0* 0* n.3");
-  EXPECT_EQ(frm.colonne[0][5].Text() + frm.colonne[0][6].Text(), "76");
-  EXPECT_EQ(frm.colonne[1][0].Text(), "0") << "there is no field for Firenze";
-  EXPECT_EQ(frm.VScroll1.Value(), 2);
-  EXPECT_EQ(p.globals().EstrazioneSomdif, 1);
-  EXPECT_TRUE(p.servizi.messaggi.empty());
+  frmInserisci frm(p.programma, cornice);
+  frm.Form_Load();
+  EXPECT_EQ(cornice.chiesto, "altre ");
+  const std::string valore = "Inserire un valore valido compreso tra 1 e 90";
+  const auto gia = [](const std::string& testo) {
+    return "''" + testo + "'' è stato già inserito come estratto nella ruota";
+  };
+  // A field, what it holds then, and the message; the others keep what they have.
+  const std::tuple<std::size_t, const char*, std::string> casi[] = {
+      {0, "  ", valore},    {0, "0 ", valore},    {0, "91", valore},    {0, "90", ""},
+      {1, "5 ", ""},        {2, "90", gia("90")}, {2, "5 ", gia("5 ")}, {2, " 5", ""},
+      {4, "5 ", gia("5 ")}, {5, "90", ""},        {6, "1 ", ""},        {5, "1 ", ""}};
+  for (const auto& [f, testo, messaggio] : casi) {
+    p.servizi.messaggi.clear();
+    frm.txtestr[f].Text(testo);
+    EXPECT_EQ(frm.txtestr[f].Validate(), !messaggio.empty()) << f << ' ' << testo;
+    EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, messaggio);
+  }
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "methods/scansione.h"
 #include "sostegno/failure_prova.h"

@@ -1,15 +1,62 @@
-#include <gmock/gmock.h>
-
-#include "sostegno/corsa_prova.h"
+#include "sostegno/logica.h"
+#include "statistics/clsstatistica.h"
 
 namespace vaticlo::prova {
 namespace {
 
-using testing::HasSubstr;
+using Slot = std::vector<SlotProva>;
+
+/// A dialog that notes what a run does to it.
+class FinestraProva : public FinestraCorsa {
+ public:
+  [[nodiscard]] SceltaMetodo scelta() const override { return scelto; }
+  void prgbar_Value(int valore) override { eventi += " " + std::to_string(valore); }
+  void prgbar_Max(int massimo) override { eventi += " max" + std::to_string(massimo); }
+  void corsaIniziata() override { eventi += " iniziata"; }
+  void corsaInterrotta() override { eventi += " interrotta"; }
+
+  SceltaMetodo scelto;
+  std::string eventi;
+};
+
+/// Statistics runs in one program, with the scan of method 1 chosen.
+class Corsa : public testing::Test {
+ protected:
+  Corsa() { p.globals().MetodoScelto = 1; }
+  void archivio(const ArchivioProva& archivio) {
+    archivio.scrivi(p);
+    auto& g = p.globals();
+    g.UltimaEstrazione = archivio.griglia.PrimoIndiceLibero() - 1;
+    g.UltimaEstrazione16 = static_cast<std::int16_t>(g.UltimaEstrazione);
+  }
+  void corri(int inizio, int fine) {
+    frm.eventi.clear();
+    clsStatistica statistica(p.programma, frm);
+    statistica.Inizia(static_cast<std::int16_t>(inizio), static_cast<std::int16_t>(fine));
+    statistica.rilascia();
+  }
+  [[nodiscard]] std::string stat() const { return p.contenuto("Stat.txt"); }
+  [[nodiscard]] std::string vincite() const { return p.contenuto("Vincite.txt"); }
+  /// The entries of Vincite.txt, each by its number and the first letter of its method: "1A 3B ".
+  [[nodiscard]] std::string voci() const {
+    std::string voci;
+    std::istringstream righe(vincite());
+    for (std::string riga; std::getline(righe, riga);) {
+      if (riga.starts_with(" Previsione n.")) voci += riga.substr(15, riga.size() - 16);
+      if (riga.starts_with(" Metodo: ")) voci += riga.substr(9, 1) + " ";
+    }
+    return voci;
+  }
+  ProgrammaProva p;
+  FinestraProva frm;
+};
 
 const std::string kFineVincite = "| " + std::string(47, '_'), kFineInGioco = "| " + std::string(37, '_');
 
 SlotProva ambata(int estrazione, int colpi = 2) { return {estrazione, {89, 9}, {1}, colpi, {7}}; }
+SlotProva ambo(int estrazione, std::vector<int> ruote, std::vector<int> ambi) {
+  return {.estrazione = estrazione, .ruote = std::move(ruote), .colpi = 2, .ambi = std::move(ambi)};
+}
 
 TEST_F(Corsa, LeavesTotalsEndedPredictionsAndThoseInPlay) {
   scriviMetodoProva(p, "Metodo 1",
@@ -28,7 +75,7 @@ TEST_F(Corsa, LeavesTotalsEndedPredictionsAndThoseInPlay) {
                        " Data di Calcolo:  Estrazione n.5433 del 15/3/2005| Ruote: Ro-Tutte|"
                        " Ambi Secchi: 8-9|| Esito: Negativo" +
                        kFineVincite));
-  EXPECT_EQ(prevGioco(),
+  EXPECT_EQ(p.contenuto("PrevGioco.txt"),
             rapportoDi(" Previsione n.°1| Metodo: Metodo 1| Calcolata nell'estrazione n° 5434 del  17/3/2005|"
                        " Colpi ancora in gioco: 3| Ruote: Naz| Ambate: 7" +
                        kFineInGioco));
@@ -46,72 +93,125 @@ TEST_F(Corsa, LeavesTotalsEndedPredictionsAndThoseInPlay) {
 }
 
 TEST_F(Corsa, TheFirstWinningColpoIsCountedBetByBet) {
-  struct Caso {
-    SlotProva slot;
-    const char *uscite, *esito, *conti;  // ambate, ambi a ruota, a tutte, then ambi to cinquine in sorti
-  };
   const SlotProva ambate = {.estrazione = 101, .ruote = {1, 2}, .ambate = {7, 8}};
-  const SlotProva ambo = {.estrazione = 101, .ruote = {1, 2, 12}, .ambi = {5, 6, 99}};
+  const SlotProva ambi = {.estrazione = 101, .ruote = {1, 2, 12}, .ambi = {5, 6, 99}};
   const SlotProva sorte = {.estrazione = 101, .ruote = {1, 2}, .sup = {1, 2, 3, 4, 5, 99}};
-  const Caso casi[] = {
-      {ambate, "103 Ba 8 7,103 Ca 7,104 Ba 7", " E 7 Ba ** E 7 Ca ** E 8 Ba ** 2° colpo", "3 0 0 0 0 0 0"},
-      {ambo, "102 Ba 5 6", " A 5-6 Ba ** A 5-6 Tu(Ba) ** A 5-6 Tu(Ba) ** 1° colpo", "0 1 2 0 0 0 0"},
-      {ambo, "102 Naz 5 6", " A 5-6 Tu(Naz) ** A 5-6 Tu(Naz) ** 1° colpo", "0 0 2 0 0 0 0"},
-      {sorte, "102 Ba 1 2,102 Ca 3 1", " Al 1 2 Ba ** Al 1 3 Ca ** 1° colpo", "0 0 0 2 0 0 0"},
-      {sorte, "102 Ba 1 2 3 4", " Ql 1 2 3 4 Ba ** 1° colpo", "0 0 0 6 4 1 0"},
-      {sorte, "102 Ba 5 4 3 2 1", " Cl 1 2 3 4 5 Ba ** 1° colpo", "0 0 0 10 10 5 1"},
-  };
-  for (const auto& caso : casi) {
+  // The prediction, what came out, the hits; ambate, ambi a ruota, a tutte, in sorti from ambi to cinquine.
+  const std::tuple<SlotProva, const char*, std::string, const char*> casi[] = {
+      {ambate, "103 Ba 8 7,103 Ca 7,104 Ba 7", " E 7 Ba ** E 7 Ca ** E 8 Ba ** 2", "3 0 0 0 0 0 0"},
+      {ambi, "102 Ba 5 6", " A 5-6 Ba ** A 5-6 Tu(Ba) ** A 5-6 Tu(Ba) ** 1", "0 1 2 0 0 0 0"},
+      {ambi, "102 Naz 5 6", " A 5-6 Tu(Naz) ** A 5-6 Tu(Naz) ** 1", "0 0 2 0 0 0 0"},
+      {sorte, "102 Ba 1 2,102 Ca 3 1", " Al 1 2 Ba ** Al 1 3 Ca ** 1", "0 0 0 2 0 0 0"},
+      {sorte, "102 Ba 1 2 3 4", " Ql 1 2 3 4 Ba ** 1", "0 0 0 6 4 1 0"},
+      {sorte, "102 Ba 5 4 3 2 1", " Cl 1 2 3 4 5 Ba ** 1", "0 0 0 10 10 5 1"}};
+  for (const auto& [slot, uscite, esito, attesi] : casi) {
     auto& g = p.globals();
     g.AmbiTutte = 0;
-    archivio(archivioDi(104, caso.uscite));
-    scriviMetodoProva(p, "M", {caso.slot});
+    archivio(archivioDi(104, uscite));
+    scriviMetodoProva(p, "M", {slot});
     corri(101, 102);
-    EXPECT_THAT(vincite(), HasSubstr(rapportoDi(" Esito: " + std::string(caso.esito) + "||")));
+    EXPECT_THAT(vincite(), HasSubstr(rapportoDi(" Esito: " + esito + "° colpo||")));
     std::ostringstream conti;
     conti << g.AmbateVincenti << ' ' << g.AmbiRuota << ' ' << g.AmbiTutte << ' ' << g.AmbiSorti << ' '
           << g.TerniSorti << ' ' << g.QuaterneSorti << ' ' << g.CinquineSorti;
-    EXPECT_EQ(conti.str(), caso.conti) << caso.uscite;
-    EXPECT_EQ(g.ContaVincenti, 1);
+    EXPECT_EQ(conti.str(), attesi) << uscite;
   }
 }
 
 TEST_F(Corsa, WonLostAndInPlayAreParted) {
-  using Slot = std::vector<SlotProva>;
-  struct Caso {
-    Slot slot;
-    const char *uscite, *vincenti, *negative, *resto, *voci;
-  };
-  // The archive ends with draw 104.
-  const Caso casi[] = {
-      {{}, "", "0 (0%)", "0 (0%)", "0|||", ""},
-      {Slot({ambata(102)}), "", "0 (0%)", "1 (100%)", "0|||", "1M "},  // its last colpo is the last draw
-      {Slot({ambata(103), ambata(104, 0)}), "", "0 (0%)", "1 (100%)", "1|||", "2M "},
-      {Slot({ambata(104)}), "", "0 (0%)", "0 (0%)", "1|||", ""},
-      {Slot({ambata(103), ambata(102, 1), ambata(101, 1)}), "104 Ba 7", "1 (33,3%)", "2 (66,7%)",
-       "0||Ambate vincenti: 1 (100%)|", "1M 2M 3M "},
-      {Slot({ambata(101), ambata(102), ambata(104)}), "103 Ba 7", "2 (100%)", "0 (0%)",
-       "1||Ambate vincenti: 2 (100%)|", "1M 2M "},
-  };
-  for (const auto& caso : casi) {
-    archivio(archivioDi(104, caso.uscite));
-    scriviMetodoProva(p, "M", caso.slot);
+  // The predictions, what came out, how many have won and are in play, the entries. Draw 104 is the last.
+  const std::tuple<Slot, const char*, int, int, const char*> casi[] = {
+      {{ambata(102)}, "", 0, 0, "1M "},  // its last colpo is the last draw
+      {{ambata(103), ambata(104, 0)}, "", 0, 1, "2M "},
+      {{ambata(103), ambata(102, 1), ambata(101, 1)}, "104 Ba 7", 1, 0, "1M 2M 3M "},
+      {{ambata(101), ambata(102), ambata(104)}, "103 Ba 7", 2, 1, "1M 2M "}};
+  for (const auto& [slot, uscite, vincenti, inGioco, attese] : casi) {
+    archivio(archivioDi(104, uscite));
+    scriviMetodoProva(p, "M", slot);
     corri(101, 104);
-    EXPECT_THAT(stat(), HasSubstr(rapportoDi("Previsioni Vincenti: " + std::string(caso.vincenti) +
-                                             "|Previsioni Negative: " + caso.negative +
-                                             "|Previsioni in gioco: " + caso.resto)));
-    EXPECT_EQ(voci(), caso.voci);
-    EXPECT_EQ(vincite().find("Telefono") != std::string::npos, caso.vincenti[0] != '0') << "winners alone";
+    EXPECT_EQ(p.globals().ContaVincenti, vincenti);
+    EXPECT_EQ(p.globals().ContaInGioco, inGioco);
+    EXPECT_EQ(voci(), attese);
+    EXPECT_EQ(vincite().find("Telefono") != std::string::npos, vincenti > 0) << "winners alone";
   }
 }
 
-TEST_F(Corsa, ARangeTakesItsCalculationDrawsAndPlaysThemToTheEndOfTheArchive) {
-  archivio(archivioDi(110, "105 Ba 7"));
-  scriviMetodoProva(p, "B", {ambata(102, 5), ambata(103, 5)});
-  scriviMetodoProva(p, "A", {ambata(104, 5), ambata(101, 5), ambata(103, 5)});
-  corri(102, 103);
-  EXPECT_EQ(voci(), "1B 2A 3B ");
-  EXPECT_EQ(p.globals().ContaVincenti, 3);
+TEST_F(Corsa, AFailureLosesTheRestOfItsDrawAndNoMore) {
+  const std::tuple<Slot, int, const char*> casi[] = {
+      // what stands in B, the predictions taken, the entries
+      {{ambo(101, {12}, {5, 6, 99}), ambata(101)}, 4, "1A 3A 4C "},
+      {{ambo(101, {1}, std::vector<int>(180, 7))}, 3, "1A 2A 3C "},
+      {Slot(10, ambata(305)), 2, "1A 2A "}};
+  archivio(archivioDi(110));
+  for (const char* nome : {"A", "C"}) scriviMetodoProva(p, nome, {ambata(101), ambata(102)});
+  for (const auto& [slot, giocabili, attese] : casi) {
+    scriviMetodoProva(p, "B", slot);
+    corri(101, 102);
+    EXPECT_EQ(p.globals().ContaGiocabili, giocabili);
+    EXPECT_EQ(voci(), attese);
+  }
+}
+
+TEST_F(Corsa, ALineOfTheTotalsThatFailsIsLostAlone) {
+  archivio(archivioDi(2));
+  corri(-1, 2);  // no date for the first draw, no bets to divide by
+  EXPECT_EQ(stat(), rapportoDi("Estrazione di fine statistica:  n° 2 del 12/3/2005||Previsioni Giocabili: 0|"
+                               "Previsioni Non Giocabili: 0|Previsioni Vincenti: 0 (0%)|"
+                               "Previsioni Negative: 0 (0%)|Previsioni in gioco: 0|||"));
+  EXPECT_EQ(frm.eventi, " 0 iniziata max4 1 2 3 4");
+}
+
+TEST_F(Corsa, AMethodIsReadWhenTheScanOfADrawReachesIt) {
+  archivio(archivioDi(110));
+  scriviMetodoProva(p, "B", std::vector<SlotProva>(10, ambata(101)));
+  p.scrivi("Metodi/Z.txt", "");
+  corri(101, 102);
+  EXPECT_FALSE(p.esiste("Metodi/.dat")) << "behind a method that stops each scan";
+  scriviMetodoProva(p, "B", {ambata(101)});
+  corri(102, 101);
+  EXPECT_FALSE(p.esiste("Metodi/.dat")) << "no draw to scan";
+  corri(101, 101);
+  EXPECT_TRUE(p.esiste("Metodi/.dat")) << "a file without .dat is read under an empty name";
+  EXPECT_THAT(vincite(), StartsWith(rapportoDi(" Previsione n.°1| Metodo: B")));
+}
+
+TEST_F(Corsa, ThePairOfAnAmboStartsAnewWithEachDraw) {
+  archivio(archivioDi(110));
+  scriviMetodoProva(p, "A", {ambo(101, {1}, {12, 34, 99}), ambo(102, {1}, {7, 99})});
+  scriviMetodoProva(p, "B", {ambo(101, {1}, {7, 99})});
+  corri(101, 102);
+  EXPECT_THAT(vincite(), HasSubstr(rapportoDi(" Metodo: B| Data di Calcolo:  Estrazione n.101 del 12/3/2005|"
+                                              " Ruote: Ba| Ambi Secchi: 7-34|")));
+  EXPECT_THAT(vincite(), HasSubstr(" Ambi Secchi: 7-0\r\n"));
+}
+
+TEST_F(Corsa, TheAmbiATutteGrowUntilTheProgramEnds) {
+  archivio(archivioDi(110, "102 Ba 5 6"));
+  scriviMetodoProva(p, "M", {ambo(101, {1, 12}, {5, 6, 99})});
+  const auto giocate = [](const char* ruota, const char* tutte) {
+    return HasSubstr(rapportoDi("Ambate vincenti: 0 (0%)|Ambi secchi vincenti a ruota: " +
+                                std::string(ruota) + "|Ambi secchi vincenti a tutte: " + tutte + "|"));
+  };
+  corri(101, 102);
+  EXPECT_THAT(stat(), giocate("1 (50%)", "1 (50%)"));
+  corri(101, 102);
+  EXPECT_THAT(stat(), giocate("1 (33,3%)", "2 (66,7%)"));
+  p.globals().MetodoScelto = 2;
+  corri(101, 102);
+  EXPECT_THAT(stat(), giocate("1 (33,3%)", "2 (66,7%)")) << "without a scan the bets of the last one stay";
+  EXPECT_THAT(stat(), HasSubstr(rapportoDi("Previsioni Giocabili: 0|")));
+  EXPECT_EQ(vincite() + p.contenuto("PrevGioco.txt") + frm.eventi, " 0 iniziata");
+}
+
+TEST_F(Corsa, AStopIsHonouredBetweenTwoDraws) {
+  archivio(archivioDi(110));
+  scriviMetodoProva(p, "M", {ambata(101), ambata(109), ambata(102), ambata(101)});
+  p.globals().StopElaborazione = true;
+  p.servizi.allaPausa = [this] { p.globals().StopElaborazione = true; };
+  corri(101, 109);
+  EXPECT_EQ(frm.eventi, " 0 iniziata max9 1 interrotta") << "a request from before the run is forgotten";
+  EXPECT_EQ(stat(), "");
+  EXPECT_EQ(voci(), "1M 2M ");
 }
 
 }  // namespace

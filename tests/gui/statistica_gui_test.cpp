@@ -57,7 +57,7 @@ class StatisticaGuiTest : public QObject {
     for (const auto& [come, ferma] : modi) {
       QString durante;
       v.p.servizi.pause = 0;
-      v.p.servizi.allaPausa = [&] {
+      v.p.servizi.allaPausa = [&, &ferma = ferma] {
         QCoreApplication::processEvents();
         if (v.p.servizi.pause != 3) return;
         durante = v.stato();

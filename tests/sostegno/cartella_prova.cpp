@@ -45,19 +45,4 @@ void ProgrammaProva::scrivi(std::string_view nome, std::string_view ottetti) con
   std::ofstream(radice_ / nome, std::ios::binary) << ottetti;
 }
 
-std::string rapporto(const std::vector<std::string>& righe) {
-  std::string testo;
-  for (const auto& riga : righe) {
-    for (std::size_t i = 0; i < riga.size(); ++i)
-      if (riga.compare(i, 2, "°") == 0) {
-        testo += '\xB0';
-        ++i;
-      } else {
-        testo += riga[i];
-      }
-    testo += "\r\n";
-  }
-  return testo;
-}
-
 }  // namespace vaticlo::prova

@@ -77,7 +77,4 @@ class ProgrammaProva {
   void scrivi(std::string_view nome, std::string_view ottetti) const;
 };
 
-/// `righe`, each ended by CR LF, with the "°" of the code page where the text has a UTF-8 one.
-[[nodiscard]] std::string rapporto(const std::vector<std::string>& righe);
-
 }  // namespace vaticlo::prova

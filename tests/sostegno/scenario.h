@@ -9,12 +9,16 @@
 
 namespace vaticlo::prova {
 
-/// The bytes of a report, its lines parted by "|".
+/// The bytes of a report in its code page, its lines parted by "|" and ended by CR LF.
 [[nodiscard]] inline std::string rapportoDi(const std::string& testo) {
-  std::vector<std::string> righe;
+  std::string ottetti;
   std::istringstream resto(testo);
-  for (std::string riga; std::getline(resto, riga, '|');) righe.push_back(riga);
-  return rapporto(righe);
+  for (std::string riga; std::getline(resto, riga, '|');) {
+    for (auto posto = riga.find("°"); posto != std::string::npos; posto = riga.find("°"))
+      riga.replace(posto, std::string("°").size(), "\xB0");
+    ottetti += riga + "\r\n";
+  }
+  return ottetti;
 }
 
 /// The archive up to draw `ultima`, with what came out as "5434 Ba 12, 5436 Naz 3 1 2".

@@ -1,0 +1,143 @@
+#include <QDateEdit>
+
+#include "gui/finestra_prova.h"
+
+using namespace vaticlo;
+using namespace vaticlo::prova;
+
+namespace {
+
+/// A window over thirty draws: draw n has n and n + 1 on Bari and n on Nazionale.
+struct Estrazioni : PrincipaleProva {
+  explicit Estrazioni(const char* voce) {
+    ArchivioProva archivio(30);
+    for (int n = 1; n <= 30; ++n) archivio.ruota(n, 1, {n, n + 1}).ruota(n, 11, {n});
+    archivio.data(1, 3, 3, 1946).scrivi(p);
+    scegli(voce);
+  }
+  /// Number and date of the draw shown and its numbers of Bari.
+  [[nodiscard]] QString vista() const {
+    return testo("lblnestr") + ' ' + testo("lbldataestr") + ": " + numeri(0);
+  }
+  /// Types a number and leaves the field with Tab. The name of what has the focus then.
+  QString metti(const QString& testo) {
+    scrivi(testo);
+    premi(Qt::Key_Tab);
+    return fuoco();
+  }
+};
+
+const QString kSalvare = "[Attenzione] Sei sicuro di voler salvare l'estrazione";
+
+}  // namespace
+
+class EstrazioniGuiTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void aDrawTypedWithKeysIsAppendedAndAFreshWindowFollows() {
+    Estrazioni v("mnu1Inserisci");
+    auto atteso = ApriArchivio(v.p.cartella());
+    for (const auto& [k, valore] : {std::pair{1, 12}, {2, 5}, {3, 99}, {4, 20}})
+      atteso(31, 0, k) = static_cast<std::uint8_t>(valore);
+    for (int f = 0; f < 55; ++f) {
+      QTRY_COMPARE(v.fuoco(), QString("txtestr_%1").arg(f));
+      const int numero = f * 7 % 90 + 1;  // of one digit and of two, no two alike in a row
+      atteso(31, 1 + f / 5, 1 + f % 5) = static_cast<std::uint8_t>(numero);
+      v.metti(QString::number(numero));
+    }
+    QCOMPARE(v.metti("12051999"), QString("btnSalva"));
+    for (const auto risposta : {Risposta::No, Risposta::Si}) {
+      QCOMPARE(v.numeri(53, 2), QString("12 19"));
+      v.p.servizi.risposta = risposta;
+      v.premi(Qt::Key_Space);
+    }
+    QCOMPARE(v.detti(), QStringList(2, kSalvare));
+    QVERIFY(std::ranges::equal(ApriArchivio(v.p.cartella()).ottetti(), atteso.ottetti()));
+
+    QTRY_COMPARE(v.fuoco(), QString("txtestr_0"));
+    QCOMPARE(v.aperte(), QStringList("Inserimento Estrazioni"));
+    QCOMPARE(v.numeri(0, 55), QStringList(55, "  ").join(' '));
+    QCOMPARE(v.usa<QDateEdit>("mcdatecombo1").date(), QDate(2026, 3, 14));
+  }
+
+  void aFieldThatFailsKeepsTheFocusHoweverItIsLeft() {
+    Estrazioni v("mnu1Inserisci");
+    const std::function<void()> uscite[] = {[&] { v.premi(Qt::Key_Tab); }, [&] { v.clicca("txtestr_7"); },
+                                            [&] { v.clicca("btnSalva"); },
+                                            [&] { v.premi(Qt::Key_S, Qt::AltModifier); }};
+    for (const QString testo : {"", "91"})
+      for (const auto& esci : uscite) {
+        v.scrivi(testo);
+        esci();
+        QTRY_COMPARE(v.fuoco(), QString("txtestr_0"));
+        QCOMPARE(v.testo("txtestr_0"), testo.leftJustified(2));
+        QCOMPARE(v.detti(), QStringList("[Attenzione] Inserire un valore valido compreso tra 1 e 90"));
+      }
+    QCOMPARE(v.metti("5"), QString("txtestr_1"));
+    QCOMPARE(v.metti(" 5"), QString("txtestr_2"));    // the right-hand place of the mask: another text
+    QCOMPARE(v.metti("90x1"), QString("txtestr_3"));  // two digits and nothing else can be typed
+    QCOMPARE(v.numeri(0, 3), QString("5   5 90"));
+  }
+
+  void esciIsReachedWithoutValidationAndAFieldNeverLeftIsNotValidated() {
+    Estrazioni v("mnu1Inserisci");
+    for (const bool conTasti : {true, false}) {
+      v.scrivi("91");
+      conTasti ? v.premi(Qt::Key_E, Qt::AltModifier) : v.clicca("btnCancella");
+      QCOMPARE(v.aperte(), QStringList());
+      v.scegli("mnu1Inserisci");
+    }
+    v.scrivi("1");
+    v.premi(Qt::Key_S, Qt::AltModifier);
+    QCOMPARE(v.detti(), QStringList(kSalvare));
+    QCOMPARE(v.failures(), QList<int>{13});
+  }
+
+  void aDrawIsFoundCorrectedAndDeletedWithKeys() {
+    Estrazioni v("mnu1Modifica");
+    v.scegli("mnu1Modifica");  // once more, while it is the active window
+    QCOMPARE(v.vista(), QString("30 12/3/2005: 30 31 0 0 0"));
+    v.usa("VScroll1").setFocus();
+    for (const auto& [tasto, vista] : {std::pair{Qt::Key_PageUp, "20 12/3/2005: 20 21 0 0 0"},
+                                       {Qt::Key_Up, "19 12/3/2005: 19 20 0 0 0"},
+                                       {Qt::Key_Home, "1 3/3/1946: 1 2 0 0 0"}}) {
+      v.premi(tasto);
+      QCOMPARE(v.vista(), QString(vista));
+    }
+    v.p.servizi.digitato = "29";
+    v.premi(Qt::Key_T, Qt::AltModifier);
+    v.clicca("txtestr_0");
+    v.premi(Qt::Key_A, Qt::ControlModifier);
+    v.scrivi("255");  // no test for a range, and none for duplicates
+    v.premi(Qt::Key_Return);
+    v.scrivi("9");
+    v.premi(Qt::Key_Enter);
+    QCOMPARE(v.fuoco(), QString("txtestr_2"));
+    v.premi(Qt::Key_S, Qt::AltModifier);
+    const auto archivio = ApriArchivio(v.p.cartella());
+    QVERIFY(archivio(29, 1, 1) == 255 && archivio(29, 1, 2) == 9);
+    QCOMPARE(v.detti(), QStringList("[Attenzione] Sei sicuro di voler modificare l'estrazione corrente"));
+    v.premi(Qt::Key_E, Qt::AltModifier);
+    QCOMPARE(v.detti(), QStringList("[Attenzione] Sei sicuro di voler cancellare l'estrazione selezionata"));
+    QCOMPARE(v.aperte(), QStringList("Modifica Estrazione"));
+    QCOMPARE(v.vista(), QString("29 12/3/2005: 30 31 0 0 0"));
+    v.clicca("btnAnnulla");
+    QCOMPARE(v.aperte(), QStringList());
+  }
+
+  void comingBackFromAnotherWindowShowsTheNewestDraw() {
+    for (const auto tasto : {Qt::Key_F4, Qt::Key_W}) {
+      Estrazioni v("mnu1Modifica");
+      v.usa("VScroll1").setFocus();
+      v.premi(Qt::Key_Home);
+      v.scegli("mnuUtility3");
+      v.premi(tasto, Qt::ControlModifier);
+      QCOMPARE(v.aperte(), QStringList("Modifica Estrazione"));
+      QCOMPARE(v.vista(), QString("30 12/3/2005: 30 31 0 0 0"));
+    }
+  }
+};
+
+QTEST_MAIN(EstrazioniGuiTest)
+#include "estrazioni_gui_test.moc"
