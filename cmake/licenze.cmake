@@ -10,7 +10,7 @@ foreach(file ${librerie} ${moduli})
   file(REAL_PATH "${file}" vero)
   string(REGEX REPLACE "^/usr/lib" "/lib" altro "${vero}")  # a package may still put there what /usr/lib now holds
   execute_process(COMMAND ${dpkg_query} --search ${vero} ${altro} OUTPUT_VARIABLE trovato ERROR_QUIET)
-  if(NOT trovato MATCHES "^([^\n]+): /")
+  if(NOT trovato MATCHES "^([^\n,]+)(, [^\n]+)?: /")
     message(FATAL_ERROR "No Debian package owns ${vero}: its licence is not known")
   endif()
   list(APPEND pacchetti ${CMAKE_MATCH_1})

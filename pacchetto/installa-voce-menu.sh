@@ -1,15 +1,20 @@
 #!/bin/sh
 # Mette Vaticlo nel menu delle applicazioni di chi lo esegue; con --togli lo toglie. Da ripetere se la cartella si sposta.
 set -eu
-cartella=$(cd "$(dirname "$0")" && pwd -P)
+cartella=$(dirname -- "$(readlink -f -- "$0")")
 voci=${XDG_DATA_HOME:-$HOME/.local/share}/applications
 voce=$voci/vaticlo.desktop
 
-if [ "${1:-}" = --togli ]; then
-  rm -f "$voce"
-  echo "Tolta la voce $voce"
-  exit
-fi
+case "${1:-}" in
+  --togli)
+    rm -f "$voce"
+    echo "Tolta la voce $voce"
+    exit ;;
+  "") ;;
+  *)
+    echo "Uso: $0 [--togli]" >&2
+    exit 2 ;;
+esac
 
 # Due scritture di un percorso: com'è, e tra virgolette in una riga di comando.
 percorso=$(printf %s "$cartella" | sed 's/\\/\\\\/g')
@@ -18,5 +23,6 @@ mkdir -p "$voci"
 {
   grep -v -e '^Exec=' -e '^Icon=' "$cartella/vaticlo.desktop"
   printf '%s\n' "Exec=\"$comando\"" "TryExec=$percorso/vaticlo" "Icon=$percorso/vaticlo.svg"
-} >"$voce"
+} >"$voce.nuova"
+mv "$voce.nuova" "$voce"
 echo "Scritta la voce $voce"

@@ -26,15 +26,20 @@ while IFS= read -r -d '' file; do
 done < <(find "$cartella/vaticlo" "$cartella/vaticlo-cli" "$cartella/lib" -type f -print0)
 
 env -i "$cartella/vaticlo-cli" dimostrazione >/dev/null
-env -i "$cartella/vaticlo-cli" verifica 315 | grep -q "Ambata 90 Ba al 3°colpo" || sbaglio "a check went wrong"
+env -i "$cartella/vaticlo-cli" verifica 315 >"$prova/verifica"
+grep -q "Ambata 90 Ba al 3°colpo" "$prova/verifica" || sbaglio "a check went wrong"
 [ -s "$cartella/Esiti.txt" ] || sbaglio "the report is not in the program folder"
 env -i LD_DEBUG=files "$cartella/vaticlo-cli" aggiorna --da http://127.0.0.1:1/ >/dev/null 2>"$prova/caricate" || true
 grep -qF "calling init: $cartella/lib/libcurl.so.4" "$prova/caricate" || sbaglio "downloads with another libcurl"
 
 env -i QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$prova" "$cartella/vaticlo" &
 programma=$!
-sleep 2
-kill -0 "$programma" 2>/dev/null || sbaglio "the desktop program does not stay up"
+for _ in $(seq 100); do  # until it has read its plugins, 20 seconds at most
+  sleep 0.2
+  kill -0 "$programma" 2>/dev/null || sbaglio "the desktop program does not stay up"
+  ! grep -q platforms/ "/proc/$programma/maps" || break
+done
+sleep 1
 sed -n 's/^[^/]*\(\/.*\.so[.0-9]*\)$/\1/p' "/proc/$programma/maps" | sort -u >"$prova/mappate"
 grep -qxF "$cartella/lib/plugins/platforms/libqoffscreen.so" "$prova/mappate" || sbaglio "its plugins are others"
 while IFS= read -r file; do

@@ -2,6 +2,7 @@
 // a day of its own, and goes through the guide's worked example; each window is pictured on its way.
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -67,10 +68,13 @@ class Fotografo {
   void salva(const QString& nome, const QPixmap& figura) const {
     if (!figura.save(uscita_ + '/' + nome + QStringLiteral(".png"))) ferma("not written: " + nome);
   }
+  static void posa() {
+    QEventLoop ciclo;  // until the layouts have settled
+    QTimer::singleShot(100, &ciclo, &QEventLoop::quit);
+    ciclo.exec();
+  }
   void scatta(const QString& nome) const {
-    QEventLoop posa;  // until the layouts have settled
-    QTimer::singleShot(100, &posa, &QEventLoop::quit);
-    posa.exec();
+    posa();
     salva(nome, figlia().grab());
   }
 
@@ -210,7 +214,11 @@ void Fotografo::tutte() {
   scegli("mnuInformazioni2");
   scatta("informazioni");
   scegli("mnuInformazioni1");
-  salva("guida", conTitolo(*finestra_.findChild<QWidget*>("guida")));
+  auto& guida = *finestra_.findChild<QAbstractScrollArea*>("guida");
+  guida.resize(850, 560);  // no wider than the other pictures, which it shows
+  guida.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  posa();
+  salva("guida", conTitolo(guida));
   conRiquadro("importa", {}, [&] { scegli("mnuUtility5"); });
 }
 

@@ -9,11 +9,12 @@
 
 namespace vaticlo {
 
-/// The public text file of draws could not be taken: which line, and what is wrong with it (Italian).
+/// The public text file of draws could not be taken: which line, if it is one, and what is wrong (Italian).
 class ErroreImportazione : public std::runtime_error {
  public:
   ErroreImportazione(int riga, const std::string& motivo)
       : std::runtime_error("riga " + std::to_string(riga) + ": " + motivo) {}
+  explicit ErroreImportazione(const std::string& motivo) : std::runtime_error(motivo) {}
 };
 
 /// Reads the public text form: a line for each wheel of each draw, oldest draw first,

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QLocale>
+#include <QSettings>
 #include <QStyleFactory>
 #include <QTranslator>
 #include <csignal>
@@ -18,6 +19,8 @@ int main(int argc, char* argv[]) {
   QApplication applicazione(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Vaticlo"));
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  // Nothing is remembered between runs; the file dialog would write its last folders there.
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
   // The interface is Italian whatever the system's language is.
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   QTranslator italiano;

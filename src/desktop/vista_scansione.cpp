@@ -54,6 +54,12 @@ QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confi
   auto* area = legame->area(frm->RichTextBox1, QStringLiteral("RichTextBox1"));
   area->setAccessibleName(QString::fromStdString(frm->Caption()));
 
+  auto* posto = new QWidget(widget);  // it stays when both are hidden, so that nothing moves during a scan
+  auto* alterni = new QVBoxLayout(posto);
+  alterni->setContentsMargins(0, 0, 0, 0);
+  alterni->addWidget(nota);
+  alterni->addWidget(area);
+
   auto* pulsanti = new QHBoxLayout;
   pulsanti->addWidget(legame->avanzamento(frm->prgbar, QStringLiteral("prgbar")), 1);
   pulsanti->addStretch(1);
@@ -64,8 +70,7 @@ QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confi
   tutto->setContentsMargins(14, 12, 14, 12);
   tutto->setSpacing(10);
   tutto->addLayout(sopra);
-  tutto->addWidget(nota, 1);
-  tutto->addWidget(area, 1);
+  tutto->addWidget(posto, 1);
   tutto->addLayout(pulsanti);
   return widget;
 }

@@ -19,7 +19,7 @@ constexpr const char* kLavoro = "Importazione delle estrazioni in corso...";
 std::string leggi(const fs::path& file) {
   std::error_code codice;
   if (fs::file_size(file, codice) > kMassimoOttetti && !codice)
-    throw ErroreImportazione(1, "il file è troppo grande per contenere estrazioni");
+    throw ErroreImportazione("il file è troppo grande per contenere estrazioni");
   return contenutoFile(file);
 }
 

@@ -103,7 +103,7 @@ class PrincipaleGuiTest : public QObject {
     v.scegli("mnuUtility4");
     v.clicca("btninizia");
     QCOMPARE(v.detti(), QStringList("[Vaticlo] ok"));
-    QVERIFY(v.p.servizi.scaricati == std::vector{indirizzoRiserva()});
+    QVERIFY(v.p.servizi.scaricati == std::vector{indirizzoRiserva() + " archivio71.dat"});
   }
 
   void closingDeletesTheReportOfTheLastCheckAlone() {

@@ -25,8 +25,8 @@ class ServiziProva : public Servizi {
   std::filesystem::path scegliFile(const std::string& /*titolo*/) override { return scelto; }
   void avanzamento(const std::string& /*lavoro*/, int percento) override { percenti.push_back(percento); }
   void stampa(const std::string& testo) override { stampati.push_back(testo); }
-  bool scarica(const std::string& indirizzo, const std::filesystem::path& /*destinazione*/) override {
-    scaricati.push_back(indirizzo);
+  bool scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) override {
+    scaricati.push_back(indirizzo + " " + destinazione.filename().string());
     return scaricamentoRiesce;
   }
   void apriPagina(const std::string& indirizzo) override { pagine.push_back(indirizzo); }
