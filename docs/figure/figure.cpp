@@ -12,19 +12,18 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QTranslator>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <utility>
 
 #include "console/dimostrazione.h"
+#include "desktop/applicazione.h"
 #include "desktop/finestra_principale.h"
 #include "desktop/finestra_splash.h"
 #include "desktop/servizi_desktop.h"
@@ -230,13 +229,9 @@ int main(int argc, char* argv[]) {
   using namespace vaticlo;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication applicazione(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("Vaticlo"));
-  QApplication::setStyle(QStringLiteral("Fusion"));
+  preparaApplicazione(applicazione);
   QApplication::setCursorFlashTime(0);
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
-  QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
-  QTranslator italiano;
-  if (italiano.load(QStringLiteral(":/traduzioni/qtbase_it.qm"))) QApplication::installTranslator(&italiano);
   if (argc != 2) ferma("vaticlo_figure FOLDER");
   const QString uscita = argv[1];
 

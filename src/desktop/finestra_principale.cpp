@@ -25,10 +25,6 @@ namespace {
 constexpr int kTwipsPerPixel = 15;
 constexpr int kLatoImmagini = 32;
 
-QString daUtf8(std::string_view testo) {
-  return QString::fromUtf8(testo.data(), static_cast<int>(testo.size()));
-}
-
 int pixel(int twips) { return twips / kTwipsPerPixel; }
 
 /// A child window that knows its dialog.
@@ -85,7 +81,7 @@ void FinestraPrincipale::creaMenu() {
   std::array<QMenu*, 4> aperti{};  // the submenu under construction at each level
   for (const auto& voce : tavolaMenu()) {
     const auto livello = static_cast<std::size_t>(voce.livello);
-    const auto caption = daUtf8(voce.caption), nome = daUtf8(voce.nome);
+    const auto caption = QString::fromUtf8(voce.caption), nome = QString::fromUtf8(voce.nome);
     if (voce.comando == Comando::Sottomenu) {
       aperti.at(livello) =
           livello == 1 ? menuBar()->addMenu(caption) : aperti.at(livello - 1)->addMenu(caption);
@@ -94,7 +90,7 @@ void FinestraPrincipale::creaMenu() {
     }
     auto* azione = livello == 1 ? menuBar()->addAction(caption) : aperti.at(livello - 1)->addAction(caption);
     azione->setObjectName(nome);
-    if (!voce.tasto.empty()) azione->setShortcut(QKeySequence(daUtf8(voce.tasto)));
+    if (!voce.tasto.empty()) azione->setShortcut(QKeySequence(QString::fromUtf8(voce.tasto)));
     connect(azione, &QAction::triggered, this,
             [this, comando = voce.comando] { confine_.esegui([&] { principale_.comando(comando); }); });
   }
@@ -107,10 +103,10 @@ void FinestraPrincipale::creaBarra() {
   barra->setContextMenuPolicy(Qt::PreventContextMenu);
   barra->setIconSize(QSize(kLatoImmagini, kLatoImmagini));
   for (const auto& pulsante : tavolaBarra()) {
-    const auto toolTip = daUtf8(pulsante.toolTip);
+    const auto toolTip = QString::fromUtf8(pulsante.toolTip);
     auto* bottone = new BottoneBarra(barra);
-    bottone->setObjectName(daUtf8(pulsante.chiave));
-    bottone->setIcon(immagine(daUtf8(pulsante.immagine)));
+    bottone->setObjectName(QString::fromUtf8(pulsante.chiave));
+    bottone->setIcon(immagine(QString::fromUtf8(pulsante.immagine)));
     bottone->setToolTip(toolTip);
     bottone->setAccessibleName(toolTip);
     bottone->setFocusPolicy(Qt::TabFocus);
@@ -121,8 +117,8 @@ void FinestraPrincipale::creaBarra() {
     if (!pulsante.calcolaPrevisione.empty()) {
       auto* menu = new QMenu(bottone);
       const auto voce = [&](std::string_view chiave, std::string_view caption) {
-        auto* azione = menu->addAction(daUtf8(caption));
-        azione->setObjectName(daUtf8(chiave));
+        auto* azione = menu->addAction(QString::fromUtf8(caption));
+        azione->setObjectName(QString::fromUtf8(chiave));
         connect(azione, &QAction::triggered, this,
                 [this, chiave] { confine_.esegui([&] { principale_.Toolbar1_ButtonMenuClick(chiave); }); });
       };

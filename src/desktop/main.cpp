@@ -1,12 +1,11 @@
 #include <QApplication>
-#include <QLocale>
+#include <QFile>
 #include <QSettings>
-#include <QStyleFactory>
-#include <QTranslator>
 #include <csignal>
 #include <filesystem>
 #include <memory>
 
+#include "desktop/applicazione.h"
 #include "desktop/confine.h"
 #include "desktop/finestra_principale.h"
 #include "desktop/finestra_splash.h"
@@ -17,17 +16,13 @@ int main(int argc, char* argv[]) {
   // A limit on the size of files shows as a write that fails, not as the end of the process.
   std::signal(SIGXFSZ, SIG_IGN);
   QApplication applicazione(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("Vaticlo"));
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-  // Nothing is remembered between runs; the file dialog would write its last folders there.
+  preparaApplicazione(applicazione);
+  // Nothing is remembered between runs: the file dialog would otherwise keep its last folders in a file of
+  // settings.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
-  // The interface is Italian whatever the system's language is.
-  QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
-  QTranslator italiano;
-  if (italiano.load(QStringLiteral(":/traduzioni/qtbase_it.qm"))) QApplication::installTranslator(&italiano);
 
   ServiziDesktop servizi;
-  Programma programma(QApplication::applicationDirPath().toStdString(), servizi);
+  Programma programma(QFile::encodeName(QApplication::applicationDirPath()).toStdString(), servizi);
   const Confine confine;
   frmPrincipale principale(programma);
   std::unique_ptr<FinestraPrincipale> finestra;

@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QRadioButton>
+#include <QVBoxLayout>
 
 namespace vaticlo {
 
@@ -18,6 +19,13 @@ QGroupBox* sceltaMetodo(Legame& legame, ControlliMetodo& metodo) {
   lista->setMinimumContentsLength(14);
   riga->addWidget(lista, 1);
   return riquadro;
+}
+
+QGroupBox* riquadroCon(Legame& legame, Riquadro& riquadro, const QString& nome, QWidget* dentro) {
+  auto* gruppo = legame.riquadro(riquadro, nome);
+  (new QVBoxLayout(gruppo))->addWidget(dentro);
+  dentro->setAccessibleName(gruppo->title());
+  return gruppo;
 }
 
 }  // namespace vaticlo

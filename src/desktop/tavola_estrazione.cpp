@@ -28,7 +28,7 @@ QWidget* tavolaEstrazione(Legame& legame, std::span<CampoTesto, kCampiEstrazione
   for (int ruota = 0; ruota < kRuote; ++ruota) {
     const auto posto = static_cast<std::size_t>(ruota);
     const auto& nome = kTavolaRuote[posto].nome;
-    auto* etichetta = new QLabel(QString::fromUtf8(nome.data(), static_cast<int>(nome.size())), tavola);
+    auto* etichetta = new QLabel(QString::fromUtf8(nome), tavola);
     etichetta->setObjectName(QLatin1String(kNomiEtichette[posto]));
     griglia->addWidget(etichetta, ruota, 0);
     for (int k = 0; k < ArchivioEstrazioni::Colonne; ++k) {

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "controls/xpcmdbutton.h"
+#include "desktop/scelta_vista.h"
 #include "desktop/tavola_estrazione.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_insprev.h"
@@ -13,25 +14,16 @@ namespace vaticlo {
 
 namespace {
 
-/// A frame with one field in it.
-QGroupBox* cornice(Legame& legame, Riquadro& riquadro, const QString& nome, QWidget* dentro) {
-  auto* gruppo = legame.riquadro(riquadro, nome);
-  auto* riga = new QVBoxLayout(gruppo);
-  riga->addWidget(dentro);
-  dentro->setAccessibleName(gruppo->title());
-  return gruppo;
-}
-
 QWidget* selezione(Legame& legame, frmInsPrev& frm) {
   auto* widget = new QWidget(legame.vista());
   auto* riga = new QHBoxLayout(widget);
   riga->setContentsMargins(0, 0, 0, 0);
   auto* metodi = legame.elenco(frm.cmbMetodo, QStringLiteral("cmbMetodo"));
   metodi->setMinimumContentsLength(24);
-  riga->addWidget(cornice(legame, frm.Frame1, QStringLiteral("Frame1"), metodi));
+  riga->addWidget(riquadroCon(legame, frm.Frame1, QStringLiteral("Frame1"), metodi));
   auto* previsioni = legame.elenco(frm.cmbPrevisione, QStringLiteral("cmbPrevisione"));
   previsioni->setMinimumContentsLength(32);
-  riga->addWidget(cornice(legame, frm.Frame10, QStringLiteral("Frame10"), previsioni));
+  riga->addWidget(riquadroCon(legame, frm.Frame10, QStringLiteral("Frame10"), previsioni));
   riga->addStretch(1);
   return widget;
 }
@@ -48,24 +40,24 @@ QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
 QWidget* previsione(Legame& legame, frmInsPrev& frm) {
   auto* gruppo = legame.riquadro(frm.Frame3, QStringLiteral("Frame3"));
   auto* prima = new QHBoxLayout;
-  prima->addWidget(cornice(legame, frm.Frame11, QStringLiteral("Frame11"),
-                           legame.campo(frm.txtNum, QStringLiteral("txtNum"))),
+  prima->addWidget(riquadroCon(legame, frm.Frame11, QStringLiteral("Frame11"),
+                               legame.campo(frm.txtNum, QStringLiteral("txtNum"))),
                    3);
-  prima->addWidget(cornice(legame, frm.Frame4, QStringLiteral("Frame4"),
-                           legame.campo(frm.txtRuote, QStringLiteral("txtRuote"))),
+  prima->addWidget(riquadroCon(legame, frm.Frame4, QStringLiteral("Frame4"),
+                               legame.campo(frm.txtRuote, QStringLiteral("txtRuote"))),
                    3);
-  prima->addWidget(cornice(legame, frm.Frame5, QStringLiteral("Frame5"),
-                           legame.elenco(frm.cmbColpi, QStringLiteral("cmbColpi"), Legame::Tipo::Chiuso)),
+  prima->addWidget(riquadroCon(legame, frm.Frame5, QStringLiteral("Frame5"),
+                               legame.elenco(frm.cmbColpi, QStringLiteral("cmbColpi"), Legame::Tipo::Chiuso)),
                    2);
 
   auto* combinazioni = legame.riquadro(frm.Frame6, QStringLiteral("Frame6"));
   auto* colonna = new QVBoxLayout(combinazioni);
-  colonna->addWidget(cornice(legame, frm.Frame7, QStringLiteral("Frame7"),
-                             legame.campo(frm.txtAmbate, QStringLiteral("txtAmbate"))));
-  colonna->addWidget(cornice(legame, frm.Frame8, QStringLiteral("Frame8"),
-                             legame.campo(frm.txtAmbi, QStringLiteral("txtAmbi"))));
-  colonna->addWidget(cornice(legame, frm.Frame9, QStringLiteral("Frame9"),
-                             legame.campo(frm.txtSup, QStringLiteral("txtSup"))));
+  colonna->addWidget(riquadroCon(legame, frm.Frame7, QStringLiteral("Frame7"),
+                                 legame.campo(frm.txtAmbate, QStringLiteral("txtAmbate"))));
+  colonna->addWidget(riquadroCon(legame, frm.Frame8, QStringLiteral("Frame8"),
+                                 legame.campo(frm.txtAmbi, QStringLiteral("txtAmbi"))));
+  colonna->addWidget(riquadroCon(legame, frm.Frame9, QStringLiteral("Frame9"),
+                                 legame.campo(frm.txtSup, QStringLiteral("txtSup"))));
 
   auto* tutto = new QVBoxLayout(gruppo);
   tutto->addLayout(prima);

@@ -15,10 +15,6 @@ namespace vaticlo {
 
 namespace {
 
-QString daUtf8(std::string_view testo) {
-  return QString::fromUtf8(testo.data(), static_cast<int>(testo.size()));
-}
-
 QWidget* tavola(Legame& legame, frmSomdif& frm) {
   auto* widget = new QWidget(legame.vista());
   auto* griglia = new QGridLayout(widget);
@@ -27,7 +23,7 @@ QWidget* tavola(Legame& legame, frmSomdif& frm) {
   griglia->setVerticalSpacing(4);
   for (int c = 0; c < static_cast<int>(frm.colonne.size()); ++c) {
     const auto colonna = static_cast<std::size_t>(c);
-    auto* testa = new QLabel(daUtf8(kCoppiePosizioni[colonna].testa), widget);
+    auto* testa = new QLabel(QString::fromUtf8(kCoppiePosizioni[colonna].testa), widget);
     testa->setObjectName(c == 0 ? QStringLiteral("Label12") : QStringLiteral("Label%1").arg(13 + c));
     testa->setAlignment(Qt::AlignCenter);
     testa->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -43,7 +39,7 @@ QWidget* tavola(Legame& legame, frmSomdif& frm) {
     }
   }
   for (int i = 0; i < kRuoteSomDif; ++i) {
-    auto* etichetta = new QLabel(daUtf8(kTavolaRuote[static_cast<std::size_t>(i)].nome), widget);
+    auto* etichetta = new QLabel(QString::fromUtf8(kTavolaRuote[static_cast<std::size_t>(i)].nome), widget);
     etichetta->setObjectName(QStringLiteral("Label%1").arg(i + 2));
     griglia->addWidget(etichetta, i + 1, 0);
   }

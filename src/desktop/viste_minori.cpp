@@ -8,6 +8,7 @@
 
 #include "controls/xpcmdbutton.h"
 #include "desktop/legame.h"
+#include "desktop/scelta_vista.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_aggiornamento.h"
 #include "dialogs/frm_info.h"
@@ -53,15 +54,11 @@ QWidget* vista(const std::shared_ptr<frmMetodi>& frm, const Confine& confine) {
   auto* tutto = new QVBoxLayout(widget);
   tutto->setContentsMargins(14, 12, 14, 12);
   tutto->setSpacing(10);
-  const auto cornice = [&](Riquadro& riquadro, const QString& nome, QWidget* dentro) {
-    auto* gruppo = legame->riquadro(riquadro, nome);
-    (new QVBoxLayout(gruppo))->addWidget(dentro);
-    dentro->setAccessibleName(gruppo->title());
-    tutto->addWidget(gruppo);
-  };
-  cornice(frm->Frame1, QStringLiteral("Frame1"),
-          legame->elenco(frm->cmbMetodo, QStringLiteral("cmbMetodo"), Legame::Tipo::Chiuso));
-  cornice(frm->Frame2, QStringLiteral("Frame2"), legame->campo(frm->txtNome, QStringLiteral("txtNome")));
+  tutto->addWidget(
+      riquadroCon(*legame, frm->Frame1, QStringLiteral("Frame1"),
+                  legame->elenco(frm->cmbMetodo, QStringLiteral("cmbMetodo"), Legame::Tipo::Chiuso)));
+  tutto->addWidget(riquadroCon(*legame, frm->Frame2, QStringLiteral("Frame2"),
+                               legame->campo(frm->txtNome, QStringLiteral("txtNome"))));
   tutto->addStretch(1);
   auto* pulsanti = new QHBoxLayout;
   pulsanti->addWidget(legame->pulsante(frm->btnRinomina, QStringLiteral("btnRinomina")));
