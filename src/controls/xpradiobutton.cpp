@@ -1,7 +1,9 @@
 #include "controls/xpradiobutton.h"
 
+#include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <QPainter>
+#include <algorithm>
 
 #include "controls/accessibilita.h"
 #include "controls/illustrazioni.h"
@@ -66,12 +68,36 @@ const QWidget* xpradiobutton::finestra() const {
   return widget;
 }
 
+std::vector<xpradiobutton*> xpradiobutton::gruppo() const {
+  std::vector<xpradiobutton*> opzioni;
+  for (xpradiobutton* opzione : finestra()->findChildren<xpradiobutton*>()) {
+    if (opzione->finestra() == finestra()) opzioni.push_back(opzione);  // windows nest, groups do not
+  }
+  return opzioni;
+}
+
 std::vector<StatoOpzione*> xpradiobutton::opzioniDellaFinestra() const {
   std::vector<StatoOpzione*> stati;
-  for (xpradiobutton* opzione : finestra()->findChildren<xpradiobutton*>()) {
-    if (opzione->finestra() == finestra()) stati.push_back(&opzione->stato_);  // windows nest, groups do not
-  }
+  for (xpradiobutton* opzione : gruppo()) stati.push_back(&opzione->stato_);
   return stati;
+}
+
+/// The arrows choose the next option of the group, as in the toolkit's own ones.
+void xpradiobutton::keyPressEvent(QKeyEvent* tasto) {
+  const bool avanti = tasto->key() == Qt::Key_Down || tasto->key() == Qt::Key_Right;
+  const bool indietro = tasto->key() == Qt::Key_Up || tasto->key() == Qt::Key_Left;
+  if (!avanti && !indietro) {
+    ControlloDisegnato::keyPressEvent(tasto);
+    return;
+  }
+  const auto opzioni = gruppo();
+  const auto quante = opzioni.size();
+  auto posto = static_cast<std::size_t>(std::find(opzioni.begin(), opzioni.end(), this) - opzioni.begin());
+  do {
+    posto = (posto + (avanti ? 1 : quante - 1)) % quante;
+  } while (opzioni[posto] != this && !(opzioni[posto]->isEnabled() && opzioni[posto]->isVisible()));
+  opzioni[posto]->setFocus(avanti ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  opzioni[posto]->click();
 }
 
 AspettoOpzione xpradiobutton::aspetto() const {

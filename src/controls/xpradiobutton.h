@@ -36,9 +36,11 @@ class xpradiobutton : public ControlloDisegnato {
   void alClic() override;
   void nextCheckState() override {}  // a click changes the value by its own steps, after `Click`
   void paintEvent(QPaintEvent* evento) override;
+  void keyPressEvent(QKeyEvent* tasto) override;
 
  private:
   [[nodiscard]] const QWidget* finestra() const;
+  [[nodiscard]] std::vector<xpradiobutton*> gruppo() const;
   [[nodiscard]] std::vector<StatoOpzione*> opzioniDellaFinestra() const;
   [[nodiscard]] int lato() const;
 
