@@ -1,5 +1,3 @@
-#include <set>
-
 #include "archive/data.h"
 #include "console/parole.h"
 #include "console/sessione.h"
@@ -12,7 +10,6 @@ namespace {
 TEST(Parole, AreQuotedAsInAShell) {
   // A line, and its words in brackets; "!" for a line that has an end missing.
   const std::pair<std::string, std::string> casi[] = {
-      {" \t\r", ""},
       {"  # trova 1", ""},
       {"trova  1\t2\r", "[trova][1][2]"},
       {"'' x'y  z'\"a b\"", "[][xy  za b]"},
@@ -35,7 +32,7 @@ class Console : public testing::Test {
   /// Runs a command line in the folder of the test and keeps what it says.
   int esegui(const std::string& riga) {
     auto parole = paroleDellaRiga(riga).value();
-    parole.insert(parole.begin(), {"--cartella", p.cartella().radice().string()});
+    parole.insert(parole.begin(), {"--cartella", p.radice.string()});
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     const int stato = sessione.esegui(parole);
@@ -45,7 +42,7 @@ class Console : public testing::Test {
   }
   int eseguiFile(const std::string& comandi) {
     p.scrivi("comandi.txt", comandi);
-    return esegui("esegui " + (p.cartella().radice() / "comandi.txt").string());
+    return esegui("esegui " + (p.radice / "comandi.txt").string());
   }
   ProgrammaProva p;
   Sessione sessione;
@@ -60,17 +57,16 @@ TEST_F(Console, EachCommandSaysHowItWent) {
     zeri += sigla + " 0* 0* 0* 0* 0* 0* 0* 0* 0* 0*\n";
   }
   const std::string riga = "2005/01/08\tBA\t1\t2\t3\t4\t5\r\n", mio = " 'Il mio' ";
-  const ServerProva server(
-      ServerProva::Risposte{{"/uno", "HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nuno"}});
+  const ServerProva server({{"/uno", "HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nuno"},
+                            {"/due", "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n"}});
   p.scrivi("uno.txt", riga);
   p.scrivi("due.txt", riga + riga);
-  const auto file = [this](const char* nome) { return (p.cartella().radice() / nome).string(); };
-  const std::string attenzione = "[Attenzione] ", salvata = "[Vaticlo] La previsione è stata salvata!\n";
+  const std::string salvata = "[Vaticlo] La previsione è stata salvata!\n";
   // The command, its status, all that it says, a part of what it says of an error.
   const std::tuple<std::string, int, std::string, std::string> casi[] = {
       {"nulla", 2, "", "nulla"},
-      {"importa " + file("due.txt"), 2, "", "riga 2"},
-      {"aggiorna --da file://" + file("manca.dat"), 3,
+      {"importa " + (p.radice / "due.txt").string(), 2, "", "riga 2"},
+      {"aggiorna --da " + server.indirizzo("/due"), 3,
        "[Vaticlo] Errore: Non è possibile effettuare l'aggiornamento\n", ""},
       {"estrazione 2", 0, "Estrazione n° 2 del 12/3/2005\nBa 1 2 4 8 16\n" + vuote + "Naz 7 0 0 0 0\n", ""},
       {"somdif 2 --tipo somma", 0, "Ba 3 5 9 17 6 10 18 12 20 24\n" + zeri, ""},
@@ -82,7 +78,7 @@ TEST_F(Console, EachCommandSaysHowItWent) {
       {"inserisci 16-3" + numeri, 2, "", "16-3"},
       {"modifica 4" + numeri, 0, "Salvata l'estrazione n° 4\n", ""},
       {"cancella 4", 0, "Cancellata l'estrazione n° 4\n", ""},
-      {"trova -5", 3, attenzione + "Inserisci un valore corretto compreso tra 1 e 3.\n", ""},
+      {"trova -5", 3, "[Attenzione] Inserisci un valore corretto compreso tra 1 e 3.\n", ""},
       {"metodo crea" + mio, 0, "Creato il metodo Il mio\n", ""},
       {"previsione inserisci" + mio + "--estrazione 2 --ruote Ba-Naz --ambate 7 --numero 899.12", 0, salvata,
        ""},
@@ -99,9 +95,8 @@ TEST_F(Console, EachCommandSaysHowItWent) {
       {"verifica 2 --metodo Altro", 0, "Giocabili: 0\nVincenti: 0\nIn gioco: 0\n", ""},
       {"in-gioco", 0, "Non ci sono previsioni in gioco\n", ""},
       {"vincenti --ultime 6", 2, "", "non 6"},
-      {"statistica 3 -3", 3,
-       attenzione + "L'estrazione di inzio non può essere maggiore dell'estrazione di fine!\n", ""},
-      {"importa " + file("uno.txt"), 0, "Importate 1 estrazioni, dal 8/1/2005 al 8/1/2005\n", ""},
+      {"importa " + (p.radice / "uno.txt").string(), 0, "Importate 1 estrazioni, dal 8/1/2005 al 8/1/2005\n",
+       ""},
       {"aggiorna --da " + server.indirizzo("/uno"), 0, "[Vaticlo] Aggiornamento avvenuto\n", ""}};
   archivioDi(3, "2 Ba 1 2 4 8 16,2 Naz 7").scrivi(p);
   for (const auto& [comando, stato, atteso, errore] : casi) {
@@ -137,9 +132,6 @@ TEST_F(Console, TheDemonstrationHasPredictionsThatWonThatLostAndInPlay) {
   for (int i = 1; i <= ultima; ++i) {
     const std::chrono::weekday giorno(dataDaTesto(archivio.DataEstrazione(i)).value());
     EXPECT_TRUE(giorno == std::chrono::Tuesday || giorno.iso_encoding() - 4 < 3) << "Thursday to Saturday";
-    const std::set<int> bari = {archivio(i, 1, 1), archivio(i, 1, 2), archivio(i, 1, 3), archivio(i, 1, 4),
-                                archivio(i, 1, 5)};
-    EXPECT_TRUE(bari.size() == 5 && *bari.begin() >= 1 && *bari.rbegin() <= 90);
   }
   EXPECT_EQ(esegui("statistica 1 " + std::to_string(ultima)), 0);
   const auto& g = sessione.programma().globals;

@@ -1,5 +1,6 @@
 #include <functional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -12,21 +13,17 @@
 namespace vaticlo {
 namespace {
 
+/// What happens to a control, and its picture and its timer then.
 template <typename Stato>
-struct Passo {
-  std::string cosa;
-  std::function<void(Stato&)> fai;
-  int immagine;
-  bool timer;
-};
+using Passo = std::tuple<const char*, std::function<void(Stato&)>, int, bool>;
 
-/// Runs the steps one after another on the same control and compares picture and timer after each.
+/// Runs the steps one after another on the same control.
 template <typename Stato>
 void percorri(Stato& stato, const std::vector<Passo<Stato>>& passi) {
-  for (const auto& passo : passi) {
-    passo.fai(stato);
-    EXPECT_EQ(static_cast<int>(stato.aspetto()), passo.immagine) << passo.cosa;
-    EXPECT_EQ(stato.timer1Acceso(), passo.timer) << passo.cosa;
+  for (const auto& [cosa, fai, immagine, timer] : passi) {
+    fai(stato);
+    EXPECT_EQ(static_cast<int>(stato.aspetto()), immagine) << cosa;
+    EXPECT_EQ(stato.timer1Acceso(), timer) << cosa;
   }
 }
 

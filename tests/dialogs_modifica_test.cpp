@@ -18,6 +18,11 @@ class Modifica : public testing::Test {
     return std::to_string(e.VScroll1.Value()) + "/" + std::to_string(e.VScroll1.Max()) + " n." +
            e.lblnestr.Caption() + " " + e.lbldataestr.Caption();
   }
+  [[nodiscard]] Celle riga(int i, int j) const {
+    const auto a = ApriArchivio(p.cartella());
+    return {a(i, j, 1), a(i, j, 2), a(i, j, 3), a(i, j, 4), a(i, j, 5)};
+  }
+  [[nodiscard]] std::string archivio() const { return p.contenuto("archivion71.dat"); }
   ProgrammaProva p;
   CorniceProva cornice;
   frmModifica frm{p.programma, cornice};
@@ -41,50 +46,104 @@ TEST_F(Modifica, OpensOnTheNewestDrawAndTheBarStandsOneAboveIt) {
   EXPECT_EQ(vista(), "4/4 n.4 0/0/000") << "active again with the bar at its end already";
 }
 
-TEST_F(Modifica, ADrawIsFoundByNumberOrDate) {
-  const std::string campo = "Inserisci un valore corretto compreso tra 1 e 60.";
+TEST_F(Modifica, ADrawIsFoundByNumberOrByADateFromWhichTheSearchOnlyGoesOnward) {
+  const std::string campo = "Inserisci un valore corretto compreso tra 1 e 10.";
+  const std::string nessuna = "Inserisci una data corretta";
   const std::tuple<const char*, int, std::string> casi[] = {
-      // what is typed, the draw shown then (30: as before), the message
-      {"60", 60, ""},
+      // what is typed, the draw shown then (6: as before), the message
+      {"10", 10, ""},
       {"2,5", 2, ""},
-      {"1", 30, campo},
-      {"61", 30, campo},
-      {"", 30, ""},
-      {"16.03.2005", 60, ""},
-      {"8/1/45", 2, ""},
-      {"30/2/2004", 30, "Inserisci un valore numerico"},
-      {"1/1/1944", 30, "Inserisci una data corretta"}};
-  archivioDi(60).data(1, 1, 1, 1945).data(2, 10, 1, 1945).data(60, 16, 3, 2005).scrivi(p);
+      {"1", 6, campo},
+      {"11", 6, campo},
+      {"", 6, ""},
+      {"30/2/2004", 6, "Inserisci un valore numerico"},
+      {"14.01.1945", 2, ""},
+      {"8/1/45", 2, ""},     // the next draw of the month
+      {"1/3/45", 9, ""},     // a month of a later year
+      {"30/1/2000", 9, ""},  // a day of a later month
+      {"5/4/2001", 10, ""},  // the last draw
+      {"6/4/2001", 6, nessuna},
+      {"1/1/1944", 6, nessuna}};
+  ArchivioProva archivio(0);
+  for (int n = 0; const auto* testo : {"7/1/1945", "14/1/1945", "4/2/1945", "31/12/1999", "5/1/2000",
+                                       "12/1/2000", "29/1/2000", "2/2/2001", "31/3/2001", "5/4/2001"}) {
+    const auto data = *dataDaTesto(testo);
+    archivio.data(++n, giorno(data), mese(data), anno(data));
+  }
+  archivio.scrivi(p);
   apri();
   for (const auto& [digitato, trovata, messaggio] : casi) {
-    frm.estrazione.VScroll1.Value(31);
+    frm.estrazione.VScroll1.Value(7);
     p.servizi.messaggi.clear();
     p.servizi.digitato = digitato;
     frm.btnTrova_Click();
-    EXPECT_EQ(frm.estrazione.lblnestr.Caption(), std::to_string(trovata)) << digitato;
+    EXPECT_THAT(vista(), StartsWith(std::to_string(trovata + 1) + "/11 n." + std::to_string(trovata) + " "))
+        << digitato;
     EXPECT_EQ(p.globals().EstrazioneCorrente, trovata) << digitato;
     EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, messaggio) << digitato;
   }
-  EXPECT_THAT(p.servizi.domande[0].first, HasSubstr("dell'estrazione (compreso tra 1 e 60) da"));
+  EXPECT_THAT(p.servizi.domande[0].first, HasSubstr("dell'estrazione (compreso tra 1 e 10) da"));
 }
 
-TEST_F(Modifica, NothingIsSavedOrDeletedWithoutAYes) {
+TEST_F(Modifica, ASavedDrawKeepsItsDateButForTheCentury) {
+  ArchivioProva archivio(2);
+  archivio.data(1, 3, 3, 1946).griglia(1, 0, 5) = 9;
+  archivio.scrivi(p);
+  apri();
+  frm.estrazione.VScroll1.Value(2);
+  frm.estrazione.txtestr[54].Text("255");
+  frm.btnSalva_Click();
+  EXPECT_THAT(riga(1, 0), ElementsAre(3, 3, 46, 20, 0));
+  EXPECT_THAT(riga(1, 11), ElementsAre(0, 0, 0, 0, 255));
+  EXPECT_EQ(cornice.chiesto, "altre ");
+}
+
+TEST_F(Modifica, WithoutAYesOrAfterAFailureTheArchiveIsAsItWas) {
   archivioDi(3).scrivi(p);
   apri();
-  frm.estrazione.txtestr[0].Text("255");
-  const auto prima = p.contenuto("archivion71.dat");
+  auto prima = archivio();
+  const auto senzaTraccia = [&](void (frmModifica::*fai)(), int numero) {
+    EXPECT_EQ(failureDi([&] { return (frm.*fai)(), 0; }), numero);
+    EXPECT_TRUE(archivio() == prima);
+  };
+  auto& ultimo = frm.estrazione.txtestr[54];
+  for (const auto& [testo, numero] : {std::pair{"", 13}, {"x", 13}, {"256", 6}}) {
+    ultimo.Text(testo);
+    senzaTraccia(&frmModifica::btnSalva_Click, numero);
+  }
+  ultimo.Text("1");
   p.servizi.risposta = Risposta::No;
-  frm.btnSalva_Click();
-  frm.btnCancella_Click();
-  EXPECT_TRUE(p.contenuto("archivion71.dat") == prima);
+  senzaTraccia(&frmModifica::btnSalva_Click, 0);
+  senzaTraccia(&frmModifica::btnCancella_Click, 0);
   p.servizi.risposta = Risposta::Si;
-  frm.btnSalva_Click();
-  EXPECT_EQ(ApriArchivio(p.cartella())(3, 1, 1), 255);
-  EXPECT_EQ(cornice.chiesto, "altre ");
+  frm.Form_Activate();  // on the free slot, which has no date
+  senzaTraccia(&frmModifica::btnSalva_Click, 13);
+  archivioDi(15000).scrivi(p);
+  prima = archivio();
+  senzaTraccia(&frmModifica::btnCancella_Click, 9);
+}
+
+TEST_F(Modifica, ADeletionClosesTheGapOfAllRowsButTheNazionale) {
+  ArchivioProva archivio(10);
+  for (int n = 1; n <= 10; ++n)
+    archivio.data(n, n, 3, 2005).ruota(n, 1, {n}).ruota(n, 10, {10 + n}).ruota(n, 11, {20 + n, 1});
+  archivio.scrivi(p);
+  apri();
+  const auto celle = [&](int n) {
+    return Celle{riga(n, 0)[0], riga(n, 1)[0], riga(n, 10)[0], riga(n, 11)[0]};
+  };
+  frm.estrazione.VScroll1.Value(6);
   frm.btnCancella_Click();
+  EXPECT_THAT(celle(4), ElementsAre(4, 4, 14, 24));
+  EXPECT_THAT(celle(5), ElementsAre(6, 6, 16, 25));
+  EXPECT_THAT(celle(10), ElementsAre(0, 0, 0, 30));
+  EXPECT_EQ(vista(), "6/10 n.5 6/3/2005");
   EXPECT_EQ(cornice.chiesto, "altre riapri ");
-  EXPECT_EQ(vista(), "3/3 n.3 0/0/000") << "the bar moves to its new end, then the deleted number is shown";
-  EXPECT_EQ(p.globals().EstrazioneCorrente, 2);
+  frm.estrazione.VScroll1.Value(10);
+  frm.btnCancella_Click();
+  EXPECT_THAT(celle(8), ElementsAre(9, 9, 19, 28));
+  EXPECT_EQ(vista(), "9/9 n.9 0/0/000") << "the bar moves to its new end, then the deleted number is shown";
+  EXPECT_EQ(p.globals().EstrazioneCorrente, 8);
 }
 
 TEST(Inserisci, ANumberIsTestedForItsRangeAndAsATextAgainstTheFieldsAtItsLeft) {
@@ -108,6 +167,17 @@ TEST(Inserisci, ANumberIsTestedForItsRangeAndAsATextAgainstTheFieldsAtItsLeft) {
     EXPECT_EQ(frm.txtestr[f].Validate(), !messaggio.empty()) << f << ' ' << testo;
     EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, messaggio);
   }
+}
+
+TEST(Inserisci, ADrawWithoutADateIsOfTodayAndAFullArchiveTakesNone) {
+  ProgrammaProva p;
+  CorniceProva cornice;
+  frmInserisci frm(p.programma, cornice);
+  for (auto& campo : frm.txtestr) campo.Text("7");
+  frm.btnSalva_Click();
+  EXPECT_EQ(ApriArchivio(p.cartella()).DataEstrazione(1), "14/3/2026");
+  archivioDi(15000).scrivi(p);
+  EXPECT_EQ(failureDi([&] { return frm.btnSalva_Click(), 0; }), 9);
 }
 
 }  // namespace

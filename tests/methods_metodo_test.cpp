@@ -90,13 +90,14 @@ TEST_F(Decoding, SplitsTheCombinationsAtTheirClosingCells) {
 }
 
 TEST_F(Decoding, FailsOnAListWithoutAnEnd) {
-  for (const auto lista : {&SlotProva::ruote, &SlotProva::ambate, &SlotProva::ambi, &SlotProva::sup})
-    for (const int celle : {179, 180}) {
-      SlotProva slot;
-      slot.*lista = Celle(static_cast<std::size_t>(celle), 5);
-      EXPECT_EQ(failureDi([&] { return decodifica(slot); }), celle == 180 ? 9 : 0);
-    }
-  EXPECT_EQ(failureDi([&] { return decodifica({.telefono = Celle(178, 5)}); }), 9);
+  const Celle celle(180, 5);
+  for (const auto& slot : {SlotProva{.telefono = Celle(178, 5)},
+                           {.ruote = celle},
+                           {.ambate = celle},
+                           {.ambi = celle},
+                           {.sup = celle}})
+    EXPECT_EQ(failureDi([&] { return decodifica(slot); }), 9);
+  EXPECT_THAT(decodifica({.ambate = Celle(179, 5)}).Ambate, Each(5));
 }
 
 TEST(Catalogue, NamesEachMethodUpToItsFirstDatInTheOrderOfTheFolder) {

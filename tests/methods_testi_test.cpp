@@ -85,9 +85,7 @@ TEST_F(FieldTexts, FillAllCellsOfAListAndNotOneMore) {
 }
 
 TEST_F(FieldTexts, OfADrawRoundTheCenturyAndFailForYearsThatGoBelowIt) {
-  const auto data = [](int anno) {
-    return Data{std::chrono::year{anno}, std::chrono::March, std::chrono::day{12}};
-  };
+  const auto data = [](int anno) { return dataDaTesto("12/3/" + std::to_string(anno)).value(); };
   const std::array<int, 3> casi[] = {{2005, 20, 5}, {1949, 19, 49}, {2050, 20, 50}, {1850, 18, 50}};
   for (const auto& [anno, secolo, resto] : casi) {
     scriviEstrazione(metodo, 1, 5432, data(anno));

@@ -13,23 +13,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A disk on which no file can grow beyond `ottetti`, as long as it lives.
-struct DiscoPieno {
-  explicit DiscoPieno(rlim_t ottetti) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    ::getrlimit(RLIMIT_FSIZE, &prima);
-    const rlimit stretto{ottetti, prima.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &stretto);
-  }
-  DiscoPieno(const DiscoPieno&) = delete;
-  DiscoPieno& operator=(const DiscoPieno&) = delete;
-  ~DiscoPieno() { ::setrlimit(RLIMIT_FSIZE, &prima); }
-  rlimit prima{};
-};
-
 class Files : public testing::Test {
  protected:
-  [[nodiscard]] fs::path percorso(const std::string& nome) const { return p.cartella().radice() / nome; }
+  [[nodiscard]] fs::path percorso(const std::string& nome) const { return p.radice / nome; }
   void leggi(const std::string& nome) { leggiFile(percorso(nome), griglia); }
   void scrivi(const std::string& nome) { scriviFile(percorso(nome), griglia); }
 
@@ -66,11 +52,16 @@ TEST_F(Files, ThatAreNoPlainOnesFail) {
 TEST_F(Files, AreAsTheyWereWhenTheDiskIsFull) {
   p.scrivi("dati", "old");
   FileRapporto rapporto(percorso("Stat.txt"));
-  const DiscoPieno disco(4);
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit disco{};
+  ::getrlimit(RLIMIT_FSIZE, &disco);
+  const rlimit pieno{4, disco.rlim_max};  // no file can grow beyond four bytes
+  ::setrlimit(RLIMIT_FSIZE, &pieno);
   EXPECT_EQ(failureDi([&] { return scrivi("dati"), 0; }), 61);
   EXPECT_EQ(p.contenuto("dati"), "old");
   rapporto.riga("una riga");
   EXPECT_EQ(failureDi([&] { return rapporto.chiudi(), 0; }), 61);
+  ::setrlimit(RLIMIT_FSIZE, &disco);
 }
 
 TEST_F(Files, AReportHasItsLinesInTheCodePageEndedByCrLf) {
@@ -86,10 +77,12 @@ TEST_F(Files, AReportHasItsLinesInTheCodePageEndedByCrLf) {
 
 TEST_F(Files, AReportKeepsItsLinesWhenAFailureUnwindsThroughIt) {
   std::string attese;
-  for (int n = 1; n <= 20000; ++n) attese += "riga " + std::to_string(n) + "\r\n";
   const auto fallisce = [&]() -> int {
     FileRapporto rapporto(percorso("Stat.txt"));
-    for (int n = 1; n <= 20000; ++n) rapporto.riga("riga ", n);
+    for (int n = 1; n <= 20000; ++n) {
+      rapporto.riga("riga ", n);
+      attese += "riga " + std::to_string(n) + "\r\n";
+    }
     throw RuntimeFailure(Errore::Indice);
   };
   EXPECT_EQ(failureDi(fallisce), 9);

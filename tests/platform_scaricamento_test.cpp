@@ -18,6 +18,9 @@ std::string rinvio(const std::string& luogo) {
   return risposta("302 Found", "altrove", "Location: " + luogo + "\r\n");
 }
 
+const std::string kPezzo = "1f4\r\n" + std::string(500, 'x') + "\r\n";
+const std::string kAPezzi = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n" + kPezzo;
+
 class Download : public testing::Test {
  protected:
   /// Whether the download succeeded; whatever it did not bring has left the destination as it was.
@@ -26,68 +29,63 @@ class Download : public testing::Test {
     LimitiScaricamento limiti;
     limiti.ottetti = 1000;
     limiti.silenzio = std::chrono::seconds(1);
-    const bool riuscito = scaricaInFile(indirizzo, p.cartella().radice() / "archivio", limiti);
+    const bool riuscito = scaricaInFile(indirizzo, p.radice / "archivio", limiti);
     EXPECT_EQ(p.contenuto("archivio"), riuscito ? nuovo : kVecchio) << indirizzo;
-    const auto rimasti = std::distance(fs::directory_iterator(p.cartella().radice()), {});
-    EXPECT_EQ(rimasti, 2) << "Metodi and the destination, nothing beside them";
+    EXPECT_EQ(nellaCartella(), 2) << "Metodi and the destination, nothing beside them";
     return riuscito;
+  }
+  [[nodiscard]] std::ptrdiff_t nellaCartella() const {
+    return std::distance(fs::directory_iterator(p.radice), {});
   }
   static constexpr const char* kVecchio = "vecchio e lungo";
   prova::ProgrammaProva p;
+  const std::string segreto = "file://" + (p.cartella().metodi() / "M.dat").string();
+  const prova::ServerProva server{{{"/breve", risposta("200 OK", "nuovo")},
+                                   {"/mille", risposta("203 Non-Authoritative", std::string(1000, 'x'))},
+                                   {"/rinvio", rinvio("/rinvio2")},
+                                   {"/rinvio2", rinvio("/breve")},
+                                   {"/muto", ""},
+                                   {"/mozzo", "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\nsolo un pezzo"},
+                                   {"/pezzi", kAPezzi},
+                                   {"/manca", risposta("404 Not Found", "manca")},
+                                   {"/uguale", "HTTP/1.1 304 Not Modified\r\nConnection: close\r\n\r\n"},
+                                   {"/scelta", risposta("300 Multiple Choices", "quale?")},
+                                   {"/niente", "HTTP/1.1 204 No Content\r\nConnection: close\r\n\r\n"},
+                                   {"/troppi", risposta("200 OK", std::string(1001, 'x'))},
+                                   {"/troppi-pezzi", kAPezzi + kPezzo + kPezzo + "0\r\n\r\n"},
+                                   {"/segreto", rinvio(segreto)},
+                                   {"/giro", rinvio("/giro")}}};
 };
 
 TEST_F(Download, ReplacesTheDestinationAfterACompleteAndGoodTransfer) {
-  const std::string mille(1000, 'x');
-  const prova::ServerProva server({{"/breve", risposta("200 OK", "nuovo")},
-                                   {"/mille", risposta("203 Non-Authoritative", mille)},
-                                   {"/rinvio", rinvio("/rinvio2")},
-                                   {"/rinvio2", rinvio("/breve")}});
   EXPECT_TRUE(scarica(server.indirizzo("/breve"), "nuovo"));
-  EXPECT_TRUE(scarica(server.indirizzo("/mille"), mille));
+  EXPECT_TRUE(scarica(server.indirizzo("/mille"), std::string(1000, 'x')));
   EXPECT_TRUE(scarica(server.indirizzo("/rinvio"), "nuovo"));
 }
 
 TEST_F(Download, LeavesTheDestinationWhenAnythingGoesWrong) {
   p.scrivi("Metodi/M.dat", "segreto");
-  const auto segreto = "file://" + (p.cartella().metodi() / "M.dat").string();
-  const std::string troppi(1001, 'x');
-  const std::string pezzo = "1f4\r\n" + std::string(500, 'x') + "\r\n";
-  const std::string aPezzi = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n" + pezzo;
-  const prova::ServerProva server({{"/muto", ""},
-                                   {"/mozzo", "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\nsolo un pezzo"},
-                                   {"/pezzi", aPezzi},
-                                   {"/manca", risposta("404 Not Found", "manca")},
-                                   {"/guasto", risposta("500 Internal Server Error", "guasto")},
-                                   {"/uguale", "HTTP/1.1 304 Not Modified\r\nConnection: close\r\n\r\n"},
-                                   {"/scelta", risposta("300 Multiple Choices", "quale?")},
-                                   {"/niente", "HTTP/1.1 204 No Content\r\nConnection: close\r\n\r\n"},
-                                   {"/troppi", risposta("200 OK", troppi)},
-                                   {"/troppi-pezzi", aPezzi + pezzo + pezzo + "0\r\n\r\n"},
-                                   {"/segreto", rinvio(segreto)},
-                                   {"/giro", rinvio("/giro")}});
-  for (const char* percorso : {"/muto", "/mozzo", "/pezzi", "/manca", "/guasto", "/uguale", "/scelta",
-                               "/niente", "/troppi", "/troppi-pezzi", "/segreto", "/giro", "/senza-risposta"})
+  for (const char* percorso : {"/muto", "/mozzo", "/pezzi", "/manca", "/uguale", "/scelta", "/niente",
+                               "/troppi", "/troppi-pezzi", "/segreto", "/giro", "/senza-risposta"})
     EXPECT_FALSE(scarica(server.indirizzo(percorso)));
   for (const auto& indirizzo : {segreto, std::string("http://127.0.0.1:1/"), std::string("non un indirizzo")})
     EXPECT_FALSE(scarica(indirizzo));
 }
 
 TEST_F(Download, KeepsALinkAndWhoMayReadWhatItLeadsTo) {
-  const prova::ServerProva server(prova::ServerProva::Risposte{{"/breve", risposta("200 OK", "nuovo")}});
-  const auto radice = p.cartella().radice();
+  constexpr auto permessi = fs::perms::owner_read | fs::perms::owner_write;
   p.scrivi("Metodi/vero", kVecchio);
-  fs::permissions(radice / "Metodi/vero", fs::perms::owner_read | fs::perms::owner_write);
-  fs::create_symlink("Metodi/vero", radice / "archivio");
-  EXPECT_TRUE(scaricaInFile(server.indirizzo("/breve"), radice / "archivio"));
-  EXPECT_TRUE(fs::is_symlink(radice / "archivio"));
+  fs::permissions(p.radice / "Metodi/vero", permessi);
+  fs::create_symlink("Metodi/vero", p.radice / "archivio");
+  EXPECT_TRUE(scaricaInFile(server.indirizzo("/breve"), p.radice / "archivio"));
+  EXPECT_TRUE(fs::is_symlink(p.radice / "archivio"));
   EXPECT_EQ(p.contenuto("Metodi/vero"), "nuovo");
-  EXPECT_EQ(fs::status(radice / "archivio").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(fs::status(p.radice / "archivio").permissions(), permessi);
 }
 
 TEST_F(Download, LeavesNothingBesideADestinationThatRefuses) {
-  const prova::ServerProva server(prova::ServerProva::Risposte{{"/breve", risposta("200 OK", "nuovo")}});
   EXPECT_FALSE(scaricaInFile(server.indirizzo("/breve"), p.cartella().metodi()));
-  EXPECT_EQ(std::distance(fs::directory_iterator(p.cartella().radice()), {}), 1);
+  EXPECT_EQ(nellaCartella(), 1);
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ struct Elenchi : PrincipaleProva {
   }
   /// The methods of the report shown, or the note in its place.
   [[nodiscard]] QString elenco() const {
+    if (figlia().findChild<QWidget*>("prgbar")->isVisible()) return "progress";
     if (const auto* nota = figlia().findChild<QLabel*>("lblPrev"); nota->isVisible()) return nota->text();
     QStringList metodi;
     for (const auto& riga : testo("RichTextBox1").split('\n'))
@@ -39,11 +40,19 @@ class ElenchiGuiTest : public QObject {
     Elenchi v;
     v.scegli("mnuUtility1");
     QCOMPARE(v.elenco(), QString("Zeta"));
-    v.clicca("btnStampa");
-    QCOMPARE(v.detti(), QStringList("[Ambolino] Stampo la previsione?"));
+    for (const auto risposta : {Risposta::No, Risposta::Si}) {
+      v.p.servizi.risposta = risposta;
+      v.clicca("btnStampa");
+    }
+    QCOMPARE(v.detti(), QStringList(2, "[Ambolino] Stampo la previsione?"));
+    QVERIFY(v.p.servizi.stampati == std::vector{v.testo("RichTextBox1").toStdString()});
     QVERIFY(!v.visibile("cmbMetodo").isEnabled());
     v.usa("optSelMetodo_0").setFocus();
-    v.premi(Qt::Key_Right);  // "Metodo 1", which is in no file yet
+    v.p.servizi.pause = 0;
+    v.premi(Qt::Key_Right);          // "Metodo 1", which is in no file yet
+    QCOMPARE(v.p.servizi.pause, 2);  // the list's own event and the option's
+    v.premi(Qt::Key_Space);
+    QCOMPARE(v.p.servizi.pause, 3);  // no change in the list
     QCOMPARE(v.elenco(), QString("Non ci sono previsioni in gioco"));
     QVERIFY(v.p.esiste("Metodi/Metodo 1.dat"));
     QVERIFY(!v.visibile("btnStampa").isEnabled());
@@ -80,20 +89,22 @@ class ElenchiGuiTest : public QObject {
   void whatIsPressedDuringAScanRunsBehindIt() {
     Elenchi v;
     v.scegli("mnuUtility1");
-    QString durante;
+    QStringList durante;
     v.p.servizi.pause = 0;
     v.p.servizi.allaPausa = [&] {
+      durante << v.testo("prgbar") + (v.visibile("cmbMetodo").isEnabled() ? " of one" : " of all");
       if (v.p.servizi.pause != 1) return;
-      durante = v.visibile("prgbar").isVisible() ? v.testo("prgbar") : QString("no progress");
       v.usa<QRadioButton>("optSelMetodo_1").click();
+      v.clicca("btnStampa");
       v.clicca("btnCancella");
       v.figlia().close();
       QCOMPARE(v.aperte().size(), 1);
+      QCOMPARE(v.detti(), QStringList());
     };
     v.usa("optSelMetodo_0").setFocus();
     v.premi(Qt::Key_Space);  // chosen already: the scan of all methods once more
-    QCOMPARE(durante, QString("50%"));
-    QCOMPARE(v.p.servizi.pause, 2 + 2);
+    QCOMPARE(durante, QStringList({"50% of all", "100% of all", "100% of one", "100% of one"}));
+    QCOMPARE(v.detti(), QStringList("[Ambolino] Stampo la previsione?"));
     QCOMPARE(v.aperte(), QStringList());
     QCOMPARE(v.p.contenuto("PrevGioco.txt"), std::string());
   }
@@ -119,8 +130,7 @@ class ElenchiGuiTest : public QObject {
     QCOMPARE(colonna(), QString("2: 1* 45 1*"));
     v.clicca("optdistmat");
     QCOMPARE(colonna(), QString("2: 89 45 1"));
-    v.premi(Qt::Key_Tab);
-    v.premi(Qt::Key_Space);
+    v.premi(Qt::Key_Right);
     QCOMPARE(colonna(), QString("2: 1 65 59"));
     v.p.servizi.digitato = "12/3/2005";  // of the first draw, whose raw numbers go to the first column
     v.clicca("btnTrova");

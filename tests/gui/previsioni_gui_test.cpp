@@ -1,5 +1,4 @@
 #include <QComboBox>
-#include <QScrollBar>
 
 #include "gui/finestra_prova.h"
 #include "methods/testi_campi.h"

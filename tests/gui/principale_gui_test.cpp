@@ -58,20 +58,6 @@ class PrincipaleGuiTest : public QObject {
     QVERIFY(!splash.finestra.isVisible());
   }
 
-  void accessKeysReachTheEntries() {
-    const std::pair<QList<Qt::Key>, const char*> casi[] = {
-        {{Qt::Key_A, Qt::Key_I}, "Inserimento Estrazioni"},
-        {{Qt::Key_V}, "Vaticla"},
-        {{Qt::Key_G, Qt::Key_P, Qt::Key_M}, "Modifica Previsione"},
-        {{Qt::Key_U, Qt::Key_Return}, "Previsioni in Gioco"}};
-    for (const auto& [tasti, aperta] : casi) {
-      Principale v;
-      v.premi(tasti[0], Qt::AltModifier);
-      for (const auto tasto : tasti.mid(1)) v.premi(tasto);
-      QCOMPARE(v.aperte(), QStringList(aperta));
-    }
-  }
-
   void theDropDownItemsChooseTheMethodAndTheButtonsLeaveIt() {
     Principale v;
     auto& scelto = v.p.globals().MetodoScelto;

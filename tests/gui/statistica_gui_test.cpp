@@ -11,13 +11,16 @@ using namespace vaticlo::prova;
 
 namespace {
 
-/// The statistics dialog over 110 draws: of method "M" the prediction of draw 102 wins, that of 109 is in
-/// play.
+/// The statistics dialog over 110 draws: of method "M" the prediction of draw 102 wins, that of 105 loses,
+/// that of 109 is in play.
 struct Statistica : PrincipaleProva {
   Statistica() {
-    archivioDi(110, "103 Ba 7").data(104, 20, 3, 2005).scrivi(p);
+    auto archivio = archivioDi(110, "103 Ba 7");
+    archivio.data(1, 3, 1, 1899).data(2, 10, 1, 1999).data(3, 29, 1, 2000).data(4, 30, 3, 2000);
+    archivio.data(5, 31, 3, 2000).data(104, 20, 3, 2005).scrivi(p);
     scriviMetodoProva(p, "M",
                       {{.estrazione = 102, .ruote = {1}, .colpi = 2, .ambate = {7}},
+                       {.estrazione = 105, .ruote = {1}, .colpi = 2, .ambate = {7}},
                        {.estrazione = 109, .ruote = {1}, .colpi = 2, .ambate = {8}}});
     scegli("mnu1metodo1");
   }
@@ -25,6 +28,7 @@ struct Statistica : PrincipaleProva {
     for (const auto& [nome, testo] : {std::pair{"txtestr_0", inizio}, {"txtestr_1", fine}}) {
       usa<QLineEdit>(nome).selectAll();
       usa<QLineEdit>(nome).setFocus();
+      premi(Qt::Key_Delete);
       scrivi(testo);
     }
   }
@@ -68,6 +72,7 @@ class StatisticaGuiTest : public QObject {
       QVERIFY2(v.p.servizi.pause == 3, come);
       QCOMPARE(v.stato(), QString("Elabora Cancella menu"));
       QCOMPARE(v.p.contenuto("Stat.txt"), std::string());
+      QVERIFY(v.p.contenuto("Vincite.txt").starts_with(" Previsione n."));  // of the draws before the stop
     }
   }
 
@@ -84,10 +89,43 @@ class StatisticaGuiTest : public QObject {
     QTRY_VERIFY(!v.finestra.isVisible());
   }
 
-  void aDatePickedByKeyFillsItsNumberAndNoDateLiesAhead() {
+  void aRangeIsRefusedOrRepairedInThisOrder() {
+    Statistica v;
+    const QString inizio = "[Attenzione] L'estrazione di inzio non può essere ";
+    const QString maggiore = inizio + "maggiore dell'estrazione di fine!";
+    const QString uguale = inizio + "uguale all'estrazione di fine!";
+    // The range typed, its refusal, what the fields show then, the lists that can be opened.
+    const std::tuple<const char*, const char*, QString, const char*, const char*> casi[] = {
+        {"6", "5", maggiore, "6 5", ""},
+        {"5", "5", uguale, "5 5", ""},
+        {"0", "0", uguale, "0 0", ""},
+        {"0", "1", "", "1 1", ""},
+        {"0", "111", "", "1 110", "Vincite Prev "},
+        {"104", "106", "", "104 106", ""},
+        {"120", "130", "", "120 110", ""},
+        {"-3", "2", "", "-3 2", ""}};
+    for (const auto& [da, a, rifiuto, campi, liste] : casi) {
+      v.intervallo(da, a);
+      v.clicca("btnElabora");
+      QCOMPARE(v.detti().join('|'), rifiuto);
+      QCOMPARE(v.testo("txtestr_0") + ' ' + v.testo("txtestr_1"), QString(campi));
+      QCOMPARE(v.stato(), rifiuto.isEmpty()
+                              ? QString("RichTextBox1 Elabora %1Stampa Cancella menu").arg(liste)
+                              : QString("Elabora Cancella menu"));
+      QCOMPARE(v.p.contenuto("Stat.txt") == "\r\n", !rifiuto.isEmpty());
+    }
+    for (const auto& [fine, numero] : {std::pair{"", 13}, {"x", 13}, {"40000", 6}}) {
+      v.intervallo("1", fine);
+      v.clicca("btnElabora");
+      QCOMPARE(v.failures(), QList<int>{numero});
+    }
+  }
+
+  void aDatePickedFillsItsNumberAndNoDateLiesAhead() {
     Statistica v;
     auto& inizio = v.usa<QDateEdit>("DTInizio");
-    QCOMPARE(v.testo("DTInizio") + ' ' + v.testo("DTFine"), QString("03/01/2000 14/03/2026"));
+    QCOMPARE(v.testo("txtestr_0") + ' ' + v.testo("DTInizio"), QString("6877 03/01/2000"));
+    QCOMPARE(v.testo("txtestr_1") + ' ' + v.testo("DTFine"), QString("110 14/03/2026"));
     auto* cifre = inizio.findChild<QLineEdit*>();
     QTest::mouseClick(cifre, Qt::LeftButton, {}, QPoint(cifre->fontMetrics().horizontalAdvance("03/0"), 5));
     v.scrivi("5");
@@ -95,15 +133,34 @@ class StatisticaGuiTest : public QObject {
     inizio.setSelectedSection(QDateEdit::DaySection);
     v.scrivi("20032005");
     QCOMPARE(v.testo("txtestr_0"), QString("104"));
+    for (const auto& [giorno, numero] : {std::pair{QDate(1899, 1, 3), "1"},
+                                         {QDate(2000, 1, 28), "3"},
+                                         {QDate(2000, 1, 31), "5"},  // only days are compared from here on
+                                         {QDate(2000, 3, 1), "4"},
+                                         {QDate(2005, 3, 13), "104"},
+                                         {QDate(2005, 3, 21), "110"},
+                                         {QDate(1899, 2, 1), "15001"}}) {
+      inizio.setDate(giorno);
+      QCOMPARE(v.testo("txtestr_0"), QString(numero));
+    }
+    v.usa<QDateEdit>("DTFine").setDate({2000, 1, 29});
+    QCOMPARE(v.testo("txtestr_1"), QString("3"));
     QCOMPARE(inizio.maximumDate(), QDate(2026, 3, 14));
   }
 
-  void theListsOpenInOneWindowThatReadsItsFileAtEachActivation() {
+  void aRunIsPrintedAndItsListsOpenInOneWindowThatReadsItsFileAtEachActivation() {
     Statistica v;
     v.intervallo("101", "110");
+    v.clicca("optSelMetodo_1");
+    v.usa("cmbMetodo").setFocus();
+    v.premi(Qt::Key_Down, {}, 2);      // over the two that are always offered, to "M"
+    QVERIFY(!v.p.esiste("Stat.txt"));  // a choice starts no run
     v.premi(Qt::Key_E, Qt::AltModifier);
     QCOMPARE(v.stato(), QString("RichTextBox1 Elabora Vincite Prev Stampa Cancella menu"));
-    QVERIFY(v.testo("RichTextBox1").contains("Previsioni Giocabili: 2\n"));
+    QVERIFY(v.testo("RichTextBox1").contains("Previsioni Giocabili: 3\n"));
+    v.clicca("btnStampa");
+    QCOMPARE(v.detti(), QStringList("[Ambolino] Stampo la statistica?"));
+    QCOMPARE(QString::fromStdString(v.p.servizi.stampati.at(0)), v.testo("RichTextBox1"));
     v.premi(Qt::Key_N, Qt::AltModifier);
     QCOMPARE(v.figlia().windowTitle(), QString("Previsioni ancora in gioco"));
     QVERIFY(v.testo("RichTextBox1").contains(" Colpi ancora in gioco: 1\n"));
@@ -117,16 +174,6 @@ class StatisticaGuiTest : public QObject {
     v.p.scrivi("Vincite.txt", "altro\r\n");
     area.activateNextSubWindow();
     QCOMPARE(v.testo("RichTextBox1"), QString("altro\n"));
-  }
-
-  void theTotalsArePrintedAfterAQuestion() {
-    Statistica v;
-    v.intervallo("101", "110");
-    v.clicca("btnElabora");
-    QCOMPARE(v.fuoco(), QString("btnElabora"));
-    v.clicca("btnStampa");
-    QCOMPARE(v.detti(), QStringList("[Ambolino] Stampo la statistica?"));
-    QCOMPARE(QString::fromStdString(v.p.servizi.stampati.at(0)), v.testo("RichTextBox1"));
   }
 };
 

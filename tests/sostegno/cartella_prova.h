@@ -1,7 +1,8 @@
 #pragma once
 
-#include <cstdint>
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -27,9 +28,9 @@ class ServiziProva : public Servizi {
   void stampa(const std::string& testo) override { stampati.push_back(testo); }
   bool scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) override {
     scaricati.push_back(indirizzo + " " + destinazione.filename().string());
-    return scaricamentoRiesce;
+    return true;
   }
-  void apriPagina(const std::string& indirizzo) override { pagine.push_back(indirizzo); }
+  void apriPagina(const std::string& /*indirizzo*/) override {}
   [[nodiscard]] std::chrono::year_month_day oggi() const override { return giornoDiOggi; }
   void eventiInAttesa() override {
     ++pause;
@@ -38,43 +39,50 @@ class ServiziProva : public Servizi {
   void ridisegna() override { eventiInAttesa(); }
 
   /// The texts of the message boxes so far, as "[title] text".
-  [[nodiscard]] std::vector<std::string> detti() const;
+  [[nodiscard]] std::vector<std::string> detti() const {
+    std::vector<std::string> testi;
+    for (const auto& messaggio : messaggi) testi.push_back("[" + messaggio.titolo + "] " + messaggio.testo);
+    return testi;
+  }
 
   Risposta risposta = Risposta::Si;
   std::string digitato;
   std::filesystem::path scelto;
-  bool scaricamentoRiesce = true;
   std::chrono::year_month_day giornoDiOggi{std::chrono::year{2026}, std::chrono::March, std::chrono::day{14}};
   std::function<void()> allaPausa;
   std::vector<Messaggio> messaggi;
   std::vector<std::pair<std::string, std::string>> domande;
-  std::vector<std::string> stampati, scaricati, pagine;
+  std::vector<std::string> stampati, scaricati;
   std::vector<int> percenti;
   int pause = 0;
 };
 
 /// A program in a folder of its own under the temporary files, with `Metodi` in it, gone at the end.
-class ProgrammaProva {
- public:
-  ProgrammaProva();
+struct ProgrammaProva {
+  ProgrammaProva() { std::filesystem::create_directory(cartella().metodi()); }
   ProgrammaProva(const ProgrammaProva&) = delete;
   ProgrammaProva& operator=(const ProgrammaProva&) = delete;
-  ~ProgrammaProva();
+  ~ProgrammaProva() {
+    std::error_code ignorato;
+    std::filesystem::remove_all(radice, ignorato);
+  }
 
   ServiziProva servizi;
-
- private:
-  std::filesystem::path radice_;
-
- public:
-  Programma programma;
+  std::string modello = (std::filesystem::temp_directory_path() / "vaticlo-XXXXXX").string();
+  std::filesystem::path radice = ::mkdtemp(modello.data());
+  Programma programma{radice, servizi};
 
   [[nodiscard]] const CartellaProgramma& cartella() const { return programma.cartella; }
   [[nodiscard]] Globals& globals() { return programma.globals; }
   /// The bytes of a file of the folder; an empty text when there is none.
-  [[nodiscard]] std::string contenuto(std::string_view nome) const;
-  [[nodiscard]] bool esiste(std::string_view nome) const;
-  void scrivi(std::string_view nome, std::string_view ottetti) const;
+  [[nodiscard]] std::string contenuto(std::string_view nome) const {
+    std::ifstream file(radice / nome, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  [[nodiscard]] bool esiste(std::string_view nome) const { return std::filesystem::exists(radice / nome); }
+  void scrivi(std::string_view nome, std::string_view ottetti) const {
+    std::ofstream(radice / nome, std::ios::binary) << ottetti;
+  }
 };
 
 }  // namespace vaticlo::prova

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "sostegno/failure_prova.h"
+#include "platform/failure.h"
 #include "sostegno/scenario.h"
 
 /// What the tests of the logic start with.
@@ -11,5 +11,16 @@ namespace vaticlo::prova {
 using testing::Each, testing::ElementsAre, testing::HasSubstr, testing::IsEmpty, testing::Pair;
 using testing::EndsWith, testing::StartsWith;
 using Celle = std::vector<int>;
+
+/// The number of the run-time failure in which `fai` ends; 0 when it ends well.
+template <class Fai>
+[[nodiscard]] int failureDi(Fai&& fai) {
+  try {
+    static_cast<void>(fai());
+  } catch (const RuntimeFailure& failure) {
+    return failure.numero();
+  }
+  return 0;
+}
 
 }  // namespace vaticlo::prova

@@ -1,8 +1,14 @@
 #pragma once
 
+#include <array>
+#include <cstdlib>
 #include <map>
 #include <string>
 #include <thread>
+
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 namespace vaticlo::prova {
 
@@ -10,20 +16,45 @@ namespace vaticlo::prova {
 /// heads included, and closes. A path without an answer gets none: the connection stays open and silent.
 class ServerProva {
  public:
-  using Risposte = std::map<std::string, std::string>;
-  explicit ServerProva(Risposte risposte);
+  explicit ServerProva(std::map<std::string, std::string> risposte) : risposte_(std::move(risposte)) {
+    ::setenv("no_proxy", "*", 1);
+    luogo_.sin_family = AF_INET;
+    luogo_.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t misura = sizeof luogo_;
+    ::bind(ascolto_, reinterpret_cast<sockaddr*>(&luogo_), misura);
+    ::listen(ascolto_, 8);
+    ::getsockname(ascolto_, reinterpret_cast<sockaddr*>(&luogo_), &misura);
+    servizio_ = std::thread([this] { servi(); });
+  }
   ServerProva(const ServerProva&) = delete;
   ServerProva& operator=(const ServerProva&) = delete;
-  ~ServerProva();
+  ~ServerProva() {
+    ::shutdown(ascolto_, SHUT_RDWR);
+    servizio_.join();
+    ::close(ascolto_);
+  }
 
-  [[nodiscard]] std::string indirizzo(const std::string& percorso) const { return radice_ + percorso; }
+  [[nodiscard]] std::string indirizzo(const std::string& percorso) const {
+    return "http://127.0.0.1:" + std::to_string(ntohs(luogo_.sin_port)) + percorso;
+  }
 
  private:
-  void servi();
+  void servi() const {
+    for (int cliente = 0; (cliente = ::accept(ascolto_, nullptr, nullptr)) >= 0;) {
+      std::array<char, 4096> domanda{};
+      const auto letti = ::read(cliente, domanda.data(), domanda.size());
+      const std::string testo(domanda.data(), letti > 0 ? static_cast<std::size_t>(letti) : 0);
+      const auto inizio = testo.find(' ') + 1;
+      const auto risposta = risposte_.find(testo.substr(inizio, testo.find(' ', inizio) - inizio));
+      if (risposta == risposte_.end()) continue;
+      ::send(cliente, risposta->second.data(), risposta->second.size(), MSG_NOSIGNAL);
+      ::close(cliente);
+    }
+  }
 
-  Risposte risposte_;
-  int ascolto_;
-  std::string radice_;
+  const std::map<std::string, std::string> risposte_;
+  const int ascolto_ = ::socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in luogo_{};
   std::thread servizio_;
 };
 
