@@ -75,7 +75,10 @@ FinestraPrincipale::FinestraPrincipale(frmPrincipale& principale, const Confine&
   principale_.disegnataDa(this);
 }
 
-FinestraPrincipale::~FinestraPrincipale() { principale_.disegnataDa(nullptr); }
+FinestraPrincipale::~FinestraPrincipale() {
+  area_->disconnect(this);  // its windows go behind what is this one's own
+  principale_.disegnataDa(nullptr);
+}
 
 void FinestraPrincipale::creaMenu() {
   std::array<QMenu*, 4> aperti{};  // the submenu under construction at each level
