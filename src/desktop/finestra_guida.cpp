@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QScreen>
 
+#include "dialogs/frm_principale_tavole.h"
+
 namespace vaticlo {
 
 namespace {
@@ -16,7 +18,7 @@ FinestraGuida::FinestraGuida(const std::filesystem::path& pagina, QWidget* padre
   setObjectName(QStringLiteral("guida"));
   setWindowFlag(Qt::Window);
   setAttribute(Qt::WA_DeleteOnClose);
-  setWindowTitle(QStringLiteral("Guida"));
+  setWindowTitle(QString::fromUtf8(kCaptionGuida));
   setFrameShape(QFrame::NoFrame);
   setOpenExternalLinks(true);
   setSource(QUrl::fromLocalFile(QFile::decodeName(pagina.c_str())));

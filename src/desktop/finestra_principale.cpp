@@ -76,7 +76,7 @@ FinestraPrincipale::FinestraPrincipale(frmPrincipale& principale, const Confine&
 }
 
 FinestraPrincipale::~FinestraPrincipale() {
-  area_->disconnect(this);  // its windows go behind what is this one's own
+  area_->disconnect(this);  // it still tells of its windows when this part of the object is gone
   principale_.disegnataDa(nullptr);
 }
 

@@ -50,6 +50,7 @@ struct PulsanteBarra {
 [[nodiscard]] std::span<const PulsanteBarra> tavolaBarra();
 
 inline constexpr std::string_view kCaptionCalcolaPrevisione = "Calcola Previsione";
+inline constexpr std::string_view kCaptionGuida = "Guida";
 inline constexpr std::string_view kCaptionStatistica = "Statistica";
 
 }  // namespace vaticlo

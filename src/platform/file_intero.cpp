@@ -13,8 +13,8 @@ namespace vaticlo {
 
 namespace {
 
-constexpr std::size_t kMassimoSenzaFine = std::size_t{64}
-                                          << 20;  // of a device or a pipe, which may have no end
+// What is read of a device or a pipe at most: it may have no end.
+constexpr std::size_t kMassimoSenzaFine = std::size_t{64} << 20;
 
 // Only a plain file can be a grid: a pipe or a terminal would keep the reader waiting.
 Descrittore apriGriglia(const std::filesystem::path& percorso) {

@@ -93,8 +93,8 @@ std::optional<std::string> scarica(const std::string& indirizzo, const LimitiSca
   if (!accettate || curl.perform(richiesta.get()) != CURLE_OK) return std::nullopt;
   long stato = 0;
   curl.getinfo(richiesta.get(), CURLINFO_RESPONSE_CODE, &stato);
-  if (stato < 200 || stato > 203)
-    return std::nullopt;  // the 2xx behind these carry no file, or a part of one
+  // The 2xx behind these carry no file, or a part of one.
+  if (stato < 200 || stato > 203) return std::nullopt;
   return std::move(raccolta.testo);
 }
 
