@@ -73,6 +73,7 @@ FinestraPrincipale::FinestraPrincipale(frmPrincipale& principale, const Confine&
   });
   new TastiAccesso(area_);
   principale_.disegnataDa(this);
+  area_->setFocus();  // not the first button of the toolbar, which a second key on the splash would press
 }
 
 FinestraPrincipale::~FinestraPrincipale() {
