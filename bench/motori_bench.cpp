@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kEstrazioni = 7270;
 
-class CorsaMuta : public FinestraCorsa {
+class CorsaMuta : public PannelloCorsa {
  public:
   [[nodiscard]] SceltaMetodo scelta() const override { return {}; }
   void prgbar_Value(int /*valore*/) override {}

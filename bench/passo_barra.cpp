@@ -10,8 +10,8 @@
 
 #include "archive/archivio.h"
 #include "cartella_grande.h"
-#include "desktop/finestra_principale.h"
 #include "desktop/servizi_desktop.h"
+#include "desktop/vista_principale.h"
 #include "methods/catalogo.h"
 #include "methods/metodo.h"
 
@@ -43,7 +43,7 @@ int main(int argc, char* argv[]) {
   creaCartellaGrande(programma.cartella, 7270, 100);
   const Confine confine;
   frmPrincipale principale(programma);
-  FinestraPrincipale finestra(principale, confine);
+  VistaPrincipaleQt finestra(principale, confine);
   finestra.show();
   principale.comando(Comando::Vaticla);
   QApplication::processEvents();

@@ -1,5 +1,5 @@
-#include "dialogs/frm_metodi.h"
-#include "dialogs/gestione_metodi.h"
+#include "dialogs/frm_gestione_metodi.h"
+#include "operations/gestione_metodi.h"
 #include "sostegno/cornice_prova.h"
 #include "sostegno/logica.h"
 
@@ -14,7 +14,7 @@ struct Metodi : testing::Test {
 TEST_F(Metodi, TheirWindowRenamesAndDeletesAfterAYes) {
   p.scrivi("Metodi/A.dat", "");
   CorniceProva cornice;
-  frmMetodi frm(p.programma, cornice);
+  frmGestioneMetodi frm(p.programma, cornice);
   frm.Form_Load();
   frm.btnElimina.Click();
   EXPECT_THAT(p.servizi.detti(), ElementsAre("[Attenzione] Nessun metodo selezionato!"));

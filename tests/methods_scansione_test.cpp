@@ -10,7 +10,7 @@ std::string voce(const std::string& righe) {
 }
 
 /// The window of a scan, which notes what it is told.
-struct FinestraProva : FinestraScansione {
+struct PannelloProva : PannelloScansione {
   [[nodiscard]] SceltaMetodo scelta() const override { return {}; }
   [[nodiscard]] std::string txtColpi_Text() const override { return ultime; }
   void prgbar_Value(int valore) override { eventi += std::to_string(valore) + " "; }
@@ -31,7 +31,7 @@ class Scans : public testing::Test {
     return p.contenuto("Vincenti.txt");
   }
   ProgrammaProva p;
-  FinestraProva frm;
+  PannelloProva frm;
 };
 
 TEST_F(Scans, InPlayIsWrittenEntryByEntryAcrossTheMethods) {

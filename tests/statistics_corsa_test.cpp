@@ -7,7 +7,7 @@ namespace {
 using Slot = std::vector<SlotProva>;
 
 /// A dialog that notes what a run does to it.
-struct FinestraProva : FinestraCorsa {
+struct PannelloProva : PannelloCorsa {
   [[nodiscard]] SceltaMetodo scelta() const override { return {}; }
   void prgbar_Value(int valore) override { eventi += " " + std::to_string(valore); }
   void prgbar_Max(int massimo) override { eventi += " max" + std::to_string(massimo); }
@@ -45,7 +45,7 @@ class Corsa : public testing::Test {
     return voci;
   }
   ProgrammaProva p;
-  FinestraProva frm;
+  PannelloProva frm;
 };
 
 const std::string kFineVincite = "| " + std::string(47, '_'), kFineInGioco = "| " + std::string(37, '_');

@@ -22,11 +22,11 @@
 #include <iostream>
 #include <utility>
 
-#include "console/dimostrazione.h"
 #include "desktop/applicazione.h"
-#include "desktop/finestra_principale.h"
-#include "desktop/finestra_splash.h"
 #include "desktop/servizi_desktop.h"
+#include "desktop/vista_principale.h"
+#include "desktop/vista_splash.h"
+#include "operations/dimostrazione.h"
 
 namespace vaticlo {
 
@@ -141,7 +141,7 @@ class Fotografo {
   QString uscita_;
   Confine confine_;
   frmPrincipale principale_;
-  FinestraPrincipale finestra_{principale_, confine_};
+  VistaPrincipaleQt finestra_{principale_, confine_};
 };
 
 /// A public text file of many draws.
@@ -244,7 +244,7 @@ int main(int argc, char* argv[]) {
   std::ofstream(servizi.fileDaImportare) << fileDiEstrazioni();
   std::ostream nessuno(nullptr);
   creaDimostrazione(programma, nessuno);
-  FinestraSplash splash([] {});
+  VistaSplash splash([] {});
   splash.grab().save(uscita + QStringLiteral("/splash.png"));
   Fotografo(programma, servizi, uscita).tutte();
   return EXIT_SUCCESS;

@@ -79,7 +79,7 @@ void clsGestione::Trova(FinestraEstrazione& frm, int giorno, int mese, int secol
   }
 }
 
-void clsGestione::VisualizzaSomDif(FinestraSomDif& frm, int n) {
+void clsGestione::VisualizzaSomDif(SchedaSomDif& frm, int n) {
   const auto archivio = ApriArchivio(cartella_);
   frm.lbldataestr_Caption(archivio.DataEstrazione(n));
   frm.lblnestr_Caption(std::to_string(n));

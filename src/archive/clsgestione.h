@@ -31,9 +31,9 @@ class FinestraEstrazione {
 };
 
 /// The further controls of the sum and distance view. Column 0 to 9, field 0 to 9 (wheel - 1).
-class FinestraSomDif {
+class SchedaSomDif {
  public:
-  virtual ~FinestraSomDif() = default;
+  virtual ~SchedaSomDif() = default;
 
   /// The first option that is on, in the order of the screen; nothing when none is.
   [[nodiscard]] virtual std::optional<TipoSomDif> opzione() const = 0;
@@ -65,7 +65,7 @@ class clsGestione {
   void Trova(FinestraEstrazione& frm, int giorno, int mese, int secolo, int anno);
 
   /// Shows the values of draw n for the option that is on, and marks equal values of a column in yellow.
-  void VisualizzaSomDif(FinestraSomDif& frm, int n);
+  void VisualizzaSomDif(SchedaSomDif& frm, int n);
 
  private:
   const CartellaProgramma& cartella_;

@@ -9,8 +9,8 @@
 #include "methods/catalogo.h"
 #include "methods/decodifica.h"
 #include "methods/giudizio.h"
-#include "methods/programma.h"
 #include "platform/rapporto.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 

@@ -6,8 +6,8 @@
 #include "archive/ruota.h"
 #include "console/cornice_vuota.h"
 #include "console/sessione.h"
-#include "dialogs/aggiornamento.h"
 #include "dialogs/frm_modifica.h"
+#include "operations/aggiornamento.h"
 #include "platform/failure.h"
 
 namespace vaticlo {

@@ -4,8 +4,8 @@
 #include <CLI/CLI.hpp>
 
 #include "console/sessione.h"
-#include "dialogs/gestione_metodi.h"
 #include "methods/catalogo.h"
+#include "operations/gestione_metodi.h"
 #include "platform/testo.h"
 
 namespace vaticlo {

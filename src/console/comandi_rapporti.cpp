@@ -5,7 +5,8 @@
 
 #include "console/cornice_vuota.h"
 #include "console/sessione.h"
-#include "dialogs/elenco_scansione.h"
+#include "dialogs/frm_prev.h"
+#include "dialogs/frm_vinc.h"
 
 namespace vaticlo {
 

@@ -2,8 +2,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include "console/dimostrazione.h"
 #include "console/sessione.h"
+#include "operations/dimostrazione.h"
 
 namespace vaticlo {
 

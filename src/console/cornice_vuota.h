@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogs/finestra.h"
+#include "forms/finestra.h"
 
 namespace vaticlo {
 

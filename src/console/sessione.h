@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "console/servizi_console.h"
-#include "methods/programma.h"
+#include "program/programma.h"
 
 namespace CLI {
 class App;

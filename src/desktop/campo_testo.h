@@ -4,7 +4,7 @@
 #include <QPointer>
 
 #include "desktop/confine.h"
-#include "dialogs/controlli.h"
+#include "forms/controlli.h"
 
 namespace vaticlo {
 

@@ -6,8 +6,8 @@
 
 #include "desktop/campo_testo.h"
 #include "desktop/confine.h"
-#include "dialogs/controlli.h"
-#include "dialogs/finestra.h"
+#include "forms/controlli.h"
+#include "forms/finestra.h"
 
 class QComboBox;
 class QDateEdit;

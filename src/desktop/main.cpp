@@ -7,9 +7,9 @@
 
 #include "desktop/applicazione.h"
 #include "desktop/confine.h"
-#include "desktop/finestra_principale.h"
-#include "desktop/finestra_splash.h"
 #include "desktop/servizi_desktop.h"
+#include "desktop/vista_principale.h"
+#include "desktop/vista_splash.h"
 
 int main(int argc, char* argv[]) {
   using namespace vaticlo;
@@ -25,9 +25,9 @@ int main(int argc, char* argv[]) {
   Programma programma(QFile::encodeName(QApplication::applicationDirPath()).toStdString(), servizi);
   const Confine confine;
   frmPrincipale principale(programma);
-  std::unique_ptr<FinestraPrincipale> finestra;
-  FinestraSplash splash([&] {
-    finestra = std::make_unique<FinestraPrincipale>(principale, confine);
+  std::unique_ptr<VistaPrincipaleQt> finestra;
+  VistaSplash splash([&] {
+    finestra = std::make_unique<VistaPrincipaleQt>(principale, confine);
     servizi.padre(finestra.get());
     finestra->show();
     std::error_code ignorato;

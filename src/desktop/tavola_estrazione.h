@@ -4,7 +4,7 @@
 
 #include "archive/clsgestione.h"
 #include "desktop/legame.h"
-#include "dialogs/controlli_estrazione.h"
+#include "forms/controlli_estrazione.h"
 
 class QHBoxLayout;
 class QLayout;

@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 
 #include "controls/xpcmdbutton.h"
-#include "desktop/scelta_vista.h"
+#include "desktop/riquadri.h"
 #include "desktop/tavola_estrazione.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_insprev.h"

@@ -7,7 +7,7 @@
 
 #include "controls/xpcmdbutton.h"
 #include "controls/xpgroupbox.h"
-#include "desktop/scelta_vista.h"
+#include "desktop/riquadri.h"
 #include "desktop/tavola_estrazione.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_metodo.h"

@@ -7,9 +7,9 @@
 #include <QVBoxLayout>
 
 #include "controls/xpcmdbutton.h"
-#include "desktop/scelta_vista.h"
+#include "desktop/riquadri.h"
 #include "desktop/viste.h"
-#include "dialogs/elenco_scansione.h"
+#include "dialogs/frm_vinc.h"
 
 namespace vaticlo {
 

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "controls/xpcmdbutton.h"
-#include "desktop/scelta_vista.h"
+#include "desktop/riquadri.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_statistica.h"
 

@@ -2,10 +2,10 @@
 
 #include "dialogs/elenco_scansione.h"
 #include "dialogs/frm_aggiornamento.h"
+#include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_insprev.h"
-#include "dialogs/frm_metodi.h"
 #include "dialogs/frm_metodo.h"
 #include "dialogs/frm_migliore.h"
 #include "dialogs/frm_modifica.h"
@@ -33,7 +33,7 @@ QWidget* traQueste(const std::shared_ptr<Finestra>& finestra, const Confine& con
 
 QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine) {
   return traQueste<frmInserisci, frmModifica, frmMetodo, frmInsPrev, frmStatistica, ElencoScansione,
-                   frmSomdif, frmMetodi, frmMigliore, frmAggiornamento, frmInfo>(finestra, confine);
+                   frmSomdif, frmGestioneMetodi, frmMigliore, frmAggiornamento, frmInfo>(finestra, confine);
 }
 
 }  // namespace vaticlo

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "desktop/confine.h"
-#include "dialogs/finestra.h"
+#include "forms/finestra.h"
 
 class QWidget;
 
@@ -14,7 +14,7 @@ class frmAggiornamento;
 class frmInfo;
 class frmInserisci;
 class frmInsPrev;
-class frmMetodi;
+class frmGestioneMetodi;
 class frmMetodo;
 class frmMigliore;
 class frmModifica;
@@ -33,7 +33,7 @@ inline constexpr const char* kPrimoFuoco = "primoFuoco";
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInfo>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInserisci>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine);
-[[nodiscard]] QWidget* vista(const std::shared_ptr<frmMetodi>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmGestioneMetodi>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmMetodo>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmMigliore>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmModifica>& frm, const Confine& confine);

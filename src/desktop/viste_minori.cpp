@@ -8,11 +8,11 @@
 
 #include "controls/xpcmdbutton.h"
 #include "desktop/legame.h"
-#include "desktop/scelta_vista.h"
+#include "desktop/riquadri.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_aggiornamento.h"
+#include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
-#include "dialogs/frm_metodi.h"
 #include "dialogs/frm_migliore.h"
 
 namespace vaticlo {
@@ -48,7 +48,7 @@ QWidget* vista(const std::shared_ptr<frmMigliore>& frm, const Confine& confine) 
   return widget;
 }
 
-QWidget* vista(const std::shared_ptr<frmMetodi>& frm, const Confine& confine) {
+QWidget* vista(const std::shared_ptr<frmGestioneMetodi>& frm, const Confine& confine) {
   auto* widget = new QWidget;
   auto* legame = new Legame(widget, frm, confine);
   auto* tutto = new QVBoxLayout(widget);

@@ -96,39 +96,4 @@ void ElencoScansione::mostraRapporto(bool qualcosa) {
   btnStampa.Enabled(qualcosa);
 }
 
-frmPrev::frmPrev(Programma& programma, Cornice& cornice) : ElencoScansione(programma, cornice) {
-  Caption("Previsioni in Gioco");
-  lblPrev.Caption("Non ci sono previsioni in gioco");
-  btnStampa.Click = [this] { btnStampa_Click(); };
-}
-
-std::filesystem::path frmPrev::scansione() {
-  ScansionePrevisioni(programma_, *this).PrevInGioco();
-  return programma_.cartella.prevGioco();
-}
-
-void frmPrev::btnStampa_Click() {
-  evento([this] {
-    if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Pulsanti::SiNo}) == Risposta::Si)
-      programma_.servizi.stampa(RichTextBox1.Text());
-  });
-}
-
-frmVinc::frmVinc(Programma& programma, Cornice& cornice) : ElencoScansione(programma, cornice) {
-  Caption("Vincenti alle ultime Estrazioni");
-  lblPrev.Caption("Non ci sono previsioni vincenti");
-}
-
-std::filesystem::path frmVinc::scansione() {
-  ScansionePrevisioni(programma_, *this).PrevVincenti();
-  return programma_.cartella.vincenti();
-}
-
-void frmVinc::UpDown1_Change(int ultime) {
-  evento([this, ultime] {
-    txtColpi.Text(std::to_string(ultime));
-    btnCerca_Click();
-  });
-}
-
 }  // namespace vaticlo

@@ -3,17 +3,17 @@
 #include <deque>
 #include <functional>
 
-#include "dialogs/controlli.h"
-#include "dialogs/finestra.h"
-#include "dialogs/scelta_metodo.h"
-#include "methods/programma.h"
+#include "forms/controlli.h"
+#include "forms/controlli_metodo.h"
+#include "forms/finestra.h"
 #include "methods/scansione.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 
 /// What the windows of the two scans share: the choice of methods, the progress, the report shown. An event
 /// that comes while a scan is under way waits until it has ended, then runs.
-class ElencoScansione : public Finestra, protected FinestraScansione {
+class ElencoScansione : public Finestra, protected PannelloScansione {
  public:
   ElencoScansione(Programma& programma, Cornice& cornice);
 
@@ -50,31 +50,6 @@ class ElencoScansione : public Finestra, protected FinestraScansione {
   bool inCorso_ = false;   ///< a scan is under way
   bool inEvento_ = false;  ///< an event is, with what it causes
   std::deque<std::function<void()>> inAttesa_;
-};
-
-/// The predictions in play.
-class frmPrev : public ElencoScansione {
- public:
-  frmPrev(Programma& programma, Cornice& cornice);
-  void btnStampa_Click();
-
- private:
-  std::filesystem::path scansione() override;
-};
-
-/// The recent winners. Its print button has no command, which is meant.
-class frmVinc : public ElencoScansione {
- public:
-  frmVinc(Programma& programma, Cornice& cornice);
-
-  static constexpr int kMinimoUltime = 1, kMassimoUltime = 5;
-  /// The arrows have put `ultime` (1 to 5) into txtColpi.
-  void UpDown1_Change(int ultime);
-
-  Riquadro Frame1{"Ultime Estrazioni da Considerare"};
-
- private:
-  std::filesystem::path scansione() override;
 };
 
 }  // namespace vaticlo

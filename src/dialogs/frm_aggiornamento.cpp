@@ -1,6 +1,6 @@
 #include "dialogs/frm_aggiornamento.h"
 
-#include "dialogs/aggiornamento.h"
+#include "operations/aggiornamento.h"
 
 namespace vaticlo {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "dialogs/controlli.h"
-#include "dialogs/finestra.h"
-#include "methods/programma.h"
+#include "forms/controlli.h"
+#include "forms/finestra.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialogs/controlli.h"
-#include "dialogs/finestra.h"
+#include "forms/controlli.h"
+#include "forms/finestra.h"
 
 namespace vaticlo {
 

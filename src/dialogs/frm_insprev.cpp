@@ -1,6 +1,6 @@
 #include "dialogs/frm_insprev.h"
 
-#include "dialogs/scelta_metodo.h"
+#include "forms/controlli_metodo.h"
 #include "platform/failure.h"
 #include "platform/testo.h"
 

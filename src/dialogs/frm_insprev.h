@@ -1,10 +1,10 @@
 #pragma once
 
-#include "dialogs/controlli_estrazione.h"
-#include "dialogs/finestra.h"
+#include "forms/controlli_estrazione.h"
+#include "forms/finestra.h"
 #include "methods/metodo.h"
-#include "methods/programma.h"
 #include "methods/testi_campi.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 

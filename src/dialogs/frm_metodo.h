@@ -1,9 +1,9 @@
 #pragma once
 
-#include "dialogs/controlli_estrazione.h"
-#include "dialogs/finestra.h"
-#include "dialogs/scelta_metodo.h"
-#include "methods/programma.h"
+#include "forms/controlli_estrazione.h"
+#include "forms/controlli_metodo.h"
+#include "forms/finestra.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 

@@ -4,20 +4,21 @@
 #include <filesystem>
 #include <type_traits>
 
-#include "dialogs/aggiornamento.h"
-#include "dialogs/elenco_scansione.h"
 #include "dialogs/frm_aggiornamento.h"
+#include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_insprev.h"
-#include "dialogs/frm_metodi.h"
 #include "dialogs/frm_metodo.h"
 #include "dialogs/frm_migliore.h"
 #include "dialogs/frm_modifica.h"
+#include "dialogs/frm_prev.h"
 #include "dialogs/frm_somdif.h"
 #include "dialogs/frm_statistica.h"
-#include "dialogs/gestione_metodi.h"
-#include "dialogs/importa_estrazioni.h"
+#include "dialogs/frm_vinc.h"
+#include "operations/aggiornamento.h"
+#include "operations/gestione_metodi.h"
+#include "operations/importa_estrazioni.h"
 #include "platform/failure.h"
 
 namespace vaticlo {
@@ -97,7 +98,7 @@ void frmPrincipale::comando(Comando comando) {
       creaMetodo();
       break;
     case Comando::ModificaMetodo:
-      apri<frmMetodi>();
+      apri<frmGestioneMetodi>();
       break;
     case Comando::CreaPrevisione:
       g.PrevisioneInModifica = false;

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "dialogs/finestra.h"
 #include "dialogs/frm_principale_tavole.h"
-#include "methods/programma.h"
+#include "forms/finestra.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 

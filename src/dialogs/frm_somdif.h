@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "dialogs/controlli_estrazione.h"
-#include "dialogs/finestra.h"
-#include "methods/programma.h"
+#include "forms/controlli_estrazione.h"
+#include "forms/finestra.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 
@@ -35,7 +35,7 @@ class frmSomdif : public Finestra {
 
  private:
   /// The window as the sum and distance view sees it.
-  class VistaSomDif : public FinestraSomDif {
+  class VistaSomDif : public SchedaSomDif {
    public:
     explicit VistaSomDif(frmSomdif& frm) : frm_(frm) {}
     [[nodiscard]] std::optional<TipoSomDif> opzione() const override;

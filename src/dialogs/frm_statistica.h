@@ -2,16 +2,16 @@
 
 #include <array>
 
-#include "dialogs/controlli.h"
-#include "dialogs/finestra.h"
-#include "dialogs/scelta_metodo.h"
-#include "methods/programma.h"
+#include "forms/controlli.h"
+#include "forms/controlli_metodo.h"
+#include "forms/finestra.h"
+#include "program/programma.h"
 #include "statistics/clsstatistica.h"
 
 namespace vaticlo {
 
 /// The statistics dialog: a range of draws, a choice of methods, a run that can be stopped, its totals.
-class frmStatistica : public Finestra, private FinestraCorsa {
+class frmStatistica : public Finestra, private PannelloCorsa {
  public:
   frmStatistica(Programma& programma, Cornice& cornice);
 

@@ -3,8 +3,8 @@
 #include <functional>
 
 #include "archive/clsgestione.h"
-#include "dialogs/controlli.h"
-#include "methods/programma.h"
+#include "forms/controlli.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 

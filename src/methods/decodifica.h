@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "methods/metodo.h"
-#include "methods/previsione.h"
+#include "program/previsione.h"
 
 namespace vaticlo {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "archive/regole.h"
-#include "methods/previsione.h"
+#include "program/previsione.h"
 
 namespace vaticlo {
 

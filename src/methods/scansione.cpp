@@ -5,7 +5,7 @@
 
 namespace vaticlo {
 
-ScansionePrevisioni::ScansionePrevisioni(Programma& programma, FinestraScansione& frm)
+ScansionePrevisioni::ScansionePrevisioni(Programma& programma, PannelloScansione& frm)
     : programma_(programma),
       g_(programma.globals),
       frm_(frm),

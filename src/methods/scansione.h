@@ -8,15 +8,15 @@
 #include "methods/catalogo.h"
 #include "methods/decodifica.h"
 #include "methods/giudizio.h"
-#include "methods/programma.h"
 #include "platform/rapporto.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 
 /// What a scan asks of its window and shows on it.
-class FinestraScansione {
+class PannelloScansione {
  public:
-  virtual ~FinestraScansione() = default;
+  virtual ~PannelloScansione() = default;
 
   [[nodiscard]] virtual SceltaMetodo scelta() const = 0;
   /// How many last draws count for the recent winners, as text ("1" to "5").
@@ -33,7 +33,7 @@ class FinestraScansione {
 class ScansionePrevisioni : private EsitoColpo {
  public:
   /// Reads the archive.
-  ScansionePrevisioni(Programma& programma, FinestraScansione& frm);
+  ScansionePrevisioni(Programma& programma, PannelloScansione& frm);
 
   void PrevInGioco();
   void PrevVincenti();
@@ -54,7 +54,7 @@ class ScansionePrevisioni : private EsitoColpo {
 
   Programma& programma_;
   Globals& g_;
-  FinestraScansione& frm_;
+  PannelloScansione& frm_;
   ArchivioEstrazioni archivio_;
   RegoleVincita regole_;
   Decodificatore decodificatore_;

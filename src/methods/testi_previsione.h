@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "methods/previsione.h"
 #include "platform/rapporto.h"
+#include "program/previsione.h"
 
 namespace vaticlo {
 

@@ -5,7 +5,7 @@
 
 namespace vaticlo {
 
-clsStatistica::clsStatistica(Programma& programma, FinestraCorsa& frm)
+clsStatistica::clsStatistica(Programma& programma, PannelloCorsa& frm)
     : programma_(programma),
       g_(programma.globals),
       frm_(frm),

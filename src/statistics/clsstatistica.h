@@ -8,16 +8,16 @@
 #include "methods/catalogo.h"
 #include "methods/decodifica.h"
 #include "methods/giudizio.h"
-#include "methods/programma.h"
 #include "platform/rapporto.h"
+#include "program/programma.h"
 #include "statistics/metodi_corsa.h"
 
 namespace vaticlo {
 
 /// What a statistics run asks of its dialog and shows on it.
-class FinestraCorsa {
+class PannelloCorsa {
  public:
-  virtual ~FinestraCorsa() = default;
+  virtual ~PannelloCorsa() = default;
 
   [[nodiscard]] virtual SceltaMetodo scelta() const = 0;
   virtual void prgbar_Value(int valore) = 0;
@@ -32,7 +32,7 @@ class FinestraCorsa {
 class clsStatistica : private EsitoColpo {
  public:
   /// Failure 75 or 76 when the archive or a report can't be opened.
-  clsStatistica(Programma& programma, FinestraCorsa& frm);
+  clsStatistica(Programma& programma, PannelloCorsa& frm);
 
   /// A whole run over the draws from `inizio` to `fine`. A failure inside loses the step it is in, the rest
   /// of a draw or a line of the totals, and the run goes on. A stop is honoured between two draws; then no
@@ -59,7 +59,7 @@ class clsStatistica : private EsitoColpo {
 
   Programma& programma_;
   Globals& g_;
-  FinestraCorsa& frm_;
+  PannelloCorsa& frm_;
   ArchivioEstrazioni archivio_;
   RegoleVincita regole_;
   Decodificatore decodificatore_;

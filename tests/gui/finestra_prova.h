@@ -4,7 +4,7 @@
 #include <QTest>
 #include <QTranslator>
 
-#include "desktop/finestra_principale.h"
+#include "desktop/vista_principale.h"
 #include "sostegno/scenario.h"
 
 namespace vaticlo::prova {
@@ -45,7 +45,7 @@ struct PrincipaleProva {
   QList<int> giunte;
   Confine confine{[this](const RuntimeFailure& failure) { giunte << failure.numero(); }};
   frmPrincipale principale{p.programma};
-  FinestraPrincipale finestra{principale, confine};
+  VistaPrincipaleQt finestra{principale, confine};
 };
 
 }  // namespace vaticlo::prova

@@ -2,9 +2,9 @@
 #include <QToolBar>
 #include <QToolButton>
 
-#include "desktop/finestra_splash.h"
-#include "dialogs/aggiornamento.h"
+#include "desktop/vista_splash.h"
 #include "gui/finestra_prova.h"
+#include "operations/aggiornamento.h"
 
 using namespace vaticlo;
 using namespace vaticlo::prova;
@@ -29,7 +29,7 @@ struct Splash {
     QVERIFY(QTest::qWaitForWindowActive(&finestra));
   }
   int aperture = 0;
-  FinestraSplash finestra{[this] { ++aperture; }};
+  VistaSplash finestra{[this] { ++aperture; }};
 };
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "methods/programma.h"
+#include "program/programma.h"
 
 namespace vaticlo::prova {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "dialogs/finestra.h"
+#include "forms/finestra.h"
 
 namespace vaticlo::prova {
 

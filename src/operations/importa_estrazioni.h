@@ -1,6 +1,6 @@
 #pragma once
 
-#include "methods/programma.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 

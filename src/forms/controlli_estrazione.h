@@ -3,7 +3,7 @@
 #include <array>
 
 #include "archive/clsgestione.h"
-#include "dialogs/controlli.h"
+#include "forms/controlli.h"
 
 namespace vaticlo {
 

@@ -1,4 +1,4 @@
-#include "dialogs/importa_estrazioni.h"
+#include "operations/importa_estrazioni.h"
 #include "sostegno/logica.h"
 
 namespace vaticlo::prova {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "methods/previsione.h"
+#include "program/previsione.h"
 
 namespace vaticlo {
 

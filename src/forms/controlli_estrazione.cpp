@@ -1,4 +1,4 @@
-#include "dialogs/controlli_estrazione.h"
+#include "forms/controlli_estrazione.h"
 
 #include "platform/failure.h"
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "dialogs/controlli.h"
+#include "forms/controlli.h"
 #include "methods/catalogo.h"
 
 namespace vaticlo {

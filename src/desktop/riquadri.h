@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/legame.h"
-#include "dialogs/scelta_metodo.h"
+#include "forms/controlli_metodo.h"
 
 namespace vaticlo {
 

@@ -1,4 +1,4 @@
-#include "desktop/scelta_vista.h"
+#include "desktop/riquadri.h"
 
 #include <QComboBox>
 #include <QGroupBox>

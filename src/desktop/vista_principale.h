@@ -13,10 +13,10 @@ namespace vaticlo {
 
 /// Draws the main window: menu and toolbar from their tables, the open dialogs as child windows of a
 /// multiple-document area.
-class FinestraPrincipale : public QMainWindow, private VistaPrincipale {
+class VistaPrincipaleQt : public QMainWindow, private VistaPrincipale {
  public:
-  FinestraPrincipale(frmPrincipale& principale, const Confine& confine);
-  ~FinestraPrincipale() override;
+  VistaPrincipaleQt(frmPrincipale& principale, const Confine& confine);
+  ~VistaPrincipaleQt() override;
 
  protected:
   void closeEvent(QCloseEvent* evento) override;

@@ -1,4 +1,4 @@
-#include "desktop/finestra_principale.h"
+#include "desktop/vista_principale.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -13,9 +13,9 @@
 #include <QToolButton>
 #include <array>
 
-#include "desktop/finestra_guida.h"
 #include "desktop/immagini.h"
 #include "desktop/tasti_accesso.h"
+#include "desktop/vista_guida.h"
 #include "desktop/viste.h"
 
 namespace vaticlo {
@@ -55,7 +55,7 @@ class BottoneBarra : public QToolButton {
 
 }  // namespace
 
-FinestraPrincipale::FinestraPrincipale(frmPrincipale& principale, const Confine& confine)
+VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& confine)
     : principale_(principale), confine_(confine), area_(new QMdiArea(this)) {
   setObjectName(QStringLiteral("frmPrincipale"));
   setWindowTitle(QLatin1String(frmPrincipale::kCaption));
@@ -76,12 +76,12 @@ FinestraPrincipale::FinestraPrincipale(frmPrincipale& principale, const Confine&
   area_->setFocus();  // not the first button of the toolbar, which a second key on the splash would press
 }
 
-FinestraPrincipale::~FinestraPrincipale() {
+VistaPrincipaleQt::~VistaPrincipaleQt() {
   area_->disconnect(this);  // it still tells of its windows when this part of the object is gone
   principale_.disegnataDa(nullptr);
 }
 
-void FinestraPrincipale::creaMenu() {
+void VistaPrincipaleQt::creaMenu() {
   std::array<QMenu*, 4> aperti{};  // the submenu under construction at each level
   for (const auto& voce : tavolaMenu()) {
     const auto livello = static_cast<std::size_t>(voce.livello);
@@ -100,7 +100,7 @@ void FinestraPrincipale::creaMenu() {
   }
 }
 
-void FinestraPrincipale::creaBarra() {
+void VistaPrincipaleQt::creaBarra() {
   auto* barra = addToolBar(QStringLiteral("Barra degli strumenti"));
   barra->setObjectName(QStringLiteral("Toolbar1"));
   barra->setMovable(false);
@@ -135,7 +135,7 @@ void FinestraPrincipale::creaBarra() {
   }
 }
 
-void FinestraPrincipale::mostra(const std::shared_ptr<Finestra>& finestra) {
+void VistaPrincipaleQt::mostra(const std::shared_ptr<Finestra>& finestra) {
   auto* figlia = new Figlia(finestra);
   figlia->setAttribute(Qt::WA_DeleteOnClose, false);
   auto* contenuto = disegna(finestra, confine_);
@@ -158,7 +158,7 @@ void FinestraPrincipale::mostra(const std::shared_ptr<Finestra>& finestra) {
 
 // A child that does not fit makes the main window grow, as far as the screen allows; then the child moves
 // towards the top left corner, and at last scroll bars appear.
-void FinestraPrincipale::faiPosto(QMdiSubWindow& figlia) {
+void VistaPrincipaleQt::faiPosto(QMdiSubWindow& figlia) {
   const auto manca = [&](const QSize& cresciuta) {
     const auto fuori = figlia.geometry().bottomRight() - QPoint(area_->width() - 1, area_->height() - 1);
     return QSize(std::max(0, fuori.x() - cresciuta.width()), std::max(0, fuori.y() - cresciuta.height()));
@@ -180,7 +180,7 @@ void FinestraPrincipale::faiPosto(QMdiSubWindow& figlia) {
   if (isVisible() && posto != pos()) move(posto);
 }
 
-void FinestraPrincipale::portaSu(Finestra& finestra) {
+void VistaPrincipaleQt::portaSu(Finestra& finestra) {
   auto* sotto = figlia(finestra);
   if (sotto == nullptr) return;
   const QScopedValueRollback mostrando(mostrando_, true);
@@ -188,7 +188,7 @@ void FinestraPrincipale::portaSu(Finestra& finestra) {
   area_->setActiveSubWindow(sotto);
 }
 
-void FinestraPrincipale::togli(Finestra& finestra) {
+void VistaPrincipaleQt::togli(Finestra& finestra) {
   auto* sotto = figlia(finestra);
   if (sotto == nullptr) return;
   sotto->removeEventFilter(this);
@@ -197,7 +197,7 @@ void FinestraPrincipale::togli(Finestra& finestra) {
   sotto->deleteLater();
 }
 
-void FinestraPrincipale::abilitaComandi(bool abilitati) {
+void VistaPrincipaleQt::abilitaComandi(bool abilitati) {
   menuBar()->setEnabled(abilitati);
   findChild<QToolBar*>()->setEnabled(abilitati);
   // Long work may disable what has the focus, which wanders on then: it comes back behind the work.
@@ -207,14 +207,14 @@ void FinestraPrincipale::abilitaComandi(bool abilitati) {
     fuoco_->setFocus(Qt::OtherFocusReason);
 }
 
-void FinestraPrincipale::mostraGuida(const std::filesystem::path& pagina) {
-  if (!guida_) guida_ = new FinestraGuida(pagina, this);
+void VistaPrincipaleQt::mostraGuida(const std::filesystem::path& pagina) {
+  if (!guida_) guida_ = new VistaGuida(pagina, this);
   guida_->show();
   guida_->raise();
   guida_->activateWindow();
 }
 
-bool FinestraPrincipale::eventFilter(QObject* oggetto, QEvent* evento) {
+bool VistaPrincipaleQt::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() == QEvent::Close) {
     if (const auto finestra = finestraDi(oggetto)) {
       evento->ignore();
@@ -225,7 +225,7 @@ bool FinestraPrincipale::eventFilter(QObject* oggetto, QEvent* evento) {
   return QMainWindow::eventFilter(oggetto, evento);
 }
 
-void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
+void VistaPrincipaleQt::closeEvent(QCloseEvent* evento) {
   if (!principale_.Form_QueryUnload()) {
     evento->ignore();
     QTimer::singleShot(0, this, &QWidget::close);
@@ -235,13 +235,13 @@ void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
   QMainWindow::closeEvent(evento);
 }
 
-QMdiSubWindow* FinestraPrincipale::figlia(const Finestra& finestra) const {
+QMdiSubWindow* VistaPrincipaleQt::figlia(const Finestra& finestra) const {
   for (auto* sotto : area_->subWindowList())
     if (finestraDi(sotto).get() == &finestra) return sotto;
   return nullptr;
 }
 
-std::shared_ptr<Finestra> FinestraPrincipale::finestraDi(const QObject* figlia) const {
+std::shared_ptr<Finestra> VistaPrincipaleQt::finestraDi(const QObject* figlia) const {
   const auto* nota = dynamic_cast<const Figlia*>(figlia);
   return nota == nullptr ? nullptr : nota->finestra();
 }

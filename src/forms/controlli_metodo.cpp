@@ -1,4 +1,4 @@
-#include "dialogs/scelta_metodo.h"
+#include "forms/controlli_metodo.h"
 
 namespace vaticlo {
 

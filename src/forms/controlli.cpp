@@ -1,4 +1,4 @@
-#include "dialogs/controlli.h"
+#include "forms/controlli.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "desktop/finestra_guida.h"
+#include "desktop/vista_guida.h"
 
 #include <QFile>
 #include <QKeyEvent>
@@ -14,7 +14,7 @@ constexpr QSize kMisura(990, 720);  // the widest picture, without a scroll bar 
 
 }  // namespace
 
-FinestraGuida::FinestraGuida(const std::filesystem::path& pagina, QWidget* padre) : QTextBrowser(padre) {
+VistaGuida::VistaGuida(const std::filesystem::path& pagina, QWidget* padre) : QTextBrowser(padre) {
   setObjectName(QStringLiteral("guida"));
   setWindowFlag(Qt::Window);
   setAttribute(Qt::WA_DeleteOnClose);
@@ -25,7 +25,7 @@ FinestraGuida::FinestraGuida(const std::filesystem::path& pagina, QWidget* padre
   resize(kMisura.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
-void FinestraGuida::keyPressEvent(QKeyEvent* tasto) {
+void VistaGuida::keyPressEvent(QKeyEvent* tasto) {
   if (tasto->key() == Qt::Key_Escape)
     close();
   else

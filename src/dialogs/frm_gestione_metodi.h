@@ -1,15 +1,15 @@
 #pragma once
 
-#include "dialogs/controlli.h"
-#include "dialogs/finestra.h"
-#include "methods/programma.h"
+#include "forms/controlli.h"
+#include "forms/finestra.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 
 /// Renames or deletes a method, after a question.
-class frmMetodi : public Finestra {
+class frmGestioneMetodi : public Finestra {
  public:
-  frmMetodi(Programma& programma, Cornice& cornice);
+  frmGestioneMetodi(Programma& programma, Cornice& cornice);
 
   void Form_Load() override;
   void cmbMetodo_Click();

@@ -1,4 +1,4 @@
-#include "console/dimostrazione.h"
+#include "operations/dimostrazione.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "methods/programma.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 

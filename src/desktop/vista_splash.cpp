@@ -1,4 +1,4 @@
-#include "desktop/finestra_splash.h"
+#include "desktop/vista_splash.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -11,7 +11,7 @@
 
 namespace vaticlo {
 
-FinestraSplash::FinestraSplash(std::function<void()> apriPrincipale)
+VistaSplash::VistaSplash(std::function<void()> apriPrincipale)
     : QWidget(nullptr, Qt::FramelessWindowHint), apriPrincipale_(std::move(apriPrincipale)) {
   setObjectName(QStringLiteral("frmSplash"));
   setWindowTitle(QStringLiteral("Vaticlo"));
@@ -22,23 +22,23 @@ FinestraSplash::FinestraSplash(std::function<void()> apriPrincipale)
     move(schermo->availableGeometry().center() - rect().center());
   timer1_.setSingleShot(true);
   timer1_.setInterval(kIntervallo);
-  connect(&timer1_, &QTimer::timeout, this, &FinestraSplash::avanti);
+  connect(&timer1_, &QTimer::timeout, this, &VistaSplash::avanti);
   timer1_.start();
 }
 
-void FinestraSplash::paintEvent(QPaintEvent* /*evento*/) {
+void VistaSplash::paintEvent(QPaintEvent* /*evento*/) {
   QPainter pittore(this);
   QSvgRenderer(QStringLiteral(":/artwork/splash.svg")).render(&pittore, rect());
 }
 
-void FinestraSplash::keyPressEvent(QKeyEvent* /*evento*/) { avanti(); }
+void VistaSplash::keyPressEvent(QKeyEvent* /*evento*/) { avanti(); }
 
-void FinestraSplash::closeEvent(QCloseEvent* evento) {
+void VistaSplash::closeEvent(QCloseEvent* evento) {
   timer1_.stop();
   QWidget::closeEvent(evento);
 }
 
-void FinestraSplash::avanti() {
+void VistaSplash::avanti() {
   timer1_.stop();
   if (const auto apri = std::exchange(apriPrincipale_, {})) {
     apri();

@@ -1,4 +1,4 @@
-#include "dialogs/aggiornamento.h"
+#include "operations/aggiornamento.h"
 
 namespace vaticlo {
 

@@ -2,7 +2,7 @@
 
 #include <iosfwd>
 
-#include "methods/programma.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 

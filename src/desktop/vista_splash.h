@@ -8,11 +8,11 @@ namespace vaticlo {
 
 /// The splash: one picture, in the middle of the screen, until its timer fires or any key is pressed. A mouse
 /// click does nothing.
-class FinestraSplash : public QWidget {
+class VistaSplash : public QWidget {
  public:
   static constexpr int kIntervallo = 5000;  ///< milliseconds
 
-  explicit FinestraSplash(std::function<void()> apriPrincipale);
+  explicit VistaSplash(std::function<void()> apriPrincipale);
 
  protected:
   void paintEvent(QPaintEvent* evento) override;

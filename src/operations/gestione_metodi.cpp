@@ -1,4 +1,4 @@
-#include "dialogs/gestione_metodi.h"
+#include "operations/gestione_metodi.h"
 
 #include <algorithm>
 #include <array>

@@ -6,9 +6,9 @@
 namespace vaticlo {
 
 /// The user's guide in a window beside the main one, with which it closes. Esc closes it, Alt+Left goes back.
-class FinestraGuida : public QTextBrowser {
+class VistaGuida : public QTextBrowser {
  public:
-  FinestraGuida(const std::filesystem::path& pagina, QWidget* padre);
+  VistaGuida(const std::filesystem::path& pagina, QWidget* padre);
 
  protected:
   void keyPressEvent(QKeyEvent* tasto) override;

@@ -1,0 +1,23 @@
+#include "dialogs/frm_prev.h"
+
+namespace vaticlo {
+
+frmPrev::frmPrev(Programma& programma, Cornice& cornice) : ElencoScansione(programma, cornice) {
+  Caption("Previsioni in Gioco");
+  lblPrev.Caption("Non ci sono previsioni in gioco");
+  btnStampa.Click = [this] { btnStampa_Click(); };
+}
+
+std::filesystem::path frmPrev::scansione() {
+  ScansionePrevisioni(programma_, *this).PrevInGioco();
+  return programma_.cartella.prevGioco();
+}
+
+void frmPrev::btnStampa_Click() {
+  evento([this] {
+    if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Pulsanti::SiNo}) == Risposta::Si)
+      programma_.servizi.stampa(RichTextBox1.Text());
+  });
+}
+
+}  // namespace vaticlo
