@@ -72,17 +72,6 @@ TEST_F(Download, LeavesTheDestinationWhenAnythingGoesWrong) {
     EXPECT_FALSE(scarica(indirizzo));
 }
 
-TEST_F(Download, KeepsALinkAndWhoMayReadWhatItLeadsTo) {
-  constexpr auto permessi = fs::perms::owner_read | fs::perms::owner_write;
-  p.scrivi("Metodi/vero", kVecchio);
-  fs::permissions(p.radice / "Metodi/vero", permessi);
-  fs::create_symlink("Metodi/vero", p.radice / "archivio");
-  EXPECT_TRUE(scaricaInFile(server.indirizzo("/breve"), p.radice / "archivio"));
-  EXPECT_TRUE(fs::is_symlink(p.radice / "archivio"));
-  EXPECT_EQ(p.contenuto("Metodi/vero"), "nuovo");
-  EXPECT_EQ(fs::status(p.radice / "archivio").permissions(), permessi);
-}
-
 TEST_F(Download, LeavesNothingBesideADestinationThatRefuses) {
   EXPECT_FALSE(scaricaInFile(server.indirizzo("/breve"), p.cartella().metodi()));
   EXPECT_EQ(nellaCartella(), 1);

@@ -18,8 +18,8 @@ void Confine::esegui(const std::function<void()>& evento) const {
 void Confine::terminaProgramma(const RuntimeFailure& failure) {
   QMessageBox::critical(
       nullptr, QStringLiteral("Vaticlo"),
-      QStringLiteral("Errore di run-time %1: %2.\n\nIl programma termina; archivio e metodi sono "
-                     "rimasti com'erano.")
+      QStringLiteral("Errore di run-time %1: %2.\n\nIl programma termina; ciò che era stato salvato "
+                     "resta.")
           .arg(failure.numero())
           .arg(QString::fromUtf8(failure.what())));
   // No window lives on to meet another event, and nothing that is still open is written any more.

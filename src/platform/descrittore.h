@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -12,7 +15,10 @@ namespace vaticlo {
 class Descrittore {
  public:
   /// Opens with the flags of open(2); never waits for the other end of a pipe. Failure 53, 75 or 76.
-  Descrittore(const std::filesystem::path& percorso, int opzioni);
+  Descrittore(const std::filesystem::path& percorso, int opzioni)
+      : Descrittore(percorso, opzioni, percorso) {}
+  /// A failure names `nominato`, the file that the open one stands for.
+  Descrittore(const std::filesystem::path& percorso, int opzioni, const std::filesystem::path& nominato);
   Descrittore(Descrittore&& altro) noexcept : fd_(std::exchange(altro.fd_, -1)) {}
   Descrittore& operator=(Descrittore&&) = delete;
   ~Descrittore();
@@ -20,6 +26,13 @@ class Descrittore {
   [[nodiscard]] int fd() const { return fd_; }
   /// Writes all of `dati` at the present place. Failure 61 (no room) or 57; `percorso` is named in it.
   void scrivi(std::string_view dati, const std::filesystem::path& percorso) const;
+  /// Reads from the present place until `dati` is full or the file ends; how many bytes that were.
+  /// Failure 57.
+  [[nodiscard]] std::size_t leggi(std::span<std::uint8_t> dati, const std::filesystem::path& percorso) const;
+  /// Comes back when what was written is on the disk. Failure 57 or 61; none where the file system can't say.
+  void sincronizza(const std::filesystem::path& percorso) const;
+  /// Closes before the end of its life, to hear of a write that failed late. Failure 57 or 61.
+  void chiudi(const std::filesystem::path& percorso);
 
  private:
   int fd_;

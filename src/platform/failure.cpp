@@ -22,8 +22,12 @@ std::string descrizione(Errore errore) {
       return "file non trovato";
     case Errore::DispositivoIO:
       return "errore di lettura o scrittura";
+    case Errore::FileEsistente:
+      return "il file esiste già";
     case Errore::DiscoPieno:
       return "disco pieno";
+    case Errore::CartellaOccupata:
+      return "un altro programma sta scrivendo nella cartella";
     case Errore::AccessoAlFile:
       return "accesso al file o alla cartella non riuscito";
     case Errore::PercorsoNonTrovato:

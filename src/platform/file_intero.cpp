@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -16,43 +17,39 @@ namespace {
 // What is read of a device or a pipe at most: it may have no end.
 constexpr std::size_t kMassimoSenzaFine = std::size_t{64} << 20;
 
+// Opening in this way creates a missing file. Where that is refused, reading is enough; nothing when there is
+// nothing to read either.
+std::optional<Descrittore> apriGriglia(const std::filesystem::path& percorso) {
+  try {
+    return std::optional<Descrittore>(std::in_place, percorso, O_RDWR | O_CREAT);
+  } catch (const RuntimeFailure& failure) {
+    if (failure.errore() != Errore::AccessoAlFile) throw;
+  }
+  try {
+    return std::optional<Descrittore>(std::in_place, percorso, O_RDONLY);
+  } catch (const RuntimeFailure& failure) {
+    if (failure.errore() == Errore::FileNonTrovato) return std::nullopt;
+    throw;
+  }
+}
+
 // Only a plain file can be a grid: a pipe or a terminal would keep the reader waiting.
-Descrittore apriGriglia(const std::filesystem::path& percorso) {
-  Descrittore file(percorso, O_RDWR | O_CREAT);
+void richiediFileVero(const Descrittore& file, const std::filesystem::path& percorso) {
   struct stat stato {};
   if (::fstat(file.fd(), &stato) != 0 || !S_ISREG(stato.st_mode))
     throw RuntimeFailure(Errore::AccessoAlFile, percorso.filename().string());
-  return file;
-}
-
-void prendiPosto(int fd, std::size_t ottetti, const std::filesystem::path& percorso) {
-  struct stat stato {};
-  if (::fstat(fd, &stato) != 0) throw failureDiSistema(errno, percorso);
-  const int codice = ::posix_fallocate(fd, 0, static_cast<off_t>(ottetti));
-  if (codice == 0) return;
-  if (static_cast<std::size_t>(stato.st_size) < ottetti && ::ftruncate(fd, stato.st_size) != 0)
-    throw failureDiSistema(errno, percorso);
-  throw failureDiSistema(codice, percorso);
 }
 
 }  // namespace
 
 void leggiFile(const std::filesystem::path& percorso, std::span<std::uint8_t> dati) {
   const auto file = apriGriglia(percorso);
-  while (!dati.empty()) {
-    const auto letti = ::read(file.fd(), dati.data(), dati.size());
-    if (letti < 0 && errno == EINTR) continue;
-    if (letti < 0) throw RuntimeFailure(Errore::DispositivoIO, percorso.filename().string());
-    if (letti == 0) break;
-    dati = dati.subspan(static_cast<std::size_t>(letti));
+  std::size_t letti = 0;
+  if (file) {
+    richiediFileVero(*file, percorso);
+    letti = file->leggi(dati, percorso);
   }
-  std::fill(dati.begin(), dati.end(), std::uint8_t{0});
-}
-
-void scriviFile(const std::filesystem::path& percorso, std::span<const std::uint8_t> dati) {
-  const auto file = apriGriglia(percorso);
-  prendiPosto(file.fd(), dati.size(), percorso);
-  file.scrivi({reinterpret_cast<const char*>(dati.data()), dati.size()}, percorso);
+  std::fill(dati.begin() + static_cast<std::ptrdiff_t>(letti), dati.end(), std::uint8_t{0});
 }
 
 std::string contenutoFile(const std::filesystem::path& percorso) {

@@ -7,14 +7,34 @@
 
 namespace vaticlo {
 
-/// Opens the file for reading and writing, reads as many bytes as `dati` holds, closes it. A missing file is
-/// created empty; what a short one does not have is 0; what stands behind in a longer one is left out.
-/// Failure 75 (no access, no plain file), 76 (no folder) or 57 (reading went wrong).
+/// Reads as many bytes as `dati` holds. A missing file is created empty; what a short one does not have is 0;
+/// what follows in a longer one is left out. A file that may only be read is read all the same, and a missing
+/// one that can't be created reads as empty. Failure 75 (no access, no plain file), 76 (no folder) or 57
+/// (reading went wrong).
 void leggiFile(const std::filesystem::path& percorso, std::span<std::uint8_t> dati);
 
-/// Opens the file in the same way and writes `dati` from its first byte; a longer file keeps its tail. The
-/// room is taken before the first byte is written, so a full disk (failure 61) leaves the file as it was.
-void scriviFile(const std::filesystem::path& percorso, std::span<const std::uint8_t> dati);
+/// What becomes of a file that is there already.
+enum class Scrittura {
+  Griglia,  ///< it takes the new bytes and keeps what it has beyond them
+  Intera,   ///< it holds the new bytes and nothing else
+  Nuova,    ///< there must be none: failure 58
+};
+
+/// Writes `dati` wholly or not at all. A new file is written beside, under a name that begins with ".",
+/// brought to the disk and put in the place of the old one: whatever stops the program or the machine, the
+/// file is as before or as after, and a reader never sees half of it. What a killed program leaves beside
+/// goes with the next write of that file. The new file has the permissions of the old one and its owner where
+/// the system allows it; a link stays a link, to the new file; other hard links keep the old one. Where
+/// nothing can be put beside (a folder that can't be written, a tail beyond 64 MiB) the bytes go over the old
+/// ones, which are put back on a failure; there alone a kill -9 may leave a mixture.
+/// Failure 57, 61 (no room), 75 (a file that can't be written is not replaced either), 76 (no folder), 58 or
+/// 70 (another program holds the folder); the file is then as it was.
+void scriviFile(const std::filesystem::path& percorso, std::span<const std::uint8_t> dati,
+                Scrittura come = Scrittura::Griglia);
+
+/// Gives a file another name, where there is no file yet: failure 58 when there is one. A name that leads to
+/// the same file (upper and lower case, on some file systems) is taken. Failure 75 and the like otherwise.
+void rinominaFile(const std::filesystem::path& percorso, const std::filesystem::path& nuovo);
 
 /// The whole content of a file that must exist: failure 53 when it does not. A pipe or a device is read to
 /// its end too; failure 57 when that lies beyond 64 MiB.

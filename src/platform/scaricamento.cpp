@@ -3,15 +3,12 @@
 #include <memory>
 #include <new>
 #include <optional>
-#include <system_error>
 
 #include <curl/curl.h>
 #include <dlfcn.h>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include "platform/descrittore.h"
+#include "platform/failure.h"
+#include "platform/file_intero.h"
 
 namespace vaticlo {
 
@@ -98,42 +95,19 @@ std::optional<std::string> scarica(const std::string& indirizzo, const LimitiSca
   return std::move(raccolta.testo);
 }
 
-// The file behind a link, so that the link stays one.
-std::filesystem::path vero(const std::filesystem::path& percorso) {
-  std::error_code codice;
-  const auto trovato = std::filesystem::canonical(percorso, codice);
-  return codice ? percorso : trovato;
-}
-
-// Beside the destination first, then in its place in one step: whatever fails, the old file stays whole. The
-// new one is for the same people to read and to write.
-bool sostituisci(const std::filesystem::path& destinazione, const std::string& contenuto) {
-  auto accanto = destinazione;
-  accanto += ".nuovo";
-  std::error_code codice;
-  try {
-    const Descrittore file(accanto, O_WRONLY | O_CREAT | O_TRUNC);
-    struct stat prima {};
-    if (::stat(destinazione.c_str(), &prima) == 0)
-      static_cast<void>(::fchmod(file.fd(), prima.st_mode & 0777));
-    file.scrivi(contenuto, accanto);
-    if (::fsync(file.fd()) == 0) {
-      std::filesystem::rename(accanto, destinazione, codice);
-      if (!codice) return true;
-    }
-  } catch (const RuntimeFailure&) {
-    // Told by the result, like every other way to fail.
-  }
-  std::filesystem::remove(accanto, codice);
-  return false;
-}
-
 }  // namespace
 
 bool scaricaInFile(const std::string& indirizzo, const std::filesystem::path& destinazione,
                    const LimitiScaricamento& limiti) {
   const auto contenuto = scarica(indirizzo, limiti);
-  return contenuto && sostituisci(vero(destinazione), *contenuto);
+  if (!contenuto) return false;
+  try {
+    scriviFile(destinazione, {reinterpret_cast<const std::uint8_t*>(contenuto->data()), contenuto->size()},
+               Scrittura::Intera);
+    return true;
+  } catch (const RuntimeFailure&) {
+    return false;  // told in the same way as every other failure
+  }
 }
 
 }  // namespace vaticlo

@@ -1,0 +1,143 @@
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <optional>
+#include <string>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/file_accanto.h"
+#include "platform/file_intero.h"
+
+namespace vaticlo {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t kMassimaCoda = std::size_t{64} << 20;
+constexpr int kMassimiLink = 40;
+
+// Where the file is or is to be, so that a link stays one.
+fs::path dietroILink(fs::path percorso) {
+  std::error_code codice;
+  for (int n = 0; n < kMassimiLink && fs::is_symlink(fs::symlink_status(percorso, codice)); ++n)
+    percorso = percorso.parent_path() / fs::read_symlink(percorso, codice);
+  return percorso;
+}
+
+// Nothing when there is none. One that may not be written is not replaced either.
+std::optional<Descrittore> apriVecchio(const fs::path& percorso) {
+  try {
+    return std::optional<Descrittore>(std::in_place, percorso, O_RDWR);
+  } catch (const RuntimeFailure& failure) {
+    if (failure.errore() == Errore::FileNonTrovato) return std::nullopt;
+    throw;
+  }
+}
+
+std::size_t lunghezza(const Descrittore& file, const fs::path& percorso) {
+  struct stat stato {};
+  if (::fstat(file.fd(), &stato) != 0) throw failureDiSistema(errno, percorso);
+  if (!S_ISREG(stato.st_mode)) throw RuntimeFailure(Errore::AccessoAlFile, percorso.filename().string());
+  return static_cast<std::size_t>(stato.st_size);
+}
+
+void vaiA(const Descrittore& file, std::size_t posto, const fs::path& percorso) {
+  if (::lseek(file.fd(), static_cast<off_t>(posto), SEEK_SET) < 0) throw failureDiSistema(errno, percorso);
+}
+
+std::string leggiPezzo(const Descrittore& file, std::size_t posto, std::size_t quanti,
+                       const fs::path& percorso) {
+  std::string pezzo(quanti, '\0');
+  vaiA(file, posto, percorso);
+  pezzo.resize(file.leggi({reinterpret_cast<std::uint8_t*>(pezzo.data()), quanti}, percorso));
+  return pezzo;
+}
+
+void tagliaA(const Descrittore& file, std::size_t quanti, const fs::path& percorso) {
+  if (::ftruncate(file.fd(), static_cast<off_t>(quanti)) != 0) throw failureDiSistema(errno, percorso);
+}
+
+/// Holds the signals off that would end the program half-way.
+class SegnaliFermi {
+ public:
+  SegnaliFermi() {
+    sigset_t tutti;
+    ::sigfillset(&tutti);
+    ::pthread_sigmask(SIG_BLOCK, &tutti, &prima_);
+  }
+  SegnaliFermi(SegnaliFermi&&) = delete;
+  SegnaliFermi& operator=(SegnaliFermi&&) = delete;
+  ~SegnaliFermi() { ::pthread_sigmask(SIG_SETMASK, &prima_, nullptr); }
+
+ private:
+  sigset_t prima_{};
+};
+
+void scriviSulPosto(const Descrittore& file, std::string_view dati, bool intera, const fs::path& percorso) {
+  const SegnaliFermi fermi;
+  const auto lungo = lunghezza(file, percorso);
+  const auto vecchi = leggiPezzo(file, 0, std::min(lungo, dati.size()), percorso);
+  try {
+    vaiA(file, 0, percorso);
+    file.scrivi(dati, percorso);
+    file.sincronizza(percorso);
+    if (intera && lungo > dati.size()) tagliaA(file, dati.size(), percorso);
+  } catch (const RuntimeFailure&) {
+    vaiA(file, 0, percorso);
+    file.scrivi(vecchi, percorso);
+    tagliaA(file, lungo, percorso);
+    throw;
+  }
+}
+
+}  // namespace
+
+void scriviFile(const fs::path& percorso, std::span<const std::uint8_t> ottetti, Scrittura come) {
+  const std::string_view dati(reinterpret_cast<const char*>(ottetti.data()), ottetti.size());
+  const auto file = dietroILink(percorso);
+  const auto cartella = file.has_parent_path() ? file.parent_path() : fs::path(".");
+  const BloccoCartella blocco(cartella);
+  const auto vecchio = apriVecchio(file);
+  if (vecchio && come == Scrittura::Nuova)
+    throw RuntimeFailure(Errore::FileEsistente, file.filename().string());
+  const auto lungo = vecchio ? lunghezza(*vecchio, file) : 0;
+  const auto coda = come == Scrittura::Griglia && lungo > dati.size() ? lungo - dati.size() : 0;
+  const bool accantoSiPuo = !vecchio || (coda <= kMassimaCoda && ::faccessat(AT_FDCWD, cartella.c_str(),
+                                                                             W_OK | X_OK, AT_EACCESS) == 0);
+  if (accantoSiPuo) {
+    FileAccanto accanto(file);
+    if (vecchio) accanto.prendiPermessi(*vecchio);
+    accanto.scrivi(dati);
+    if (coda > 0) accanto.scrivi(leggiPezzo(*vecchio, dati.size(), coda, file));
+    accanto.finisci();
+    if (come == Scrittura::Nuova) return accanto.prendiPostoLibero(blocco);
+    if (accanto.prendiIlPosto(vecchio.has_value(), blocco)) return;
+  }
+  scriviSulPosto(*vecchio, dati, come == Scrittura::Intera, file);
+}
+
+void rinominaFile(const fs::path& percorso, const fs::path& nuovo) {
+  const auto esito = [](int risultato) { return risultato == 0 ? 0 : errno; };
+  const char *da = percorso.c_str(), *a = nuovo.c_str();
+  std::error_code ignorato;
+  int codice = esito(::renameat2(AT_FDCWD, da, AT_FDCWD, a, RENAME_NOREPLACE));
+  if (codice == EEXIST && fs::equivalent(percorso, nuovo, ignorato)) {
+    codice = esito(::rename(da, a));
+  } else if (codice == EINVAL || codice == ENOSYS) {
+    // A second name covers no file either, on a file system that knows no such step.
+    codice = esito(::link(da, a));
+    if (codice == 0)
+      codice = esito(::unlink(da));
+    else if (codice != EEXIST)
+      codice = fs::exists(nuovo, ignorato) ? EEXIST : esito(::rename(da, a));
+  }
+  if (codice == EEXIST) throw RuntimeFailure(Errore::FileEsistente, nuovo.filename().string());
+  if (codice != 0) throw failureDiSistema(codice, percorso);
+}
+
+}  // namespace vaticlo
