@@ -208,8 +208,6 @@ void Fotografo::tutte() {
   scegli("mnuUtility3");
   scorri(315);
   scatta("somma-distanza");
-  scegli("mnuUtility4");
-  scatta("riserva");
   scegli("mnuInformazioni2");
   scatta("informazioni");
   scegli("mnuInformazioni1");
@@ -218,7 +216,7 @@ void Fotografo::tutte() {
   guida.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   posa();
   salva("guida", conTitolo(guida));
-  conRiquadro("importa", {}, [&] { scegli("mnuUtility5"); });
+  conRiquadro("importa", {}, [&] { scegli("mnuUtility4"); });
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "desktop/viste.h"
 
 #include "dialogs/elenco_scansione.h"
-#include "dialogs/frm_aggiornamento.h"
 #include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_inserisci.h"
@@ -33,7 +32,7 @@ QWidget* traQueste(const std::shared_ptr<Finestra>& finestra, const Confine& con
 
 QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine) {
   return traQueste<frmInserisci, frmModifica, frmMetodo, frmInsPrev, frmStatistica, ElencoScansione,
-                   frmSomdif, frmGestioneMetodi, frmMigliore, frmAggiornamento, frmInfo>(finestra, confine);
+                   frmSomdif, frmGestioneMetodi, frmMigliore, frmInfo>(finestra, confine);
 }
 
 }  // namespace vaticlo

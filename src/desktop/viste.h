@@ -10,7 +10,6 @@ class QWidget;
 namespace vaticlo {
 
 class ElencoScansione;
-class frmAggiornamento;
 class frmInfo;
 class frmInserisci;
 class frmInsPrev;
@@ -29,7 +28,6 @@ inline constexpr const char* kPrimoFuoco = "primoFuoco";
 [[nodiscard]] QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine);
 
 [[nodiscard]] QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confine);
-[[nodiscard]] QWidget* vista(const std::shared_ptr<frmAggiornamento>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInfo>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInserisci>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine);

@@ -3,14 +3,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QVBoxLayout>
 
 #include "controls/xpcmdbutton.h"
 #include "desktop/legame.h"
 #include "desktop/riquadri.h"
 #include "desktop/viste.h"
-#include "dialogs/frm_aggiornamento.h"
 #include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_migliore.h"
@@ -65,25 +63,6 @@ QWidget* vista(const std::shared_ptr<frmGestioneMetodi>& frm, const Confine& con
   pulsanti->addWidget(legame->pulsante(frm->btnElimina, QStringLiteral("btnElimina")));
   pulsanti->addStretch(1);
   pulsanti->addWidget(legame->pulsante(frm->btnEsci, QStringLiteral("btnEsci")));
-  tutto->addLayout(pulsanti);
-  return widget;
-}
-
-QWidget* vista(const std::shared_ptr<frmAggiornamento>& frm, const Confine& confine) {
-  auto* widget = new QWidget;
-  auto* legame = new Legame(widget, frm, confine);
-  auto* tutto = new QVBoxLayout(widget);
-  tutto->setContentsMargins(14, 12, 14, 12);
-  tutto->setSpacing(12);
-  widget->setProperty(kPrimoFuoco, QStringLiteral("btninizia"));
-  auto* barra = legame->avanzamento(frm->ProgressBar1, QStringLiteral("ProgressBar1"));
-  auto* pulsanti = new QHBoxLayout;
-  pulsanti->addWidget(legame->pulsante(frm->btninizia, QStringLiteral("btninizia")));
-  pulsanti->addStretch(1);
-  pulsanti->addWidget(legame->pulsante(frm->btnAnnulla, QStringLiteral("btnAnnulla")));
-  tutto->addStretch(1);
-  tutto->addWidget(barra);
-  tutto->addStretch(1);
   tutto->addLayout(pulsanti);
   return widget;
 }

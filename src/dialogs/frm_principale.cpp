@@ -4,7 +4,6 @@
 #include <filesystem>
 #include <type_traits>
 
-#include "dialogs/frm_aggiornamento.h"
 #include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_inserisci.h"
@@ -116,9 +115,6 @@ void frmPrincipale::comando(Comando comando) {
       break;
     case Comando::Somdif:
       apri<frmSomdif>();
-      break;
-    case Comando::Riserva:
-      apri<frmAggiornamento>();
       break;
     case Comando::Importa:
       importaEstrazioniDaFile(programma_);

@@ -20,7 +20,6 @@ enum class Comando {
   InGioco,
   Vincenti,
   Somdif,
-  Riserva,
   Importa,
   PaginaEstrazioni,
   PaginaRegole,

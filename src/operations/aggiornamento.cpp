@@ -4,8 +4,6 @@ namespace vaticlo {
 
 std::string indirizzoArchivio() { return VATICLO_SERVER_ARCHIVIO; }
 
-std::string indirizzoRiserva() { return VATICLO_SERVER_RISERVA; }
-
 bool aggiornaArchivio(Programma& programma, const std::string& indirizzo) {
   const bool riuscito = programma.servizi.scarica(indirizzo, programma.cartella.archivio());
   programma.servizi.mostra(

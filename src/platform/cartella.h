@@ -15,7 +15,6 @@ class CartellaProgramma {
 
   [[nodiscard]] const std::filesystem::path& radice() const { return radice_; }
   [[nodiscard]] std::filesystem::path archivio() const { return radice_ / "archivion71.dat"; }
-  [[nodiscard]] std::filesystem::path riserva() const { return radice_ / "archivio71.dat"; }
   [[nodiscard]] std::filesystem::path guida() const { return radice_ / "guida" / "guida.html"; }
   [[nodiscard]] std::filesystem::path metodi() const { return radice_ / "Metodi"; }
   [[nodiscard]] std::filesystem::path esiti() const { return radice_ / "Esiti.txt"; }

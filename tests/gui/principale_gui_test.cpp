@@ -4,7 +4,6 @@
 
 #include "desktop/vista_splash.h"
 #include "gui/finestra_prova.h"
-#include "operations/aggiornamento.h"
 
 using namespace vaticlo;
 using namespace vaticlo::prova;
@@ -79,17 +78,13 @@ class PrincipaleGuiTest : public QObject {
                qPrintable(bottone->objectName()));
   }
 
-  void aMethodIsMadeByItsNameAndTheReserveCopyFetchedFromItsServer() {
+  void aMethodIsMadeByItsName() {
     Principale v;
     v.scegli("mnuGestione11");  // no name: nothing happens
     v.p.servizi.digitato = "Mio";
     v.scegli("mnuGestione11");
     QCOMPARE(v.detti(), QStringList("[Vaticlo] Il metodo è stato creato!"));
     QVERIFY(v.p.esiste("Metodi/Mio.dat"));
-    v.scegli("mnuUtility4");
-    v.clicca("btninizia");
-    QCOMPARE(v.detti(), QStringList("[Vaticlo] ok"));
-    QVERIFY(v.p.servizi.scaricati == std::vector{indirizzoRiserva() + " archivio71.dat"});
   }
 
   void closingDeletesTheReportOfTheLastCheckAlone() {
