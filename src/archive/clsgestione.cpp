@@ -75,7 +75,8 @@ void clsGestione::Trova(FinestraEstrazione& frm, int giorno, int mese, int secol
     Visualizza(frm, i);
     frm.VScroll1_Value(i + 1);
   } catch (const RuntimeFailure& failure) {
-    if (failure.errore() == Errore::Indice) servizi_.mostra({"Inserisci una data corretta", "Attenzione"});
+    if (failure.errore() == Errore::Indice)
+      servizi_.mostra({"Inserisci una data corretta", "Attenzione", Genere::Rifiuto});
   }
 }
 

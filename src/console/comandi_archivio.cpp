@@ -122,9 +122,7 @@ void aggiungiComandiArchivio(CLI::App& app, Sessione& sessione) {
   comando->add_option("--da", *da, "Indirizzo da usare al posto di quello del programma")
       ->type_name("INDIRIZZO")
       ->capture_default_str();
-  comando->callback([&sessione, da] {
-    if (!aggiornaArchivio(sessione.programma(), *da)) sessione.esito = kRifiutato;
-  });
+  comando->callback([&sessione, da] { aggiornaArchivio(sessione.programma(), *da); });
 }
 
 }  // namespace vaticlo

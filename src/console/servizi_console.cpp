@@ -8,9 +8,9 @@
 namespace vaticlo {
 
 Risposta ServiziConsole::mostra(const Messaggio& messaggio) {
-  if (messaggio.pulsanti == Pulsanti::SiNo) return Risposta::Si;
+  if (messaggio.genere == Genere::Domanda) return Risposta::Si;
   std::cout << '[' << messaggio.titolo << "] " << messaggio.testo << '\n';
-  rifiutato_ = rifiutato_ || messaggio.titolo == "Attenzione";
+  rifiutato_ = rifiutato_ || messaggio.genere == Genere::Rifiuto;
   return Risposta::Ok;
 }
 

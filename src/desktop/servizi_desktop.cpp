@@ -38,9 +38,9 @@ Risposta ServiziDesktop::mostra(const Messaggio& messaggio) {
   box.setTextFormat(Qt::PlainText);
   box.setText(qt(messaggio.testo));
   if (messaggio.icona == Icona::Esclamazione) box.setIcon(QMessageBox::Warning);
-  if (messaggio.pulsanti == Pulsanti::SiNo) {
+  if (messaggio.genere == Genere::Domanda) {
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(messaggio.predefinita == Risposta::Si ? QMessageBox::Yes : QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes ? Risposta::Si : Risposta::No;
   }

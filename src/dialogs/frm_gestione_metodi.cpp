@@ -25,25 +25,26 @@ void frmGestioneMetodi::cmbMetodo_Click() { txtNome.Text(cmbMetodo.Text()); }
 
 void frmGestioneMetodi::btnRinomina_Click() {
   const auto nome = cmbMetodo.Text();
-  if (!conferma("Rinominare il metodo \"" + nome + "\"?")) return;
+  if (!conferma("Rinominare il metodo \"" + nome + "\"?", Risposta::Si)) return;
   if (GestioneMetodi(programma_).rinomina(nome, txtNome.Text())) fatto("Il metodo è stato rinominato!");
 }
 
 void frmGestioneMetodi::btnElimina_Click() {
   const auto nome = cmbMetodo.Text();
-  if (!conferma("Eliminare il metodo \"" + nome + "\" con tutte le sue previsioni?")) return;
+  if (!conferma("Eliminare il metodo \"" + nome + "\" con tutte le sue previsioni?", Risposta::No)) return;
   if (GestioneMetodi(programma_).elimina(nome)) fatto("Il metodo è stato eliminato!");
 }
 
 void frmGestioneMetodi::btnEsci_Click() { cornice().chiudi(*this); }
 
-bool frmGestioneMetodi::conferma(const std::string& domanda) {
+bool frmGestioneMetodi::conferma(const std::string& domanda, Risposta predefinita) {
   if (cmbMetodo.ListIndex() < 0) {
     programma_.servizi.mostra(
-        {"Nessun metodo selezionato!", "Attenzione", Pulsanti::Ok, Icona::Esclamazione});
+        {"Nessun metodo selezionato!", "Attenzione", Genere::Rifiuto, Icona::Esclamazione});
     return false;
   }
-  return programma_.servizi.mostra({domanda, "Attenzione", Pulsanti::SiNo}) == Risposta::Si;
+  return programma_.servizi.mostra({domanda, "Attenzione", Genere::Domanda, Icona::Nessuna, predefinita}) ==
+         Risposta::Si;
 }
 
 void frmGestioneMetodi::fatto(const std::string& testo) {

@@ -25,7 +25,7 @@ class frmGestioneMetodi : public Finestra {
   Pulsante btnEsci{"&Esci", "Chiudi la finestra"};
 
  private:
-  [[nodiscard]] bool conferma(const std::string& domanda);
+  [[nodiscard]] bool conferma(const std::string& domanda, Risposta predefinita);
   void fatto(const std::string& testo);
   [[nodiscard]] std::vector<std::string> esistenti() const;
 

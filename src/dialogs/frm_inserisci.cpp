@@ -44,8 +44,8 @@ void frmInserisci::Form_Load() {
 bool frmInserisci::txtestr_Validate(int f) {
   const auto numero = numeroDaTesto(testo(f));
   if (!numero || *numero <= 0 || *numero > 90) {
-    programma_.servizi.mostra(
-        {"Inserire un valore valido compreso tra 1 e 90", "Attenzione", Pulsanti::Ok, Icona::Esclamazione});
+    programma_.servizi.mostra({"Inserire un valore valido compreso tra 1 e 90", "Attenzione", Genere::Rifiuto,
+                               Icona::Esclamazione});
     return true;
   }
   // Texts are compared, and only with the fields at the left: a digit typed in the right-hand place of the
@@ -53,7 +53,7 @@ bool frmInserisci::txtestr_Validate(int f) {
   for (int i = 1; i <= f % ArchivioEstrazioni::Colonne; ++i)
     if (testo(f) == testo(f - i)) {
       programma_.servizi.mostra({"''" + testo(f) + "'' è stato già inserito come estratto nella ruota",
-                                 "Attenzione", Pulsanti::Ok, Icona::Esclamazione});
+                                 "Attenzione", Genere::Rifiuto, Icona::Esclamazione});
       return true;
     }
   return false;
@@ -61,7 +61,7 @@ bool frmInserisci::txtestr_Validate(int f) {
 
 void frmInserisci::btnSalva_Click() {
   const auto risposta =
-      programma_.servizi.mostra({"Sei sicuro di voler salvare l'estrazione", "Attenzione", Pulsanti::SiNo});
+      programma_.servizi.mostra({"Sei sicuro di voler salvare l'estrazione", "Attenzione", Genere::Domanda});
   if (risposta != Risposta::Si) return;
   FormDaSalvare form(*this);
   clsGestione(programma_.cartella, programma_.servizi).salva(form);

@@ -96,8 +96,8 @@ void frmInsPrev::btnElimina_Click() {
     rifiuta("Nessuna previsione selezionata!");
     return;
   }
-  const auto risposta =
-      programma_.servizi.mostra({"Sicuro di eliminare la previsione?", "Attenzione", Pulsanti::SiNo});
+  const auto risposta = programma_.servizi.mostra(
+      {"Sicuro di eliminare la previsione?", "Attenzione", Genere::Domanda, Icona::Nessuna, Risposta::No});
   if (risposta != Risposta::Si) return;
   try {
     const auto origine = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
@@ -126,7 +126,7 @@ void frmInsPrev::visualizza(int n) {
 }
 
 bool frmInsPrev::rifiuta(const std::string& testo, Icona icona) {
-  programma_.servizi.mostra({testo, "Attenzione", Pulsanti::Ok, icona});
+  programma_.servizi.mostra({testo, "Attenzione", Genere::Rifiuto, icona});
   return false;
 }
 

@@ -59,7 +59,7 @@ void frmMetodo::btnTrova_Click() {
 }
 
 void frmMetodo::btnStampa_Click() {
-  if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Pulsanti::SiNo}) == Risposta::Si)
+  if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Genere::Domanda}) == Risposta::Si)
     programma_.servizi.stampa(RichTextBox1.Text());
 }
 

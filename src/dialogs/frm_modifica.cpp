@@ -37,15 +37,16 @@ void frmModifica::VScroll1_Change() {
 
 void frmModifica::btnSalva_Click() {
   const auto risposta = programma_.servizi.mostra(
-      {"Sei sicuro di voler modificare l'estrazione corrente", "Attenzione", Pulsanti::SiNo});
+      {"Sei sicuro di voler modificare l'estrazione corrente", "Attenzione", Genere::Domanda});
   if (risposta != Risposta::Si) return;
   clsGestione(programma_.cartella, programma_.servizi)
       .salva(estrazione, programma_.globals.EstrazioneCorrente);
 }
 
 void frmModifica::btnCancella_Click() {
-  const auto risposta = programma_.servizi.mostra(
-      {"Sei sicuro di voler cancellare l'estrazione selezionata", "Attenzione", Pulsanti::SiNo});
+  const auto risposta =
+      programma_.servizi.mostra({"Sei sicuro di voler cancellare l'estrazione selezionata", "Attenzione",
+                                 Genere::Domanda, Icona::Nessuna, Risposta::No});
   if (risposta != Risposta::Si) return;
   clsGestione(programma_.cartella, programma_.servizi)
       .cancella(estrazione, inIntero16(estrazione.lblnestr.Caption()));

@@ -15,7 +15,7 @@ std::filesystem::path frmPrev::scansione() {
 
 void frmPrev::btnStampa_Click() {
   evento([this] {
-    if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Pulsanti::SiNo}) == Risposta::Si)
+    if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Genere::Domanda}) == Risposta::Si)
       programma_.servizi.stampa(RichTextBox1.Text());
   });
 }

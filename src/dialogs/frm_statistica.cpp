@@ -114,7 +114,7 @@ bool frmStatistica::rifiutaIntervallo() {
   if (a > b || a == b) {
     programma_.servizi.mostra({std::string("L'estrazione di inzio non può essere ") +
                                    (a > b ? "maggiore dell'" : "uguale all'") + "estrazione di fine!",
-                               "Attenzione"});
+                               "Attenzione", Genere::Rifiuto});
     return true;
   }
   // The repairs come behind the comparison and no new one follows: meant.
@@ -148,7 +148,7 @@ void frmStatistica::apriRisultati(bool vincite) {
 }
 
 void frmStatistica::btnStampa_Click() {
-  if (programma_.servizi.mostra({"Stampo la statistica?", "Ambolino", Pulsanti::SiNo}) == Risposta::Si)
+  if (programma_.servizi.mostra({"Stampo la statistica?", "Ambolino", Genere::Domanda}) == Risposta::Si)
     programma_.servizi.stampa(RichTextBox1.Text());
 }
 

@@ -21,15 +21,15 @@ void cercaEstrazione(Programma& programma, BarraScorrimento& VScroll1, FinestraE
       VScroll1.Value(x + 1);
       mostra(x);
     } else {
-      servizi.mostra(
-          {"Inserisci un valore corretto compreso tra " + primo + " e " + ultimo + ".", "Attenzione"});
+      servizi.mostra({"Inserisci un valore corretto compreso tra " + primo + " e " + ultimo + ".",
+                      "Attenzione", Genere::Rifiuto});
     }
   } else if (const auto data = dataDaTesto(risposta)) {
     const int anno = annoDueCifre(*data);
     clsGestione(programma.cartella, servizi)
         .Trova(frm, giorno(*data), mese(*data), secoloDiRicerca(anno), anno);
   } else if (!risposta.empty()) {
-    servizi.mostra({"Inserisci un valore numerico", "Attenzione"});
+    servizi.mostra({"Inserisci un valore numerico", "Attenzione", Genere::Rifiuto});
   }
 }
 

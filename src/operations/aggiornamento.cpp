@@ -4,11 +4,13 @@ namespace vaticlo {
 
 std::string indirizzoArchivio() { return VATICLO_SERVER_ARCHIVIO; }
 
-bool aggiornaArchivio(Programma& programma, const std::string& indirizzo) {
+void aggiornaArchivio(Programma& programma, const std::string& indirizzo) {
   const bool riuscito = programma.servizi.scarica(indirizzo, programma.cartella.archivio());
-  programma.servizi.mostra(
-      {riuscito ? "Aggiornamento avvenuto" : "Errore: Non è possibile effettuare l'aggiornamento"});
-  return riuscito;
+  if (riuscito)
+    programma.servizi.mostra({"Aggiornamento avvenuto"});
+  else
+    programma.servizi.mostra(
+        {.testo = "Errore: Non è possibile effettuare l'aggiornamento", .genere = Genere::Rifiuto});
 }
 
 }  // namespace vaticlo

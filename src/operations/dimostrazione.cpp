@@ -125,7 +125,8 @@ bool giaInUso(const Programma& programma) {
 void creaDimostrazione(Programma& programma, std::ostream& uscita) {
   if (giaInUso(programma)) {
     programma.servizi.mostra(
-        {"La cartella contiene già estrazioni o previsioni: la dimostrazione non le tocca.", "Attenzione"});
+        {"La cartella contiene già estrazioni o previsioni: la dimostrazione non le tocca.", "Attenzione",
+         Genere::Rifiuto});
     return;
   }
   const auto archivio = inventaEstrazioni();

@@ -80,7 +80,7 @@ bool GestioneMetodi::esiste(const std::string& nome) {
 }
 
 bool GestioneMetodi::rifiuta(const std::string& testo) {
-  programma_.servizi.mostra({testo, "Attenzione", Pulsanti::Ok, Icona::Esclamazione});
+  programma_.servizi.mostra({testo, "Attenzione", Genere::Rifiuto, Icona::Esclamazione});
   return false;
 }
 

@@ -36,7 +36,7 @@ std::optional<ArchivioEstrazioni> importa(Servizi& servizi, const fs::path& file
   servizi.avanzamento(kLavoro, 100);
   servizi.mostra({"Il file \"" + file.filename().string() + "\" non è stato importato!\n\n" + motivo +
                       "\n\nL'archivio è rimasto com'era.",
-                  kTitolo, Pulsanti::Ok, Icona::Esclamazione});
+                  kTitolo, Genere::Rifiuto, Icona::Esclamazione});
   return std::nullopt;
 }
 
@@ -52,7 +52,7 @@ void importaEstrazioniDaFile(Programma& programma) {
   if (!vuoto && servizi.mostra({"L'archivio contiene già delle estrazioni. Sostituirle tutte con quelle del "
                                 "file (" +
                                     riassunto(*nuovo) + ")?",
-                                kTitolo, Pulsanti::SiNo, Icona::Esclamazione}) != Risposta::Si)
+                                kTitolo, Genere::Domanda, Icona::Esclamazione, Risposta::No}) != Risposta::Si)
     return;
   ScriviArchivio(programma.cartella, *nuovo);
   servizi.mostra({"Importate " + riassunto(*nuovo), kTitolo});

@@ -6,7 +6,12 @@
 
 namespace vaticlo {
 
-enum class Pulsanti { Ok, SiNo };
+/// What a message is to whoever reads it. A question has the buttons Sì and No, the others OK.
+enum class Genere {
+  Notizia,
+  Rifiuto,  ///< what was asked is not done; archive and methods are as they were
+  Domanda,
+};
 enum class Icona { Nessuna, Esclamazione };
 enum class Risposta { Ok, Si, No };
 
@@ -14,8 +19,9 @@ enum class Risposta { Ok, Si, No };
 struct Messaggio {
   std::string testo;
   std::string titolo = "Vaticlo";  ///< a box without a title of its own bears the program's name
-  Pulsanti pulsanti = Pulsanti::Ok;
+  Genere genere = Genere::Notizia;
   Icona icona = Icona::Nessuna;
+  Risposta predefinita = Risposta::Si;  ///< of a question; No for one that deletes or replaces
 };
 
 /// What the logic asks of a person or a device. The windows, the console and each test give their own.

@@ -17,7 +17,7 @@ class ServiziProva : public Servizi {
  public:
   Risposta mostra(const Messaggio& messaggio) override {
     messaggi.push_back(messaggio);
-    return messaggio.pulsanti == Pulsanti::SiNo ? risposta : Risposta::Ok;
+    return messaggio.genere == Genere::Domanda ? risposta : Risposta::Ok;
   }
   std::string chiedi(const std::string& testo, const std::string& titolo) override {
     domande.push_back({testo, titolo});
