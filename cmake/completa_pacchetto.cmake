@@ -1,5 +1,5 @@
-# Run by the installation: the methods, the libraries and plugins that a desktop without Qt lacks, then their licences.
-set(cartella "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
+# Run by the installation: the libraries and plugins that a desktop without Qt lacks, then their licences.
+set(radice "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
 
 # copia(FILE WHERE): the file itself, not the link to it, under the name it is asked for by.
 function(copia file dove)
@@ -8,13 +8,6 @@ function(copia file dove)
   file(REAL_PATH "${file}" vero)
   file(COPY_FILE "${vero}" "${dove}" ONLY_IF_DIFFERENT)
 endfunction()
-
-# An installation over a folder in use leaves the predictions in it.
-foreach(nome "Metodo 1" "Metodo 2")
-  if(NOT EXISTS "${cartella}/Metodi/${nome}.dat")
-    copia("${metodo_vuoto}" "${cartella}/Metodi/${nome}.dat")
-  endif()
-endforeach()
 
 set(moduli ${plugins})
 list(TRANSFORM moduli PREPEND "${radice_plugins}/")
@@ -28,10 +21,10 @@ list(APPEND librerie "${curl}")
 
 foreach(libreria ${librerie})
   cmake_path(GET libreria FILENAME nome)
-  copia("${libreria}" "${cartella}/lib/${nome}")
+  copia("${libreria}" "${radice}/lib/${nome}")
 endforeach()
 foreach(plugin ${plugins})
-  copia("${radice_plugins}/${plugin}" "${cartella}/lib/plugins/${plugin}")
+  copia("${radice_plugins}/${plugin}" "${radice}/lib/plugins/${plugin}")
 endforeach()
 
 include(${CMAKE_CURRENT_LIST_DIR}/licenze.cmake)

@@ -1,7 +1,12 @@
 # The user's guide beside the program, as a page: guida/guida.html and its pictures.
+include(CMakeDependentOption)
 find_program(VATICLO_CMARK cmark-gfm)
+cmake_dependent_option(VATICLO_GUIDA "Make the user's guide a page, which F1 shows" ON VATICLO_CMARK OFF)
 if(NOT VATICLO_CMARK)
-  message(FATAL_ERROR "cmark-gfm turns the user's guide into a page and is missing: install the package cmark-gfm")
+  message(STATUS "cmark-gfm is not there: the program is built without the guide's page, and F1 will say so")
+endif()
+if(NOT VATICLO_GUIDA)
+  return()
 endif()
 
 set(guida ${PROJECT_BINARY_DIR}/programma/guida)
@@ -20,7 +25,3 @@ foreach(immagine ${immagini})
 endforeach()
 add_custom_target(guida ALL DEPENDS ${pagine})
 add_dependencies(vaticlo guida)
-
-install(FILES ${guida}/guida.html DESTINATION guida)
-list(TRANSFORM immagini PREPEND docs/)
-install(FILES ${immagini} DESTINATION guida/immagini)

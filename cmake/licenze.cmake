@@ -26,7 +26,7 @@ foreach(pacchetto ${pacchetti})
   string(APPEND elenco "${riga}")
   string(REGEX REPLACE "=.*" "" sorgente "${riga}")
   string(REGEX REPLACE ":.*" "" nome "${pacchetto}")
-  copia(/usr/share/doc/${nome}/copyright "${cartella}/licenze/${sorgente}.txt")
+  copia(/usr/share/doc/${nome}/copyright "${radice}/licenze/${sorgente}.txt")
   file(STRINGS /usr/share/doc/${nome}/copyright righe REGEX "/usr/share/common-licenses/")
   string(REGEX MATCHALL "/usr/share/common-licenses/[A-Za-z0-9.-]*[A-Za-z0-9]" nominate "${righe}")
   list(APPEND comuni ${nominate})
@@ -34,10 +34,10 @@ endforeach()
 list(REMOVE_DUPLICATES comuni)
 foreach(comune ${comuni})
   cmake_path(GET comune FILENAME nome)
-  copia(${comune} "${cartella}/licenze/common-licenses/${nome}")
+  copia(${comune} "${radice}/licenze/common-licenses/${nome}")
 endforeach()
 
-file(WRITE "${cartella}/licenze/LEGGIMI.txt"
+file(WRITE "${radice}/licenze/LEGGIMI.txt"
 "Le librerie di lib/ vengono, immutate, dai pacchetti di Debian qui elencati (sorgente=versione: pacchetto); i primi
 due, compilati dentro i programmi, sono CLI11 (cli11) e i testi italiani di Qt (qt6-translations).
 Le licenze stanno accanto, col nome del sorgente. I sorgenti sono su https://snapshot.debian.org/ e si scaricano anche

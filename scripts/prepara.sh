@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by run.sh, test.sh and .ci/run: what a fresh Debian 12 needs, and how it is built.
 
 pacchetti="g++ cmake ninja-build pkg-config
@@ -5,18 +6,26 @@ pacchetti="g++ cmake ninja-build pkg-config
   qt6-base-dev libqt6svg6-dev qt6-l10n-tools qt6-tools-dev qt6-translations-l10n libgl1-mesa-dev
   cmark-gfm"
 
-# installa_pacchetti [MORE ...]: installs those packages that are not there yet.
+# installa_pacchetti [MORE ...]: says which of those packages are not there yet, then installs them.
 installa_pacchetti() {
-  local mancanti="" p
+  local mancanti=() p come=()
   for p in $pacchetti "$@"; do
-    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q '^install ok installed' || mancanti="$mancanti $p"
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q '^install ok installed' || mancanti+=("$p")
   done
-  [ -z "$mancanti" ] && return 0
-  local sudo=""
-  [ "$(id -u)" = 0 ] || sudo="sudo"
-  echo "Installing:$mancanti"
-  $sudo apt-get update -qq
-  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends $mancanti >/dev/null
+  [ ${#mancanti[@]} -gt 0 ] || return 0
+  echo "Mancano questi pacchetti di Debian, che ora vengono installati:"
+  echo "  ${mancanti[*]}" | fold -s -w 100
+  if [ "$(id -u)" != 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      echo "Serve l'amministratore del sistema, e qui non c'è sudo. Da root: apt-get install ${mancanti[*]}" >&2
+      return 1
+    fi
+    echo "sudo può chiedere la password."
+    come=(sudo)
+  fi
+  "${come[@]}" apt-get update -qq
+  "${come[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${mancanti[@]}" >/dev/null
 }
 
 # costruisci PRESET [OPTIONS ...]: configures and builds in build/PRESET.

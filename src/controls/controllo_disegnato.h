@@ -20,7 +20,7 @@ class ControlloDisegnato : public QAbstractButton {
 
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
- signals:
+ Q_SIGNALS:
   void Click();
   void MouseOut();
 
@@ -28,7 +28,7 @@ class ControlloDisegnato : public QAbstractButton {
   explicit ControlloDisegnato(QWidget* parent);
 
   [[nodiscard]] virtual StatoControllo& stato() = 0;
-  virtual void alClic() { emit Click(); }
+  virtual void alClic() { Q_EMIT Click(); }
 
   void ridisegna();
   [[nodiscard]] QSize misuraDidascalia() const;

@@ -14,7 +14,7 @@ constexpr int kMargineFuoco = 2;
 }  // namespace
 
 xpcmdbutton::xpcmdbutton(QWidget* parent) : ControlloDisegnato(parent) {
-  stato_.MouseOut = [this] { emit MouseOut(); };
+  stato_.MouseOut = [this] { Q_EMIT MouseOut(); };
   connect(this, &QObject::objectNameChanged, this, [this](const QString& nome) {
     if (text() == nomeMostrato_) setText(nome);
     nomeMostrato_ = nome;

@@ -75,10 +75,10 @@ void xpgroupbox::paintEvent(QPaintEvent*) {
 void xpgroupbox::mousePressEvent(QMouseEvent* evento) { evento->accept(); }
 
 void xpgroupbox::mouseReleaseEvent(QMouseEvent* evento) {
-  if (rect().contains(evento->position().toPoint())) emit Click();
+  if (rect().contains(evento->position().toPoint())) Q_EMIT Click();
 }
 
-void xpgroupbox::mouseDoubleClickEvent(QMouseEvent*) { emit DblClick(); }
+void xpgroupbox::mouseDoubleClickEvent(QMouseEvent*) { Q_EMIT DblClick(); }
 
 void xpgroupbox::changeEvent(QEvent* evento) {
   if (evento->type() == QEvent::FontChange || evento->type() == QEvent::StyleChange) disponi();

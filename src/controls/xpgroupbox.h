@@ -26,7 +26,7 @@ class xpgroupbox : public QWidget {
 
   [[nodiscard]] QSize minimumSizeHint() const override;
 
- signals:
+ Q_SIGNALS:
   void Click();
   void DblClick();
 

@@ -20,8 +20,8 @@ xpradiobutton::xpradiobutton(QWidget* parent) : ControlloDisegnato(parent) {
   installaAccessibilita();
   setCheckable(true);
   setForegroundRole(QPalette::WindowText);
-  stato_.MouseOut = [this] { emit MouseOut(); };
-  stato_.Click = [this] { emit Click(); };
+  stato_.MouseOut = [this] { Q_EMIT MouseOut(); };
+  stato_.Click = [this] { Q_EMIT Click(); };
   stato_.ValueChanged = [this](bool value) { setChecked(value); };
   stato_.opzioniDellaFinestra = [this] { return opzioniDellaFinestra(); };
   connect(this, &QAbstractButton::toggled, this, [this](bool acceso) { setValue(acceso); });

@@ -51,7 +51,9 @@ void CampoTestoVista::aggiorna() {
   if (maschera != maschera_) {
     maschera_ = maschera;
     // "##": as many digits at most, a blank where there is none.
-    setInputMask(maschera.isEmpty() ? QString() : QString(maschera).replace('#', '0') + QStringLiteral("; "));
+    setInputMask(maschera.isEmpty()
+                     ? QString()
+                     : QString(maschera).replace(QLatin1Char('#'), QLatin1Char('0')) + QStringLiteral("; "));
   }
   const auto testo = QString::fromStdString(modello_.Text());
   if (displayText() != testo) setText(testo);
