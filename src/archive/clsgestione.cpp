@@ -1,6 +1,7 @@
 #include "archive/clsgestione.h"
 
 #include "archive/ruota.h"
+#include "platform/blocco.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"
 
@@ -13,12 +14,20 @@ constexpr std::uint8_t kSecoloDiOgniSalvataggio = 20;
 int ruotaDelCampo(int f) { return 1 + f / ArchivioEstrazioni::Colonne; }
 int posizioneDelCampo(int f) { return 1 + f % ArchivioEstrazioni::Colonne; }
 
+void mostra(FinestraEstrazione& frm, const ArchivioEstrazioni& archivio, int n) {
+  frm.lbldataestr_Caption(archivio.DataEstrazione(n));
+  frm.lblnestr_Caption(std::to_string(n));
+  for (int f = 0; f < kCampiEstrazione; ++f)
+    frm.txtestr_Mostra(f, std::to_string(archivio(n, ruotaDelCampo(f), posizioneDelCampo(f))));
+}
+
 }  // namespace
 
 clsGestione::clsGestione(const CartellaProgramma& cartella, Servizi& servizi)
     : cartella_(cartella), servizi_(servizi), archivio_(ApriArchivio(cartella)) {}
 
 int clsGestione::salva(FinestraEstrazione& frm, std::optional<int> n) {
+  const BloccoCartella blocco(cartella_.radice());
   auto archivio = ApriArchivio(cartella_);
   std::optional<Data> data;
   if (n) {
@@ -41,15 +50,10 @@ int clsGestione::salva(FinestraEstrazione& frm, std::optional<int> n) {
   return *n;
 }
 
-void clsGestione::Visualizza(FinestraEstrazione& frm, int n) {
-  const auto archivio = ApriArchivio(cartella_);
-  frm.lbldataestr_Caption(archivio.DataEstrazione(n));
-  frm.lblnestr_Caption(std::to_string(n));
-  for (int f = 0; f < kCampiEstrazione; ++f)
-    frm.txtestr_Mostra(f, std::to_string(archivio(n, ruotaDelCampo(f), posizioneDelCampo(f))));
-}
+void clsGestione::Visualizza(FinestraEstrazione& frm, int n) { mostra(frm, ApriArchivio(cartella_), n); }
 
 void clsGestione::cancella(FinestraEstrazione& frm, std::int16_t n) {
+  std::optional<BloccoCartella> blocco(std::in_place, cartella_.radice());
   auto archivio = ApriArchivio(cartella_);
   const int libero = archivio.PrimoIndiceLibero();
   // Rows 0 to 10 move down. Row 11, the Nazionale, stays: each later draw takes that of the draw before it.
@@ -58,8 +62,10 @@ void clsGestione::cancella(FinestraEstrazione& frm, std::int16_t n) {
     for (int j = 0; j < kRuote; ++j)
       for (int k = 1; k <= ArchivioEstrazioni::Colonne; ++k) archivio(r, j, k) = archivio(r + 1, j, k);
   ScriviArchivio(cartella_, archivio);
+  blocco.reset();
+  // What is shown is the grid that was written: the draw is gone, and no second reading can fail to say so.
   frm.VScroll1_Max(libero - 1);
-  clsGestione(cartella_, servizi_).Visualizza(frm, n);
+  mostra(frm, archivio, n);
 }
 
 void clsGestione::Trova(FinestraEstrazione& frm, int giorno, int mese, int secolo, int anno) {

@@ -57,7 +57,8 @@ class clsGestione {
   /// Shows slot n, a free one too (0/0/000 and zeros). Failure 9 outside the grid.
   void Visualizza(FinestraEstrazione& frm, int n);
 
-  /// Removes draw n and closes the gap; the Nazionale row stays where it is.
+  /// Removes draw n and closes the gap; the Nazionale row stays where it is. Then shows what has the number n
+  /// now.
   void cancella(FinestraEstrazione& frm, std::int16_t n);
 
   /// Finds a draw by four walks that never go back, shows it and moves the scroll bar. A walk off the grid

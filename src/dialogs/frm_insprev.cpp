@@ -1,6 +1,9 @@
 #include "dialogs/frm_insprev.h"
 
+#include <optional>
+
 #include "forms/controlli_metodo.h"
+#include "platform/blocco.h"
 #include "platform/failure.h"
 #include "platform/testo.h"
 
@@ -100,6 +103,7 @@ void frmInsPrev::btnElimina_Click() {
       {"Sicuro di eliminare la previsione?", "Attenzione", Genere::Domanda, Icona::Nessuna, Risposta::No});
   if (risposta != Risposta::Si) return;
   try {
+    std::optional<BloccoCartella> blocco(std::in_place, programma_.cartella.radice());
     const auto origine = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
     FileMetodo destinazione;
     const int eliminato = cmbPrevisione.ItemDataScelta();
@@ -112,6 +116,7 @@ void frmInsPrev::btnElimina_Click() {
     for (int slot = eliminato + 1; slot <= kUltimoSlotDaSpostare; ++slot) copia(slot, slot - 1);
     // Never reached with a grid of ten slots: in this program a delete ends in its failure message. Meant.
     ScriviMetodo(programma_.cartella, cmbMetodo.Text(), destinazione);
+    blocco.reset();
     programma_.servizi.mostra({"Previsione Eliminata!", ""});
     cornice().riapri(*this);
   } catch (const RuntimeFailure&) {

@@ -1,4 +1,5 @@
 #include "dialogs/frm_insprev.h"
+#include "platform/blocco.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"
 #include "platform/testo.h"
@@ -17,6 +18,7 @@ bool frmInsPrev::salva() {
     if (!programma_.cartella.esisteMetodo(cmbMetodo.Text()))
       return rifiuta("Non esiste il file del metodo selezionato!", Icona::Nessuna);
 
+    const BloccoCartella blocco(programma_.cartella.radice());
     auto metodo = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
     int slot = 0;
     if (programma_.globals.PrevisioneInModifica) {
@@ -25,7 +27,7 @@ bool frmInsPrev::salva() {
         for (int pos = 1; pos <= FileMetodo::Posizioni; ++pos) metodo(slot, campo, pos) = 0;
     } else {
       slot = primoSlotLibero(metodo);
-      if (slot == 0) return rifiuta("Il metodo contiene già dieci previsioni!");
+      if (slot == 0) throw RifiutoPrevisione("Il metodo contiene già dieci previsioni!");
     }
 
     const auto data = dataDaTesto(estrazione.lbldataestr.Caption());

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <ostream>
 #include <random>
 
 #include "archive/regole.h"
 #include "archive/ruota.h"
 #include "methods/testi_campi.h"
+#include "platform/blocco.h"
 
 namespace vaticlo {
 
@@ -101,8 +103,7 @@ std::vector<PrevisioneInventata> previsioniMetodo2(const Inventore& i) {
   };
 }
 
-void scriviPrevisioni(const Programma& programma, const std::string& nome, const ArchivioEstrazioni& archivio,
-                      const std::vector<PrevisioneInventata>& previsioni) {
+FileMetodo metodoCon(const ArchivioEstrazioni& archivio, const std::vector<PrevisioneInventata>& previsioni) {
   FileMetodo metodo;
   int slot = 0;
   for (const auto& previsione : previsioni) {
@@ -110,31 +111,38 @@ void scriviPrevisioni(const Programma& programma, const std::string& nome, const
                      dataDaTesto(archivio.DataEstrazione(previsione.estrazione)).value());
     scriviTesti(metodo, slot, previsione.testi);
   }
-  ScriviMetodo(programma.cartella, nome, metodo);
+  return metodo;
 }
 
-bool giaInUso(const Programma& programma) {
-  if (ApriArchivio(programma.cartella).PrimoIndiceLibero() > 1) return true;
-  for (const char* nome : {"Metodo 1", "Metodo 2"})
-    if (LeggiMetodo(programma.cartella, nome).EstrazioneCalcolo(1) != 0) return true;
-  return false;
+// The archive is written last. Until then a method may hold the predictions of a demonstration that was
+// stopped half-way, and this one ends it.
+bool scrivi(const CartellaProgramma& cartella, const ArchivioEstrazioni& archivio,
+            const std::map<std::string, FileMetodo>& metodi) {
+  const BloccoCartella blocco(cartella.radice());
+  if (ApriArchivio(cartella).PrimoIndiceLibero() > 1) return false;
+  for (const auto& [nome, nuovo] : metodi) {
+    const auto metodo = LeggiMetodo(cartella, nome);
+    if (metodo.EstrazioneCalcolo(1) != 0 && !std::ranges::equal(metodo.ottetti(), nuovo.ottetti()))
+      return false;
+  }
+  for (const auto& [nome, nuovo] : metodi) ScriviMetodo(cartella, nome, nuovo);
+  ScriviArchivio(cartella, archivio);
+  return true;
 }
 
 }  // namespace
 
 void creaDimostrazione(Programma& programma, std::ostream& uscita) {
-  if (giaInUso(programma)) {
+  const auto archivio = inventaEstrazioni();
+  const Inventore inventore(archivio);
+  const auto metodo1 = previsioniMetodo1(inventore), metodo2 = previsioniMetodo2(inventore);
+  if (!scrivi(programma.cartella, archivio,
+              {{"Metodo 1", metodoCon(archivio, metodo1)}, {"Metodo 2", metodoCon(archivio, metodo2)}})) {
     programma.servizi.mostra(
         {"La cartella contiene già estrazioni o previsioni: la dimostrazione non le tocca.", "Attenzione",
          Genere::Rifiuto});
     return;
   }
-  const auto archivio = inventaEstrazioni();
-  const Inventore inventore(archivio);
-  const auto metodo1 = previsioniMetodo1(inventore), metodo2 = previsioniMetodo2(inventore);
-  scriviPrevisioni(programma, "Metodo 1", archivio, metodo1);
-  scriviPrevisioni(programma, "Metodo 2", archivio, metodo2);
-  ScriviArchivio(programma.cartella, archivio);
   uscita << "Create " << kEstrazioni << " estrazioni, dal " << archivio.DataEstrazione(1) << " al "
          << archivio.DataEstrazione(kEstrazioni) << ", e " << metodo1.size() + metodo2.size()
          << " previsioni in \"Metodo 1\" e \"Metodo 2\".\n"

@@ -6,7 +6,9 @@
 #include <string_view>
 
 #include "methods/metodo.h"
+#include "platform/blocco.h"
 #include "platform/failure.h"
+#include "platform/file_intero.h"
 #include "platform/testo.h"
 
 namespace vaticlo {
@@ -34,54 +36,66 @@ bool nomeDiFile(const std::string& nome) {
   return std::find(kRiservati.begin(), kRiservati.end(), radice) == kRiservati.end();
 }
 
+/// Why a name or a method is refused, as it is shown.
+struct Rifiuto {
+  std::string testo;
+};
+
 }  // namespace
 
 bool GestioneMetodi::crea(const std::string& nome) {
-  const std::string pulito(senzaBlanchi(nome));
-  if (!nomeAmmesso(pulito)) return false;
-  ScriviMetodo(programma_.cartella, pulito, FileMetodo{});
-  return true;
+  return inUnPasso([&] {
+    const std::string pulito(senzaBlanchi(nome));
+    richiediAmmesso(pulito);
+    scriviFile(programma_.cartella.metodo(pulito), FileMetodo{}.ottetti(), Scrittura::Nuova);
+  });
 }
 
 bool GestioneMetodi::rinomina(const std::string& nome, const std::string& nuovo) {
-  const std::string pulito(senzaBlanchi(nuovo));
-  if (!esiste(nome) || !nomeAmmesso(pulito, std::string(senzaBlanchi(nome)))) return false;
-  std::error_code codice;
-  fs::rename(programma_.cartella.metodo(nome), programma_.cartella.metodo(pulito), codice);
-  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nome);
-  return true;
+  return inUnPasso([&] {
+    const std::string pulito(senzaBlanchi(nuovo));
+    richiediEsistente(nome);
+    richiediAmmesso(pulito, std::string(senzaBlanchi(nome)));
+    rinominaFile(programma_.cartella.metodo(nome), programma_.cartella.metodo(pulito));
+  });
 }
 
 bool GestioneMetodi::elimina(const std::string& nome) {
-  if (!esiste(nome)) return false;
-  std::error_code codice;
-  fs::remove(programma_.cartella.metodo(nome), codice);
-  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nome);
-  return true;
+  return inUnPasso([&] {
+    richiediEsistente(nome);
+    std::error_code codice;
+    fs::remove(programma_.cartella.metodo(nome), codice);
+    if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nome);
+  });
+}
+
+// A refusal is told when the folder is free again: while somebody reads it, other programs may write.
+bool GestioneMetodi::inUnPasso(const std::function<void()>& passo) {
+  try {
+    const BloccoCartella blocco(programma_.cartella.radice());
+    passo();
+    return true;
+  } catch (const Rifiuto& rifiuto) {
+    programma_.servizi.mostra({rifiuto.testo, "Attenzione", Genere::Rifiuto, Icona::Esclamazione});
+    return false;
+  }
 }
 
 // `tranne`: the name that a rename gives up, so that only its upper and lower case may change.
-bool GestioneMetodi::nomeAmmesso(const std::string& nome, const std::string& tranne) {
-  if (nome.empty()) return rifiuta("Bisogna indicare il nome del metodo!");
-  if (!nomeDiFile(nome)) return rifiuta("Il nome \"" + nome + "\" non può essere quello di un file!");
+void GestioneMetodi::richiediAmmesso(const std::string& nome, const std::string& tranne) const {
+  if (nome.empty()) throw Rifiuto{"Bisogna indicare il nome del metodo!"};
+  if (!nomeDiFile(nome)) throw Rifiuto{"Il nome \"" + nome + "\" non può essere quello di un file!"};
   if (maiuscolo(nome).find(maiuscolo(kEstensione)) != std::string::npos)
-    return rifiuta("Il nome del metodo non può contenere \".dat\"!");
+    throw Rifiuto{"Il nome del metodo non può contenere \".dat\"!"};
   const auto cercato = maiuscolo(nome + std::string(kEstensione));
   const auto ceduto = tranne + std::string(kEstensione);
   for (const auto& file : programma_.cartella.elencaMetodi())
     if (maiuscolo(file) == cercato && file != ceduto)
-      return rifiuta("Esiste già un metodo con il nome \"" + nome + "\"!");
-  return true;
+      throw Rifiuto{"Esiste già un metodo con il nome \"" + nome + "\"!"};
 }
 
-bool GestioneMetodi::esiste(const std::string& nome) {
-  if (programma_.cartella.esisteMetodo(nome)) return true;
-  return rifiuta("Non esiste il file del metodo selezionato!");
-}
-
-bool GestioneMetodi::rifiuta(const std::string& testo) {
-  programma_.servizi.mostra({testo, "Attenzione", Genere::Rifiuto, Icona::Esclamazione});
-  return false;
+void GestioneMetodi::richiediEsistente(const std::string& nome) const {
+  if (!programma_.cartella.esisteMetodo(nome)) throw Rifiuto{"Non esiste il file del metodo selezionato!"};
 }
 
 }  // namespace vaticlo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "program/programma.h"
@@ -18,9 +19,9 @@ class GestioneMetodi {
   bool elimina(const std::string& nome);
 
  private:
-  [[nodiscard]] bool nomeAmmesso(const std::string& nome, const std::string& tranne = {});
-  [[nodiscard]] bool esiste(const std::string& nome);
-  bool rifiuta(const std::string& testo);
+  bool inUnPasso(const std::function<void()>& passo);
+  void richiediAmmesso(const std::string& nome, const std::string& tranne = {}) const;
+  void richiediEsistente(const std::string& nome) const;
 
   Programma& programma_;
 };

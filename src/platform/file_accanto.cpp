@@ -73,15 +73,7 @@ bool FileAccanto::prendiIlPosto(bool vecchio, const BloccoCartella& cartella) co
   return true;
 }
 
-void FileAccanto::prendiPostoLibero(const BloccoCartella& cartella) const {
-  rinominaFile(percorso_, destinazione_);
-  try {
-    cartella.sincronizza();
-  } catch (const RuntimeFailure&) {
-    ::unlink(destinazione_.c_str());
-    throw;
-  }
-}
+void FileAccanto::prendiPostoLibero() const { rinominaFile(percorso_, destinazione_); }
 
 int FileAccanto::muovi(unsigned modo) const {
   return ::renameat2(AT_FDCWD, percorso_.c_str(), AT_FDCWD, destinazione_.c_str(), modo) == 0 ? 0 : errno;

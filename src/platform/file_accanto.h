@@ -30,7 +30,7 @@ class FileAccanto {
   /// back, where the file system can exchange two files.
   [[nodiscard]] bool prendiIlPosto(bool vecchio, const BloccoCartella& cartella) const;
   /// The same where there must be no file: failure 58 when there is one.
-  void prendiPostoLibero(const BloccoCartella& cartella) const;
+  void prendiPostoLibero() const;
 
  private:
   /// 0 or an errno.

@@ -33,7 +33,8 @@ void scriviFile(const std::filesystem::path& percorso, std::span<const std::uint
                 Scrittura come = Scrittura::Griglia);
 
 /// Gives a file another name, where there is no file yet: failure 58 when there is one. A name that leads to
-/// the same file (upper and lower case, on some file systems) is taken. Failure 75 and the like otherwise.
+/// the same file (upper and lower case, on some file systems) is taken. The new name is on the disk when it
+/// comes back. Failure 53, 57, 61, 70 or 75: the file then has its old name.
 void rinominaFile(const std::filesystem::path& percorso, const std::filesystem::path& nuovo);
 
 /// The whole content of a file that must exist: failure 53 when it does not. A pipe or a device is read to

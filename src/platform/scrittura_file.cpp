@@ -29,6 +29,8 @@ fs::path dietroILink(fs::path percorso) {
   return percorso;
 }
 
+fs::path cartellaDi(const fs::path& file) { return file.has_parent_path() ? file.parent_path() : "."; }
+
 // Nothing when there is none. One that may not be written is not replaced either.
 std::optional<Descrittore> apriVecchio(const fs::path& percorso) {
   try {
@@ -100,7 +102,7 @@ void scriviSulPosto(const Descrittore& file, std::string_view dati, bool intera,
 void scriviFile(const fs::path& percorso, std::span<const std::uint8_t> ottetti, Scrittura come) {
   const std::string_view dati(reinterpret_cast<const char*>(ottetti.data()), ottetti.size());
   const auto file = dietroILink(percorso);
-  const auto cartella = file.has_parent_path() ? file.parent_path() : fs::path(".");
+  const auto cartella = cartellaDi(file);
   const BloccoCartella blocco(cartella);
   const auto vecchio = apriVecchio(file);
   if (vecchio && come == Scrittura::Nuova)
@@ -115,29 +117,30 @@ void scriviFile(const fs::path& percorso, std::span<const std::uint8_t> ottetti,
     accanto.scrivi(dati);
     if (coda > 0) accanto.scrivi(leggiPezzo(*vecchio, dati.size(), coda, file));
     accanto.finisci();
-    if (come == Scrittura::Nuova) return accanto.prendiPostoLibero(blocco);
+    if (come == Scrittura::Nuova) return accanto.prendiPostoLibero();
     if (accanto.prendiIlPosto(vecchio.has_value(), blocco)) return;
   }
   scriviSulPosto(*vecchio, dati, come == Scrittura::Intera, file);
 }
 
 void rinominaFile(const fs::path& percorso, const fs::path& nuovo) {
-  const auto esito = [](int risultato) { return risultato == 0 ? 0 : errno; };
-  const char *da = percorso.c_str(), *a = nuovo.c_str();
+  const BloccoCartella blocco(cartellaDi(nuovo));
+  const auto muovi = [&](unsigned modo) {
+    return ::renameat2(AT_FDCWD, percorso.c_str(), AT_FDCWD, nuovo.c_str(), modo) == 0 ? 0 : errno;
+  };
   std::error_code ignorato;
-  int codice = esito(::renameat2(AT_FDCWD, da, AT_FDCWD, a, RENAME_NOREPLACE));
-  if (codice == EEXIST && fs::equivalent(percorso, nuovo, ignorato)) {
-    codice = esito(::rename(da, a));
-  } else if (codice == EINVAL || codice == ENOSYS) {
-    // A second name covers no file either, on a file system that knows no such step.
-    codice = esito(::link(da, a));
-    if (codice == 0)
-      codice = esito(::unlink(da));
-    else if (codice != EEXIST)
-      codice = fs::exists(nuovo, ignorato) ? EEXIST : esito(::rename(da, a));
-  }
+  int codice = muovi(RENAME_NOREPLACE);
+  // A system that knows no such step: no other program makes the file while this one holds the folder.
+  if (codice == EINVAL || codice == ENOSYS) codice = fs::exists(nuovo, ignorato) ? EEXIST : muovi(0);
+  if (codice == EEXIST && fs::equivalent(percorso, nuovo, ignorato)) codice = muovi(0);
   if (codice == EEXIST) throw RuntimeFailure(Errore::FileEsistente, nuovo.filename().string());
   if (codice != 0) throw failureDiSistema(codice, percorso);
+  try {
+    blocco.sincronizza();
+  } catch (const RuntimeFailure&) {
+    ::rename(nuovo.c_str(), percorso.c_str());
+    throw;
+  }
 }
 
 }  // namespace vaticlo
