@@ -53,7 +53,7 @@ class Lettore {
     const Data data{std::chrono::year{a}, std::chrono::month{static_cast<unsigned>(m)},
                     std::chrono::day{static_cast<unsigned>(g)}};
     if (a < 1800 || a > 2099 || m < 1 || g < 1 || !data.ok())
-      errore("\"" + std::string(testo) + "\" non è una data valida");
+      errore("\"" + citazione(testo) + "\" non è una data valida");
     if (estrazioni_ > 0 && data < data_) errore("la data è precedente a quella della riga prima");
     if (estrazioni_ > 0 && data == data_) return;
     if (estrazioni_ == kMassimoEstrazioni)
@@ -69,7 +69,7 @@ class Lettore {
 
   int prendiRuota(std::string_view sigla) {
     const auto posto = std::find(kSiglePubbliche.begin(), kSiglePubbliche.end(), sigla);
-    if (posto == kSiglePubbliche.end()) errore("ruota sconosciuta \"" + std::string(sigla) + "\"");
+    if (posto == kSiglePubbliche.end()) errore("ruota sconosciuta \"" + citazione(sigla) + "\"");
     const auto indice = static_cast<std::size_t>(posto - kSiglePubbliche.begin());
     if (ruote_[indice]) errore("la ruota " + std::string(sigla) + " è ripetuta nella stessa estrazione");
     ruote_.set(indice);
@@ -78,7 +78,7 @@ class Lettore {
 
   std::uint8_t prendiNumero(std::string_view testo, int ruota, int k) const {
     const int valore = testo.size() > 2 ? -1 : numero(testo);
-    if (valore < 1 || valore > 90) errore("\"" + std::string(testo) + "\" non è un numero da 1 a 90");
+    if (valore < 1 || valore > 90) errore("\"" + citazione(testo) + "\" non è un numero da 1 a 90");
     for (int prima = 1; prima < k; ++prima)
       if (archivio_(estrazioni_, ruota, prima) == valore)
         errore("il numero " + std::to_string(valore) + " è ripetuto nella stessa ruota");
@@ -95,6 +95,8 @@ class Lettore {
 }  // namespace
 
 ArchivioEstrazioni importaEstrazioni(std::string_view testo, const std::function<void(int)>& avanzamento) {
+  if (inUtf16(testo)) throw ErroreImportazione("il file è in UTF-16: va salvato in UTF-8");
+  testo = senzaMarca(testo);
   if (testo.empty()) throw ErroreImportazione(1, "il file è vuoto");
   Lettore lettore;
   const auto tutto = testo.size();

@@ -16,6 +16,7 @@ clsMetodo::clsMetodo(Programma& programma, SceltaVerifica scelta)
   g_.ContaGiocabili = 0;
   g_.ContaVincenti = 0;
   g_.ContaInGioco = 0;
+  g_.RapportiIncompleti.clear();
 }
 
 void clsMetodo::ricerca([[maybe_unused]] int estrazione) {
@@ -27,7 +28,9 @@ void clsMetodo::ricerca([[maybe_unused]] int estrazione) {
   }
 }
 
-void clsMetodo::rilascia() { rapporto_.chiudi(); }
+void clsMetodo::rilascia() {
+  if (!rapporto_.concludi()) g_.RapportiIncompleti.push_back(rapporto_.nome());
+}
 
 void clsMetodo::ScorriMetodi() {
   g_.ElencoMetodi = CaricaElencoMetodi(programma_.cartella, scelta_.metodo);

@@ -32,8 +32,8 @@ class clsMetodo : private EsitoColpo {
   /// values, and the caller goes on as after a normal run.
   void ricerca(int estrazione);
 
-  /// Closes the report. Only then are report and counters final. Failure 61 or 57 when the disk does not take
-  /// it.
+  /// Closes the report. Only then are report and counters final. A report that the disk did not take whole
+  /// is noted in Globals; a failing write ends no run, the last one neither.
   void rilascia();
 
   [[nodiscard]] std::string get_data(int estrazione) const { return archivio_.DataEstrazione(estrazione); }

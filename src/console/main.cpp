@@ -11,11 +11,7 @@ int main(int argc, char* argv[]) {
   // A limit on the size of files shows as a write that fails, not as the end of the process.
   std::signal(SIGXFSZ, SIG_IGN);
   try {
-    vaticlo::Sessione sessione;
-    const int esito = sessione.esegui(std::vector<std::string>(argv + 1, argv + argc));
-    std::cout.flush();
-    if (std::cout) return esito;
-    std::cerr << "Errore di run-time 61: lo standard output non accetta altro testo\n";
+    return vaticlo::Sessione().esegui(std::vector<std::string>(argv + 1, argv + argc));
   } catch (const std::exception& eccezione) {
     const vaticlo::RuntimeFailure failure(vaticlo::Errore::ErroreInterno, eccezione.what());
     std::cerr << "Errore di run-time " << failure.numero() << ": " << failure.what() << '\n';

@@ -2,11 +2,12 @@
 
 namespace vaticlo {
 
-std::optional<std::vector<std::string>> paroleDellaRiga(std::string_view riga) {
-  std::vector<std::string> parole;
+ParoleDellaRiga paroleDellaRiga(std::string_view riga) {
+  ParoleDellaRiga letta;
+  auto& parole = letta.parole;
   if (riga.ends_with('\r')) riga.remove_suffix(1);
   const auto inizio = riga.find_first_not_of(" \t");
-  if (inizio == std::string_view::npos || riga[inizio] == '#') return parole;
+  if (inizio == std::string_view::npos || riga[inizio] == '#') return letta;
 
   bool nellaParola = false;
   char virgolette = 0;
@@ -27,7 +28,7 @@ std::optional<std::vector<std::string>> paroleDellaRiga(std::string_view riga) {
     } else if (c == '\\' && virgolette != '\'') {
       // Within double quotes a backslash is one, except in front of what ends or escapes them.
       const bool segue = i + 1 < riga.size();
-      if (!segue) return std::nullopt;
+      if (!segue) return {{}, "finisce con una barra rovesciata: un comando sta su una riga sola"};
       const char prossimo = riga[i + 1];
       if (virgolette == '"' && std::string_view("\"\\$`").find(prossimo) == std::string_view::npos) {
         parola += c;
@@ -39,9 +40,9 @@ std::optional<std::vector<std::string>> paroleDellaRiga(std::string_view riga) {
       parola += c;
     }
   }
-  if (virgolette != 0) return std::nullopt;
+  if (virgolette != 0) return {{}, "virgolette non chiuse"};
   if (nellaParola) parole.push_back(std::move(parola));
-  return parole;
+  return letta;
 }
 
 }  // namespace vaticlo

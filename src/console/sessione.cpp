@@ -1,16 +1,10 @@
 #include "console/sessione.h"
 
-#include <algorithm>
-#include <cmath>
 #include <filesystem>
 #include <iostream>
 
-#include <CLI/CLI.hpp>
-
-#include "console/messaggi_uso.h"
-#include "platform/conversione.h"
+#include "console/riga_di_comando.h"
 #include "platform/failure.h"
-#include "platform/file_intero.h"
 
 namespace vaticlo {
 
@@ -18,15 +12,26 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr double kMassimoIntero = 1e9;
-
 fs::path cartellaEseguibile() { return fs::read_symlink("/proc/self/exe").parent_path(); }
+
+// The status of a command whose own text may not have reached the standard output. What is stored is stored:
+// whoever were told of an error would store it twice.
+Esito dopoLaStampa(const Comando& comando, Esito esito) {
+  std::cout.flush();
+  if (std::cout) return esito;
+  if (comando.scrive && esito == kFatto) {
+    std::cerr << "Fatto, ma lo standard output non accetta il testo che lo dice.\n";
+    return esito;
+  }
+  std::cerr << "Errore di run-time 61: lo standard output non accetta altro testo\n";
+  return kErrore;
+}
 
 }  // namespace
 
 Programma& Sessione::programma() {
   if (!programma_) {
-    programma_.emplace(cartella_.empty() ? cartellaEseguibile() : fs::path(cartella_), servizi);
+    programma_.emplace(cartella_ ? fs::path(*cartella_) : cartellaEseguibile(), servizi);
     // A folder that can't be made shows itself in the first file that is opened in it.
     std::error_code ignorato;
     fs::create_directories(programma_->cartella.metodi(), ignorato);
@@ -34,68 +39,41 @@ Programma& Sessione::programma() {
   return *programma_;
 }
 
-int Sessione::esegui(std::vector<std::string> parole) {
-  return esegui(std::move(parole), Luogo::RigaDiComando, "");
+void Sessione::controllaCartella(const Comando& comando) const {
+  if (!cartella_) return;
+  if (cartella_->empty()) throw UsoErrato("--cartella è vuota: va indicata la cartella del programma");
+  std::error_code ignorato;
+  if (!comando.creaCartella && !fs::is_directory(*cartella_, ignorato))
+    throw UsoErrato("la cartella \"" + *cartella_ +
+                    "\" non esiste; la creano importa, inserisci, metodo crea e dimostrazione");
 }
 
-int Sessione::eseguiRiga(std::vector<std::string> parole, int riga) {
-  return esegui(std::move(parole), Luogo::File, "riga " + std::to_string(riga) + ": ");
+Esito Sessione::esegui(const std::vector<std::string>& parole) {
+  RigaDiComando righe(RigaDiComando::Luogo::Terminale);
+  return esegui(righe, parole, "");
 }
 
-int Sessione::esegui(std::vector<std::string> parole, Luogo luogo, const std::string& davanti) {
-  CLI::App app("Archivio del Lotto, previsioni, verifiche e statistiche.", "vaticlo-cli");
-  parlaItaliano(app);
-  app.require_subcommand(1);
-  if (luogo == Luogo::RigaDiComando)
-    app.add_option("--cartella", cartella_, "Cartella del programma (altrimenti quella dell'eseguibile)")
-        ->type_name("DIR");
-  aggiungiImporta(app, *this);
-  aggiungiComandiArchivio(app, *this);
-  aggiungiSomdif(app, *this);
-  aggiungiComandiMetodi(app, *this);
-  aggiungiComandiPrevisioni(app, *this);
-  aggiungiVerifica(app, *this);
-  aggiungiStatistica(app, *this);
-  aggiungiComandiRapporti(app, *this);
-  aggiungiDimostrazione(app, *this);
-  if (luogo == Luogo::RigaDiComando) aggiungiEsegui(app, *this);
-  parlaItalianoAiuto(app);
-
-  esito = kFatto;
+Esito Sessione::esegui(RigaDiComando& righe, const std::vector<std::string>& parole,
+                       const std::string& davanti) {
   servizi.dimentica();
   try {
-    std::reverse(parole.begin(), parole.end());
-    app.parse(std::move(parole));
-    if (servizi.rifiutato() && esito == kFatto) esito = kRifiutato;
-  } catch (const CLI::CallForHelp&) {
-    std::cout << app.help();
-  } catch (const CLI::ParseError& errore) {
-    std::cerr << davanti << spiegaErrore(app, errore) << '\n';
-    esito = kUsoErrato;
+    const auto ordine = righe.leggi(parole);
+    if (ordine.comando == nullptr) {
+      std::cout << ordine.testo;
+      return dopoLaStampa({}, kFatto);
+    }
+    if (ordine.cartella) cartella_ = ordine.cartella;
+    controllaCartella(*ordine.comando);
+    const auto esito = ordine.comando->fai(*this, ordine.argomenti);
+    return dopoLaStampa(*ordine.comando, esito == kFatto && servizi.rifiutato() ? kRifiutato : esito);
   } catch (const UsoErrato& errore) {
     std::cerr << davanti << errore.what() << '\n';
-    esito = kUsoErrato;
+    return kUsoErrato;
   } catch (const RuntimeFailure& failure) {
     std::cout.flush();
     std::cerr << "Errore di run-time " << failure.numero() << ": " << failure.what() << '\n';
-    esito = kErrore;
+    return kErrore;
   }
-  return esito;
-}
-
-std::string leggiTesto(const std::string& file) {
-  try {
-    return contenutoFile(file);
-  } catch (const RuntimeFailure& failure) {
-    throw UsoErrato("non si può leggere \"" + file + "\": " + descrizione(failure.errore()));
-  }
-}
-
-int numeroIntero(const std::string& testo, const std::string& nome) {
-  const auto numero = numeroDaTesto(testo);
-  if (!numero || std::abs(*numero) > kMassimoIntero || *numero != std::trunc(*numero))
-    throw UsoErrato(nome + " deve essere un numero intero, non \"" + testo + "\"");
-  return static_cast<int>(*numero);
 }
 
 }  // namespace vaticlo

@@ -24,7 +24,7 @@ constexpr std::array<std::string_view, 22> kRiservati = {
     "COM8", "COM9", "LPT1", "LPT2", "LPT3", "LPT4", "LPT5", "LPT6", "LPT7", "LPT8", "LPT9"};
 
 bool nomeDiFile(const std::string& nome) {
-  if (nome.empty() || nome.size() > kMassimoOttetti) return false;
+  if (nome.empty() || nome.size() > kMassimoOttetti || !formaDiConfronto(nome)) return false;
   if (nome.front() == '.' || nome.back() == '.') return false;
   const auto vietato = [](char c) {
     const auto ottetto = static_cast<unsigned char>(c);
@@ -81,16 +81,17 @@ bool GestioneMetodi::inUnPasso(const std::function<void()>& passo) {
   }
 }
 
-// `tranne`: the name that a rename gives up, so that only its upper and lower case may change.
+// `tranne`: the name that a rename gives up, so that its upper and lower case
+// or its accents may change.
 void GestioneMetodi::richiediAmmesso(const std::string& nome, const std::string& tranne) const {
   if (nome.empty()) throw Rifiuto{"Bisogna indicare il nome del metodo!"};
   if (!nomeDiFile(nome)) throw Rifiuto{"Il nome \"" + nome + "\" non può essere quello di un file!"};
   if (maiuscolo(nome).find(maiuscolo(kEstensione)) != std::string::npos)
     throw Rifiuto{"Il nome del metodo non può contenere \".dat\"!"};
-  const auto cercato = maiuscolo(nome + std::string(kEstensione));
+  const auto cercato = formaDiConfronto(nome + std::string(kEstensione));
   const auto ceduto = tranne + std::string(kEstensione);
   for (const auto& file : programma_.cartella.elencaMetodi())
-    if (maiuscolo(file) == cercato && file != ceduto)
+    if (formaDiConfronto(file) == cercato && file != ceduto)
       throw Rifiuto{"Esiste già un metodo con il nome \"" + nome + "\"!"};
 }
 

@@ -12,22 +12,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::uintmax_t kMassimoOttetti = std::uintmax_t{64} << 20;  // a full archive has some 5 MB of text
 constexpr const char* kTitolo = "Importa Estrazioni da File";
 constexpr const char* kLavoro = "Importazione delle estrazioni in corso...";
-
-std::string leggi(const fs::path& file) {
-  std::error_code codice;
-  if (fs::file_size(file, codice) > kMassimoOttetti && !codice)
-    throw ErroreImportazione("il file è troppo grande per contenere estrazioni");
-  return contenutoFile(file);
-}
 
 std::optional<ArchivioEstrazioni> importa(Servizi& servizi, const fs::path& file) {
   std::string motivo;
   try {
-    return importaEstrazioni(leggi(file),
-                             [&servizi](int percento) { servizi.avanzamento(kLavoro, percento); });
+    return leggiEstrazioni(file, [&servizi](int percento) { servizi.avanzamento(kLavoro, percento); });
   } catch (const ErroreImportazione& errore) {
     motivo = errore.what();
   } catch (const RuntimeFailure& failure) {
@@ -41,6 +32,10 @@ std::optional<ArchivioEstrazioni> importa(Servizi& servizi, const fs::path& file
 }
 
 }  // namespace
+
+ArchivioEstrazioni leggiEstrazioni(const fs::path& file, const std::function<void(int)>& avanzamento) {
+  return importaEstrazioni(testoFornito(file), avanzamento);
+}
 
 void importaEstrazioniDaFile(Programma& programma) {
   auto& servizi = programma.servizi;

@@ -14,6 +14,8 @@ std::string descrizione(Errore errore) {
       return "divisione per zero";
     case Errore::TipoNonCorrispondente:
       return "il testo non è un numero o una data";
+    case Errore::TestoTroppoLungo:
+      return "il testo è più lungo di 64 MiB";
     case Errore::ErroreInterno:
       return "errore interno";
     case Errore::NomeFile:

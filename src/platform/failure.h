@@ -12,6 +12,7 @@ enum class Errore {
   Indice = 9,
   DivisionePerZero = 11,
   TipoNonCorrispondente = 13,
+  TestoTroppoLungo = 14,
   ErroreInterno = 51,
   NomeFile = 52,
   FileNonTrovato = 53,

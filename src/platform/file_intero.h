@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <span>
@@ -37,8 +38,17 @@ void scriviFile(const std::filesystem::path& percorso, std::span<const std::uint
 /// comes back. Failure 53, 57, 61, 70 or 75: the file then has its old name.
 void rinominaFile(const std::filesystem::path& percorso, const std::filesystem::path& nuovo);
 
-/// The whole content of a file that must exist: failure 53 when it does not. A pipe or a device is read to
-/// its end too; failure 57 when that lies beyond 64 MiB.
-[[nodiscard]] std::string contenutoFile(const std::filesystem::path& percorso);
+/// The longest text that is taken from a user, in bytes: far more than any that makes sense.
+inline constexpr std::size_t kMassimoTesto = std::size_t{64} << 20;
+
+/// The whole content of a file that must exist: failure FileNonTrovato when it does not, TestoTroppoLungo
+/// when it has more than `massimo` bytes. A pipe or a device, which may have no end, is read up to
+/// kMassimoTesto at most.
+[[nodiscard]] std::string contenutoFile(const std::filesystem::path& percorso,
+                                        std::size_t massimo = std::string::npos - 1);
+
+/// The content of a text file that the user names, up to kMassimoTesto. Where it is a pipe, whoever is to
+/// write into it is waited for.
+[[nodiscard]] std::string testoFornito(const std::filesystem::path& percorso);
 
 }  // namespace vaticlo

@@ -19,26 +19,46 @@ std::string testoRapporto(const std::filesystem::path& percorso) {
 }
 
 FileRapporto::FileRapporto(const std::filesystem::path& percorso)
-    : percorso_(percorso), file_(percorso, O_WRONLY | O_CREAT | O_TRUNC) {}
+    : percorso_(percorso), file_(std::in_place, percorso, O_WRONLY | O_CREAT | O_TRUNC) {}
 
-FileRapporto::~FileRapporto() {
-  try {
-    chiudi();
-  } catch (const RuntimeFailure&) {
-    // Whoever wants to know of it calls chiudi().
-  }
-}
+FileRapporto::~FileRapporto() { concludi(); }
 
 void FileRapporto::fineRiga() {
+  if (!file_) throw RuntimeFailure(Errore::NomeFile, nome());
   attesa_ += "\r\n";
   if (attesa_.size() >= kAttesa) svuota();
 }
 
-void FileRapporto::chiudi() { svuota(); }
+void FileRapporto::chiudi() {
+  if (!file_) return;
+  try {
+    svuota();
+    file_->chiudi(percorso_);
+  } catch (const RuntimeFailure&) {
+    intero_ = false;
+    file_.reset();
+    throw;
+  }
+  file_.reset();
+}
+
+bool FileRapporto::concludi() {
+  try {
+    chiudi();
+  } catch (const RuntimeFailure&) {
+    // The result says so.
+  }
+  return intero_;
+}
 
 void FileRapporto::svuota() {
   const auto righe = std::exchange(attesa_, {});
-  file_.scrivi(righe, percorso_);
+  try {
+    file_->scrivi(righe, percorso_);
+  } catch (const RuntimeFailure&) {
+    intero_ = false;
+    throw;
+  }
 }
 
 }  // namespace vaticlo

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <concepts>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,16 +27,22 @@ class FileRapporto {
   FileRapporto& operator=(FileRapporto&&) = delete;
   ~FileRapporto();
 
-  /// Writes one line made of texts (UTF-8) and whole numbers. Failure 61 or 57 when the disk does not take
-  /// it.
+  /// Writes one line made of texts (UTF-8) and whole numbers. Failure DiscoPieno or DispositivoIO when the
+  /// disk does not take it, NomeFile when the report is closed.
   template <class... Pezzi>
   void riga(const Pezzi&... pezzi) {
     (aggiungi(pezzi), ...);
     fineRiga();
   }
 
-  /// Brings the last lines to the disk and closes the file. Failure 61 or 57.
+  /// Brings the last lines to the disk and closes the file, whatever happens. Failure DiscoPieno or
+  /// DispositivoIO; none the second time.
   void chiudi();
+  /// The same for a run that no failure of its report stops: whether every line, from the first one on, has
+  /// reached the disk.
+  bool concludi();
+  /// The name of the file.
+  [[nodiscard]] std::string nome() const { return percorso_.filename().string(); }
 
  private:
   void aggiungi(std::string_view testo) { aggiungiInPagina(attesa_, testo); }
@@ -47,8 +54,9 @@ class FileRapporto {
   void svuota();
 
   std::filesystem::path percorso_;
-  Descrittore file_;
+  std::optional<Descrittore> file_;  ///< none once it is closed
   std::string attesa_;
+  bool intero_ = true;
 };
 
 }  // namespace vaticlo

@@ -49,11 +49,18 @@ class LibreriaCurl {
 struct Raccolta {
   std::size_t limite;
   std::string testo;
+  std::size_t teste = 0;  // bytes of the heads and trailers, which may have no end either
 };
+
+std::size_t contaTeste(const char* /*dati*/, std::size_t uno, std::size_t quanti, void* destinazione) {
+  auto& raccolta = *static_cast<Raccolta*>(destinazione);
+  raccolta.teste += uno * quanti;
+  return raccolta.teste + raccolta.testo.size() <= raccolta.limite ? uno * quanti : CURL_WRITEFUNC_ERROR;
+}
 
 std::size_t raccogli(const char* dati, std::size_t uno, std::size_t quanti, void* destinazione) {
   auto& raccolta = *static_cast<Raccolta*>(destinazione);
-  if (uno * quanti > raccolta.limite - raccolta.testo.size()) return CURL_WRITEFUNC_ERROR;
+  if (raccolta.teste + raccolta.testo.size() + uno * quanti > raccolta.limite) return CURL_WRITEFUNC_ERROR;
   try {
     raccolta.testo.append(dati, uno * quanti);
   } catch (const std::bad_alloc&) {
@@ -74,8 +81,8 @@ std::optional<std::string> scarica(const std::string& indirizzo, const LimitiSca
     accettate = curl.setopt(richiesta.get(), quale, valore) == CURLE_OK && accettate;
   };
   opzione(CURLOPT_URL, indirizzo.c_str());
-  opzione(CURLOPT_PROTOCOLS_STR, "http,https");
-  opzione(CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+  opzione(CURLOPT_PROTOCOLS_STR, "http,https");  // of redirections too
+  opzione(CURLOPT_PROXY, "");                    // none from the environment
   opzione(CURLOPT_FOLLOWLOCATION, 1L);
   opzione(CURLOPT_MAXREDIRS, kRedirezioni);
   opzione(CURLOPT_FAILONERROR, 1L);
@@ -85,6 +92,8 @@ std::optional<std::string> scarica(const std::string& indirizzo, const LimitiSca
   opzione(CURLOPT_LOW_SPEED_TIME, static_cast<long>(limiti.silenzio.count()));
   opzione(CURLOPT_TIMEOUT, static_cast<long>(limiti.tutto.count()));
   opzione(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(limiti.ottetti));
+  opzione(CURLOPT_HEADERFUNCTION, &contaTeste);
+  opzione(CURLOPT_HEADERDATA, &raccolta);
   opzione(CURLOPT_WRITEFUNCTION, &raccogli);
   opzione(CURLOPT_WRITEDATA, &raccolta);
   if (!accettate || curl.perform(richiesta.get()) != CURLE_OK) return std::nullopt;

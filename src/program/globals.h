@@ -39,6 +39,8 @@ struct Globals {
   int QuaterneSorti = 0;
   int CinquineSorti = 0;
 
+  std::vector<std::string> RapportiIncompleti;  ///< the reports that the disk did not take whole
+
   bool SoloVincenti = false;
   std::string TestoEsito;
   bool StopElaborazione = false;

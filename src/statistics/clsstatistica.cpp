@@ -18,12 +18,12 @@ clsStatistica::clsStatistica(Programma& programma, PannelloCorsa& frm)
   g_.ContaNonGiocabili = 0;
   g_.ContaVincenti = 0;
   g_.ContaInGioco = 0;
+  g_.RapportiIncompleti.clear();
 }
 
 void clsStatistica::rilascia() {
-  stat_.chiudi();
-  prevGioco_.chiudi();
-  vincite_.chiudi();
+  for (auto* rapporto : {&stat_, &prevGioco_, &vincite_})
+    if (!rapporto->concludi()) g_.RapportiIncompleti.push_back(rapporto->nome());
 }
 
 void clsStatistica::Inizia(std::int16_t inizio, std::int16_t fine) {

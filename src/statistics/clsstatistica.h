@@ -39,7 +39,8 @@ class clsStatistica : private EsitoColpo {
   /// totals are written.
   void Inizia(std::int16_t inizio, std::int16_t fine);
 
-  /// Closes the reports; only then are they complete. Failure 61 or 57 when the disk does not take them.
+  /// Closes the reports; only then are they complete. One that the disk did not take whole is noted in
+  /// Globals; a failing write ends no run, the last one neither.
   void rilascia();
 
  private:

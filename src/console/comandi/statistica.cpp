@@ -1,15 +1,15 @@
 #include <csignal>
 #include <iostream>
-#include <memory>
 
-#include <CLI/CLI.hpp>
 #include <unistd.h>
 
+#include "console/comandi/avvisi.h"
+#include "console/comandi/comandi.h"
 #include "console/cornice_vuota.h"
 #include "console/sessione.h"
 #include "dialogs/frm_statistica.h"
 
-namespace vaticlo {
+namespace vaticlo::comandi {
 
 namespace {
 
@@ -60,22 +60,23 @@ class BarraSuTerminale {
   int percento_ = -1;
 };
 
-struct Scelte {
-  std::string inizio, fine, scelto = "1";
-  std::optional<std::string> metodo;
-};
+}  // namespace
 
-void statistica(Sessione& sessione, const Scelte& scelte) {
-  auto& globals = sessione.programma().globals;
-  const int scelto = numeroIntero(scelte.scelto, "--scelto");
-  if (scelto < INT16_MIN || scelto > INT16_MAX) throw UsoErrato("--scelto è fuori misura: " + scelte.scelto);
+Esito statistica(Sessione& sessione, const Argomenti& argomenti) {
+  const auto metodo = argomenti.seDato("--metodo");
+  auto& programma = sessione.programma();
+  auto& globals = programma.globals;
+  const int scelto = argomenti.intero("--scelto");
+  if (scelto < INT16_MIN || scelto > INT16_MAX)
+    throw UsoErrato("--scelto è fuori misura: " + argomenti["--scelto"]);
   globals.MetodoScelto = static_cast<std::int16_t>(scelto);
+  avvisaDeiMetodi(programma, metodo);
   CorniceVuota cornice;
-  frmStatistica frm(sessione.programma(), cornice);
-  if (scelte.metodo) frm.metodo.scegliNome(*scelte.metodo);
+  frmStatistica frm(programma, cornice);
+  if (metodo) frm.metodo.scegliNome(*metodo);
   frm.Form_Load();
-  frm.txtestr[0].Text(scelte.inizio);
-  frm.txtestr[1].Text(scelte.fine);
+  frm.txtestr[0].Text(argomenti["INIZIO"]);
+  frm.txtestr[1].Text(argomenti["FINE"]);
 
   BarraSuTerminale barra;
   frm.prgbar.osserva([&] { barra.mostra(frm.prgbar); });
@@ -85,26 +86,10 @@ void statistica(Sessione& sessione, const Scelte& scelte) {
     frm.btnElabora_Click();
   }
   barra.togli();
-  if (globals.StopElaborazione)
-    sessione.esito = kInterrotto;
-  else if (!sessione.servizi.rifiutato())
-    std::cout << frm.RichTextBox1.Text();
+  if (globals.StopElaborazione) return kInterrotto;
+  if (sessione.servizi.rifiutato()) return kFatto;
+  std::cout << frm.RichTextBox1.Text();
+  return esitoDeiRapporti(programma);
 }
 
-}  // namespace
-
-void aggiungiStatistica(CLI::App& app, Sessione& sessione) {
-  auto* comando = app.add_subcommand(
-      "statistica",
-      "Giudica le previsioni di un intervallo di estrazioni (Stat.txt, Vincite.txt, PrevGioco.txt)");
-  auto scelte = std::make_shared<Scelte>();
-  comando->add_option("INIZIO", scelte->inizio, "Numero della prima estrazione")->required();
-  comando->add_option("FINE", scelte->fine, "Numero dell'ultima estrazione")->required();
-  comando->add_option("--metodo", scelte->metodo, "Un solo metodo, invece di tutti")->type_name("NOME");
-  comando->add_option("--scelto", scelte->scelto, "Metodo scelto dalla barra degli strumenti")
-      ->type_name("K")
-      ->capture_default_str();
-  comando->callback([&sessione, scelte] { statistica(sessione, *scelte); });
-}
-
-}  // namespace vaticlo
+}  // namespace vaticlo::comandi

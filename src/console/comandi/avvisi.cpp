@@ -1,0 +1,23 @@
+#include "console/comandi/avvisi.h"
+
+#include <iostream>
+
+#include "operations/metodi_guasti.h"
+
+namespace vaticlo {
+
+void avvisaDeiMetodi(const Programma& programma, const std::optional<std::string>& metodo) {
+  if (metodo && !programma.cartella.esisteMetodo(*metodo))
+    std::cerr << "Non c'è nessun metodo di nome \"" << *metodo << "\".\n";
+  for (const auto& guasto : metodiGuasti(programma.cartella, {!metodo, metodo.value_or("")}))
+    std::cerr << "Il metodo \"" << guasto.nome << "\" non si può giudicare: " << guasto.motivo << ".\n";
+}
+
+Esito esitoDeiRapporti(const Programma& programma) {
+  const auto& incompleti = programma.globals.RapportiIncompleti;
+  for (const auto& nome : incompleti)
+    std::cerr << "Il rapporto " << nome << " non è intero: il disco non ha accettato tutte le sue righe.\n";
+  return incompleti.empty() ? kFatto : kErrore;
+}
+
+}  // namespace vaticlo

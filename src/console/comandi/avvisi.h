@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "console/esito.h"
+#include "program/programma.h"
+
+namespace vaticlo {
+
+/// Names on standard error the methods that the coming run can't judge as meant: one that does not exist or,
+/// among all, each one whose failure the run keeps to itself.
+void avvisaDeiMetodi(const Programma& programma, const std::optional<std::string>& metodo);
+
+/// The outcome of a run: kErrore, and their names on standard error, when the disk did not take its reports.
+[[nodiscard]] Esito esitoDeiRapporti(const Programma& programma);
+
+}  // namespace vaticlo

@@ -1,0 +1,108 @@
+#include <iostream>
+#include <memory>
+
+#include "console/comandi/comandi.h"
+#include "console/cornice_vuota.h"
+#include "console/sessione.h"
+#include "dialogs/frm_insprev.h"
+
+namespace vaticlo::comandi {
+
+namespace {
+
+void compila(Sessione& sessione, frmInsPrev& frm, const Argomenti& argomenti) {
+  if (argomenti.seDato("--estrazione"))
+    clsGestione(sessione.programma().cartella, sessione.servizi)
+        .Visualizza(frm.estrazione, argomenti.intero("--estrazione"));
+  if (const auto colpi = argomenti.seDato("--colpi")) frm.cmbColpi.Text(*colpi);
+  const auto scrivi = [&argomenti](CampoTesto& campo, const char* opzione) {
+    if (const auto testo = argomenti.seDato(opzione)) campo.Text(*testo);
+  };
+  scrivi(frm.txtNum, "--numero");
+  scrivi(frm.txtRuote, "--ruote");
+  scrivi(frm.txtAmbate, "--ambate");
+  scrivi(frm.txtAmbi, "--ambi");
+  scrivi(frm.txtSup, "--sup");
+}
+
+/// The modify variant with a method chosen. Nothing when the editor refused it.
+std::unique_ptr<frmInsPrev> apri(Sessione& sessione, CorniceVuota& cornice, const std::string& metodo) {
+  sessione.programma().globals.PrevisioneInModifica = true;
+  auto frm = std::make_unique<frmInsPrev>(sessione.programma(), cornice);
+  frm->Form_Load();
+  frm->cmbMetodo.Text(metodo);
+  frm->cmbMetodo_Click();
+  if (sessione.servizi.rifiutato()) return nullptr;
+  return frm;
+}
+
+/// Chooses the prediction of a slot. False when the list does not offer it.
+bool scegli(frmInsPrev& frm, int slot) {
+  const auto& voci = frm.cmbPrevisione.voci();
+  for (std::size_t n = 0; n < voci.size(); ++n)
+    if (voci[n].ItemData == slot) {
+      frm.cmbPrevisione.scegli(static_cast<int>(n));
+      return true;
+    }
+  return false;
+}
+
+}  // namespace
+
+Esito elencoPrevisioni(Sessione& sessione, const Argomenti& argomenti) {
+  CorniceVuota cornice;
+  if (const auto frm = apri(sessione, cornice, argomenti["METODO"]))
+    for (const auto& voce : frm->cmbPrevisione.voci()) std::cout << voce.testo << '\n';
+  return kFatto;
+}
+
+Esito mostraPrevisione(Sessione& sessione, const Argomenti& argomenti) {
+  const auto& metodo = argomenti["METODO"];
+  CorniceVuota cornice;
+  const auto frm = apri(sessione, cornice, metodo);
+  if (!frm) return kFatto;
+  if (!scegli(*frm, argomenti.intero("SLOT")))
+    throw UsoErrato("il metodo \"" + metodo + "\" non ha la previsione " + argomenti["SLOT"] +
+                    "; quelle che ha: vaticlo-cli previsione elenco \"" + metodo + "\"");
+  std::cout << "Estrazione: " << frm->estrazione.lblnestr.Caption() << '\n'
+            << "Numero 899: " << frm->txtNum.Text() << '\n'
+            << "Ruote: " << frm->txtRuote.Text() << '\n'
+            << "Colpi: " << frm->cmbColpi.Text() << '\n'
+            << "Ambate: " << frm->txtAmbate.Text() << '\n'
+            << "Ambi: " << frm->txtAmbi.Text() << '\n'
+            << "Sorti: " << frm->txtSup.Text() << '\n';
+  return kFatto;
+}
+
+Esito inserisciPrevisione(Sessione& sessione, const Argomenti& argomenti) {
+  CorniceVuota cornice;
+  sessione.programma().globals.PrevisioneInModifica = false;
+  frmInsPrev frm(sessione.programma(), cornice);
+  frm.Form_Load();
+  frm.cmbMetodo.Text(argomenti["METODO"]);
+  compila(sessione, frm, argomenti);
+  frm.btnElabora_Click();
+  return kFatto;
+}
+
+// A slot that the list does not offer stays unchosen, and the editor says what it says of that.
+Esito modificaPrevisione(Sessione& sessione, const Argomenti& argomenti) {
+  CorniceVuota cornice;
+  const auto frm = apri(sessione, cornice, argomenti["METODO"]);
+  if (!frm) return kFatto;
+  scegli(*frm, argomenti.intero("SLOT"));
+  compila(sessione, *frm, argomenti);
+  frm->btnElabora_Click();
+  return kFatto;
+}
+
+Esito eliminaPrevisione(Sessione& sessione, const Argomenti& argomenti) {
+  CorniceVuota cornice;
+  const auto frm = apri(sessione, cornice, argomenti["METODO"]);
+  if (!frm) return kFatto;
+  scegli(*frm, argomenti.intero("SLOT"));
+  frm->btnElimina_Click();
+  return kFatto;
+}
+
+}  // namespace vaticlo::comandi
