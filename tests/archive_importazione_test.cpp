@@ -60,6 +60,18 @@ TEST(Import, NamesTheLineThatIsWrongAndWhatIsWrongWithIt) {
   EXPECT_EQ(erroreDi("").substr(0, 8), "riga 1: ");
 }
 
+TEST(Import, TakesAMarkOfUtf8AndNamesUtf16) {
+  const std::string riga = "2005/01/05\tBA\t1\t2\t3\t4\t5\n";
+  EXPECT_EQ(erroreDi("\xEF\xBB\xBF" + riga), "");
+  for (const auto& inizio : {std::string("\xFF\xFE"), std::string("\xFE\xFF"), std::string("2\0", 2)})
+    EXPECT_THAT(erroreDi(inizio + riga), HasSubstr("UTF-16"));
+}
+
+TEST(Import, QuotesNoMoreOfALineThanAMessageCanShow) {
+  EXPECT_EQ(erroreDi("2005/01/08\t\x1B[7m\xFFè" + std::string(2000000, 'x') + "\t1\t2\t3\t4\t5"),
+            "riga 1: ruota sconosciuta \"?[7m?è" + std::string(54, 'x') + "…\"");
+}
+
 TEST(Import, TakesAsManyDrawsAsLeaveAFreeSlot) {
   std::string testo;
   for (int n = 0; n < 14999; ++n)  // years of twelve months of 28 days, from 1900 on

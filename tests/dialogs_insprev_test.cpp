@@ -132,6 +132,7 @@ TEST_F(InsPrev, ADeleteAlwaysFails) {
     frm->btnElimina_Click();
   }
   const auto* domanda = "[Attenzione] Sicuro di eliminare la previsione?";
+  EXPECT_EQ(p.servizi.messaggi[1].predefinita, Risposta::No);
   EXPECT_THAT(p.servizi.detti(), ElementsAre(testing::_, domanda, domanda,
                                              "[Attenzione] Errore nell'eliminaizione della previsione!"));
   EXPECT_TRUE(file() == prima);

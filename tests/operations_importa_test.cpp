@@ -30,6 +30,7 @@ TEST_F(Importa, FillsAnEmptyArchiveAndAsksBeforeItReplacesDraws) {
   p.servizi.risposta = Risposta::No;
   EXPECT_THAT(importa(due),
               ElementsAre(HasSubstr("Sostituirle tutte con quelle del file (2 estrazioni, dal ")));
+  EXPECT_EQ(p.servizi.messaggi[0].predefinita, Risposta::No);
   EXPECT_TRUE(archivio() == prima);
   p.servizi.risposta = Risposta::Si;
   EXPECT_THAT(importa(due), ElementsAre(HasSubstr("Sostituirle"), importate));

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <poll.h>
 
 #include "platform/scaricamento.h"
 #include "sostegno/cartella_prova.h"
@@ -19,6 +20,7 @@ std::string rinvio(const std::string& luogo) {
 }
 
 const std::string kPezzo = "1f4\r\n" + std::string(500, 'x') + "\r\n";
+const std::string kTesta = "X: " + std::string(1000, 'x') + "\r\n";
 const std::string kAPezzi = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n" + kPezzo;
 
 class Download : public testing::Test {
@@ -41,7 +43,7 @@ class Download : public testing::Test {
   prova::ProgrammaProva p;
   const std::string segreto = "file://" + (p.cartella().metodi() / "M.dat").string();
   const prova::ServerProva server{{{"/breve", risposta("200 OK", "nuovo")},
-                                   {"/mille", risposta("203 Non-Authoritative", std::string(1000, 'x'))},
+                                   {"/lungo", risposta("203 Non-Authoritative", std::string(900, 'x'))},
                                    {"/rinvio", rinvio("/rinvio2")},
                                    {"/rinvio2", rinvio("/breve")},
                                    {"/muto", ""},
@@ -53,23 +55,42 @@ class Download : public testing::Test {
                                    {"/niente", "HTTP/1.1 204 No Content\r\nConnection: close\r\n\r\n"},
                                    {"/troppi", risposta("200 OK", std::string(1001, 'x'))},
                                    {"/troppi-pezzi", kAPezzi + kPezzo + kPezzo + "0\r\n\r\n"},
+                                   {"/testa", risposta("200 OK", "nuovo", kTesta)},
+                                   {"/coda", kAPezzi + "0\r\n" + kTesta + "\r\n"},
                                    {"/segreto", rinvio(segreto)},
                                    {"/giro", rinvio("/giro")}}};
 };
 
 TEST_F(Download, ReplacesTheDestinationAfterACompleteAndGoodTransfer) {
   EXPECT_TRUE(scarica(server.indirizzo("/breve"), "nuovo"));
-  EXPECT_TRUE(scarica(server.indirizzo("/mille"), std::string(1000, 'x')));
+  EXPECT_TRUE(scarica(server.indirizzo("/lungo"), std::string(900, 'x')));
   EXPECT_TRUE(scarica(server.indirizzo("/rinvio"), "nuovo"));
 }
 
 TEST_F(Download, LeavesTheDestinationWhenAnythingGoesWrong) {
   p.scrivi("Metodi/M.dat", "segreto");
-  for (const char* percorso : {"/muto", "/mozzo", "/pezzi", "/manca", "/uguale", "/scelta", "/niente",
-                               "/troppi", "/troppi-pezzi", "/segreto", "/giro", "/senza-risposta"})
+  for (const char* percorso :
+       {"/muto", "/mozzo", "/pezzi", "/manca", "/uguale", "/scelta", "/niente", "/troppi", "/troppi-pezzi",
+        "/testa", "/coda", "/segreto", "/giro", "/senza-risposta"})
     EXPECT_FALSE(scarica(server.indirizzo(percorso)));
   for (const auto& indirizzo : {segreto, std::string("http://127.0.0.1:1/"), std::string("non un indirizzo")})
     EXPECT_FALSE(scarica(indirizzo));
+}
+
+TEST_F(Download, FollowsARedirectionToTheWebAlone) {
+  sockaddr_in luogo{};
+  luogo.sin_family = AF_INET;
+  luogo.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  socklen_t misura = sizeof luogo;
+  pollfd porta{::socket(AF_INET, SOCK_STREAM, 0), POLLIN, 0};
+  ::bind(porta.fd, reinterpret_cast<sockaddr*>(&luogo), misura);
+  ::listen(porta.fd, 1);
+  ::getsockname(porta.fd, reinterpret_cast<sockaddr*>(&luogo), &misura);
+  const prova::ServerProva rinviante(
+      {{"/", rinvio("ftp://127.0.0.1:" + std::to_string(ntohs(luogo.sin_port)) + "/archivio")}});
+  EXPECT_FALSE(scarica(rinviante.indirizzo("/")));
+  EXPECT_EQ(::poll(&porta, 1, 0), 0) << "nobody knocked at the other server";
+  ::close(porta.fd);
 }
 
 TEST_F(Download, LeavesNothingBesideADestinationThatRefuses) {

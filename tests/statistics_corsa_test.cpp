@@ -31,6 +31,7 @@ class Corsa : public testing::Test {
     clsStatistica statistica(p.programma, frm);
     statistica.Inizia(static_cast<std::int16_t>(inizio), static_cast<std::int16_t>(fine));
     statistica.rilascia();
+    EXPECT_EQ(stat().empty(), p.globals().StopElaborazione) << "whole once it is released";
   }
   [[nodiscard]] std::string stat() const { return p.contenuto("Stat.txt"); }
   [[nodiscard]] std::string vincite() const { return p.contenuto("Vincite.txt"); }

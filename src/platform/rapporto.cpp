@@ -13,6 +13,9 @@ constexpr std::size_t kAttesa = 65536;
 }
 
 std::string testoRapporto(const std::filesystem::path& percorso) {
+  // A device in the place of a report keeps nothing, or has no end.
+  std::error_code ignorato;
+  if (std::filesystem::is_other(percorso, ignorato)) return "";
   auto testo = daPagina(contenutoFile(percorso));
   std::erase(testo, '\r');
   return testo;

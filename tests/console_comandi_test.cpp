@@ -1,0 +1,157 @@
+#include "archive/data.h"
+#include "sostegno/console_prova.h"
+#include "sostegno/server_prova.h"
+
+namespace vaticlo::prova {
+namespace {
+
+/// A command in a folder with three draws and the method "Mio" of one prediction: its status, all that it
+/// says, a part of what it says of an error.
+struct Caso {
+  const char* nome;
+  std::string comando;
+  int stato;
+  std::string detto, errore = "";
+};
+
+void PrintTo(const Caso& caso, std::ostream* uscita) { *uscita << caso.nome; }
+
+class Comandi : public Console, public testing::WithParamInterface<Caso> {};
+
+TEST_P(Comandi, SayHowTheyWent) {
+  const auto& caso = GetParam();
+  const std::string riga = "2005/01/08\tBA\t1\t2\t3\t4\t5\r\n";
+  p.scrivi("uno.txt", riga);
+  p.scrivi("due.txt", riga + riga);
+  archivioDi(3, "2 Ba 1 2 4 8 16,2 Naz 7").scrivi(p);
+  scriviMetodoProva(p, "Mio", {});
+  esegui(
+      "previsione inserisci Mio --estrazione 2 --ruote Ba-Naz --colpi 1 --ambate 8 --ambi 1-2 --numero "
+      "899.12");
+  EXPECT_EQ(esegui(caso.comando), caso.stato);
+  EXPECT_EQ(detto, caso.detto);
+  EXPECT_THAT(errori, HasSubstr(caso.errore));
+  EXPECT_EQ(errori.empty(), caso.errore.empty()) << errori;
+}
+
+constexpr auto perNome = [](const auto& info) { return std::string(info.param.nome); };
+
+const std::string kVuote =
+    "Ca 0 0 0 0 0\nFi 0 0 0 0 0\nGe 0 0 0 0 0\nMi 0 0 0 0 0\nNa 0 0 0 0 0\nPa 0 0 0 0 0\nRo 0 0 0 0 0\n"
+    "To 0 0 0 0 0\nVe 0 0 0 0 0\n";
+
+INSTANTIATE_TEST_SUITE_P(
+    Estrazioni, Comandi,
+    testing::Values(
+        Caso{"Shown", "estrazione 2", 0,
+             "Estrazione n° 2 del 12/3/2005\nBa 1 2 4 8 16\n" + kVuote + "Naz 7 0 0 0 0\n"},
+        Caso{"OutsideTheGrid", "estrazione -1", 1, "", "Errore di run-time 9: "},
+        Caso{"NoWholeNumber", "estrazione 1,5", 2, "", "1,5"}, Caso{"NothingSought", "trova ''", 0, ""},
+        Caso{"NotFound", "trova -5", 3, "[Attenzione] Inserisci un valore corretto compreso tra 1 e 3.\n"},
+        Caso{"Stored", "inserisci 16/03/2005 NUMERI", 0, "Salvata l'estrazione n° 4\n"},
+        Caso{"TooFewNumbers", "inserisci 16/03/2005 1 2", 2, "", "NUMERI"},
+        Caso{"NoDate", "inserisci 16-3 NUMERI", 2, "", "16-3"},
+        Caso{"Changed", "modifica 3 NUMERI", 0, "Salvata l'estrazione n° 3\n"},
+        Caso{"Deleted", "cancella 3", 0, "Cancellata l'estrazione n° 3\n"},
+        Caso{"NothingToDelete", "cancella 4", 3,
+             "[Attenzione] L'estrazione n° 4 non c'è: l'archivio ne contiene 3.\n"},
+        Caso{"Imported", "importa @/uno.txt", 0, "Importate 1 estrazioni, dal 8/1/2005 al 8/1/2005\n"},
+        Caso{"ImportOfAWrongLine", "importa @/due.txt", 2, "", "due.txt, riga 2: la ruota BA"},
+        Caso{"ImportOfNothing", "importa @/manca.txt", 2, "", "file non trovato"},
+        Caso{"NoDemonstrationOverDraws", "dimostrazione", 3,
+             "[Attenzione] La cartella contiene già estrazioni o previsioni: la dimostrazione non le "
+             "tocca.\n"}),
+    perNome);
+
+INSTANTIATE_TEST_SUITE_P(
+    Metodi, Comandi,
+    testing::Values(
+        Caso{"Made", "metodo crea ' Suo '", 0, "Creato il metodo Suo\n"},
+        Caso{"TheSameInOtherLetters", "metodo crea MIO", 3,
+             "[Attenzione] Esiste già un metodo con il nome \"MIO\"!\n"},
+        Caso{"NoUtf8", "metodo rinomina Mio a\xFF", 3,
+             "[Attenzione] Il nome \"a\xFF\" non può essere quello di un file!\n"},
+        Caso{"PredictionStored", "previsione inserisci Mio --estrazione 2 --ruote Ba --ambate 7", 0,
+             "[Vaticlo] La previsione è stata salvata!\n"},
+        Caso{"PredictionsListed", "previsione elenco Mio", 0, "Previsione n.1 del 12/03//2005\n"},
+        Caso{"PredictionShown", "previsione mostra Mio 1", 0,
+             "Estrazione: 2\nNumero 899: 899.12\nRuote: Ba-Naz\nColpi: 1\nAmbate: 8\nAmbi: 1-2\nSorti: \n"},
+        Caso{"NoSuchPrediction", "previsione mostra Mio 2", 2, "", "previsione 2"},
+        Caso{"Checked", "verifica 2", 0,
+             " Previsione n.°1\n Metodo: Mio\n Numero di Telefono di previsione: 899.12\n Ruote: Ba-Naz\n"
+             " Ambate: 8\n Ambi Secchi: 1-2\n\n Esito:\n In gioco\n___________________________________\n"
+             "Giocabili: 1\nVincenti: 0\nIn gioco: 1\n"},
+        Caso{"CheckOfNoMethod", "verifica 2 --metodo Altro", 0, "Giocabili: 0\nVincenti: 0\nIn gioco: 0\n",
+             "nessun metodo di nome \"Altro\""},
+        Caso{"NothingInPlay", "in-gioco", 0, "Non ci sono previsioni in gioco\n"},
+        Caso{"TooManyLastDraws", "vincenti --ultime 6", 2, "", "non 6"}),
+    perNome);
+
+INSTANTIATE_TEST_SUITE_P(
+    Riga, Comandi,
+    testing::Values(
+        Caso{"Version", "--version", 0, "vaticlo-cli 0.1.0\n"},
+        Caso{"UnknownCommand", "verfica 1", 2, "", "verfica (forse verifica?)"},
+        Caso{"NothingNear", "nulla 1", 2, "", "comando sconosciuto: nulla\n"},
+        Caso{"UnknownOption", "previsione elenco Mio --spu 1", 2, "", "--spu 1\n"},
+        Caso{"MistypedOption", "previsione inserisci Mio --estrazione 2 --ruote Ba --spu 1-2", 2, "",
+             "--spu 1-2 (forse --sup?)"},
+        Caso{"TooMany", "verifica 1 2 3", 2, "", "sconosciuto: 2 3\n"},
+        Caso{"MissingArgument", "metodo rinomina Mio", 2, "", "manca NUOVO\n"},
+        Caso{"MissingOption", "previsione inserisci Mio --ruote Ba", 2, "", "manca --estrazione\n"},
+        Caso{"MissingValue", "in-gioco --metodo", 2, "", "valori sbagliato per --metodo\n"},
+        Caso{"GivenTwice", "in-gioco --metodo a --metodo b", 2, "", "valori sbagliato per --metodo\n"}),
+    perNome);
+
+TEST_F(Console, ThePredictionThatIsModifiedKeepsWhatIsNotGiven) {
+  archivioDi(3).scrivi(p);
+  scriviMetodoProva(p, "M", {{.estrazione = 2, .ruote = {1}, .ambate = {8}}});
+  EXPECT_EQ(esegui("previsione modifica M 1 --ambi 1-2"), 0);
+  EXPECT_EQ(esegui("previsione mostra M 1"), 0);
+  EXPECT_THAT(detto, EndsWith("Ruote: Ba\nColpi: 10\nAmbate: 8\nAmbi: 1-2\nSorti: \n"));
+}
+
+TEST_F(Console, TellsASuccessfulUpdateFromARefusedOne) {
+  const ServerProva server({{"/uno", "HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nuno"},
+                            {"/due", "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n"}});
+  EXPECT_EQ(esegui("aggiorna --da " + server.indirizzo("/due")), 3);
+  EXPECT_EQ(detto, "[Vaticlo] Errore: Non è possibile effettuare l'aggiornamento\n");
+  EXPECT_EQ(esegui("aggiorna --da " + server.indirizzo("/uno")), 0);
+  EXPECT_EQ(detto, "[Vaticlo] Aggiornamento avvenuto\n");
+}
+
+TEST_F(Console, NamesTheMethodsThatNoRunCanJudge) {
+  archivioDi(3).scrivi(p);
+  scriviMetodoProva(p, "Pieno", std::vector<SlotProva>(10, {.estrazione = 2}));
+  p.scrivi("Metodi/senza", "");
+  for (const char* comando : {"verifica 2", "statistica 1 3", "in-gioco", "vincenti"}) {
+    EXPECT_EQ(esegui(comando), std::string(comando).find(' ') == std::string::npos ? 1 : 0);
+    EXPECT_THAT(errori, HasSubstr("\"Pieno\" non si può giudicare: contiene dieci previsioni"));
+    EXPECT_THAT(errori, HasSubstr("\"senza\" non si può giudicare"));
+  }
+}
+
+TEST_F(Console, ANameIsTheSameHoweverItsAccentsAreComposed) {
+  EXPECT_EQ(esegui("metodo crea 'Cafe\u0301'"), 0);
+  EXPECT_EQ(esegui("metodo crea 'CAF\u00C9'"), 3);
+  EXPECT_EQ(esegui("metodo rinomina 'Cafe\u0301' 'Caf\u00E9'"), 0) << "its own name is given up";
+  EXPECT_EQ(esegui("metodo elenco"), 0);
+  EXPECT_EQ(detto, "Caf\u00E9\n");
+}
+
+TEST_F(Console, TheDemonstrationHasPredictionsThatWonThatLostAndInPlay) {
+  EXPECT_EQ(esegui("dimostrazione"), 0);
+  const auto archivio = ApriArchivio(p.cartella());
+  const int ultima = archivio.PrimoIndiceLibero() - 1;
+  for (int i = 1; i <= ultima; ++i) {
+    const std::chrono::weekday giorno(dataDaTesto(archivio.DataEstrazione(i)).value());
+    EXPECT_TRUE(giorno == std::chrono::Tuesday || giorno.iso_encoding() - 4 < 3) << "Thursday to Saturday";
+  }
+  EXPECT_EQ(esegui("statistica 1 " + std::to_string(ultima)), 0);
+  const auto& g = sessione.programma().globals;
+  EXPECT_TRUE(g.ContaVincenti > 0 && g.ContaInGioco > 0);
+  EXPECT_GT(g.ContaGiocabili, g.ContaVincenti + g.ContaInGioco);
+}
+
+}  // namespace
+}  // namespace vaticlo::prova
