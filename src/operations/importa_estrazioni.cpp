@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "archive/importazione.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
 

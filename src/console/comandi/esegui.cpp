@@ -10,7 +10,6 @@
 #include "platform/file_intero.h"
 #include "platform/testo.h"
 
-
 namespace vaticlo::comandi {
 
 namespace {

@@ -7,6 +7,7 @@
 #include "console/sessione.h"
 #include "dialogs/frm_modifica.h"
 #include "dialogs/frm_somdif.h"
+#include "platform/blocco.h"
 
 namespace vaticlo::comandi {
 
@@ -68,6 +69,7 @@ Esito inserisci(Sessione& sessione, const Argomenti& argomenti) {
 
 Esito modifica(Sessione& sessione, const Argomenti& argomenti) {
   const int n = argomenti.intero("N");
+  const BloccoCartella blocco(sessione.programma().cartella.radice());
   ControlliEstrazione controlli;
   gestione(sessione).Visualizza(controlli, n);
   riempi(controlli, argomenti.tutti("NUMERI"));
@@ -78,6 +80,7 @@ Esito modifica(Sessione& sessione, const Argomenti& argomenti) {
 
 Esito cancella(Sessione& sessione, const Argomenti& argomenti) {
   const int n = argomenti.intero("N");
+  const BloccoCartella blocco(sessione.programma().cartella.radice());
   const int ultima = ApriArchivio(sessione.programma().cartella).PrimoIndiceLibero() - 1;
   if (n < 1 || n > ultima) {
     sessione.servizi.mostra({"L'estrazione n° " + std::to_string(n) + " non c'è: l'archivio ne contiene " +
