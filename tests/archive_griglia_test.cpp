@@ -55,5 +55,13 @@ TEST(Dates, AreReadInTheFormsOfThisCountryAndOnlyForDaysThatExist) {
     EXPECT_FALSE(dataDaTesto(testo)) << testo;
 }
 
+TEST(Dates, AreTypedIntoAPickerInThoseFormsOrInSixOrEightDigits) {
+  const Data febbraio = dataDaTesto("29/02/2004").value();
+  for (const auto* testo : {"29/2/2004", "29-2-04", "29.02.2004", "29022004", " 290204 "})
+    EXPECT_EQ(dataDigitata(testo), febbraio) << testo;
+  for (const auto* testo : {"", "29022003", "31/4/2004", "2922004", "290220040", "29 02 04", "2902/2004"})
+    EXPECT_EQ(dataDigitata(testo), std::nullopt) << testo;
+}
+
 }  // namespace
 }  // namespace vaticlo::prova

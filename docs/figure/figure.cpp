@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QDialog>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -195,7 +194,11 @@ void Fotografo::tutte() {
   scegli("mnu1metodo1");
   premi("optSelMetodo_1");
   sceglie("cmbMetodo", kMetodo);
-  nella<QDateEdit>("DTInizio").setDate({2025, 6, 7});
+  auto& inizio = nella<QLineEdit>("DTInizio");
+  inizio.selectAll();
+  inizio.insert("07/06/2025");
+  QKeyEvent invio(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  QApplication::sendEvent(&inizio, &invio);
   premi("btnElabora");
   scatta("statistica");
   premi("btnVincite");

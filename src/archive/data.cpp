@@ -1,6 +1,7 @@
 #include "archive/data.h"
 
 #include <array>
+#include <string>
 
 #include "platform/testo.h"
 
@@ -39,6 +40,14 @@ std::optional<Data> dataDaTesto(std::string_view testo) {
                   std::chrono::day{static_cast<unsigned>(*g)}};
   if (!data.ok()) return std::nullopt;
   return data;
+}
+
+std::optional<Data> dataDigitata(std::string_view testo) {
+  testo = senzaBlanchi(testo);
+  if ((testo.size() != 6 && testo.size() != 8) || testo.find_first_of("/-.") != std::string_view::npos)
+    return dataDaTesto(testo);
+  const std::string intera(testo);
+  return dataDaTesto(intera.substr(0, 2) + '/' + intera.substr(2, 2) + '/' + intera.substr(4));
 }
 
 int giorno(const Data& data) { return static_cast<int>(static_cast<unsigned>(data.day())); }

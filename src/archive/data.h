@@ -12,6 +12,10 @@ using Data = std::chrono::year_month_day;
 /// 99 is 19xx), with blanks around at most. Nothing for any other text and for a day that no calendar has.
 [[nodiscard]] std::optional<Data> dataDaTesto(std::string_view testo);
 
+/// A date as it is typed into a date picker: in those forms, or in eight or six digits without anything
+/// between them.
+[[nodiscard]] std::optional<Data> dataDigitata(std::string_view testo);
+
 /// Day of the month (1 to 31), month (1 to 12) and year of a date as plain numbers.
 [[nodiscard]] int giorno(const Data& data);
 [[nodiscard]] int mese(const Data& data);

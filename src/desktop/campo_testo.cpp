@@ -1,44 +1,12 @@
 #include "desktop/campo_testo.h"
 
-#include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
-#include <QTimer>
+#include <QMouseEvent>
 
 namespace vaticlo {
 
-namespace {
-
-bool spostamentoNellaFinestra(Qt::FocusReason motivo) {
-  return motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason || motivo == Qt::MouseFocusReason ||
-         motivo == Qt::ShortcutFocusReason || motivo == Qt::OtherFocusReason;
-}
-
-}  // namespace
-
-void Validatore::lasciato(CampoTestoVista* campo) {
-  pendente_ = campo;
-  QTimer::singleShot(0, this, [this] { ammette(); });
-}
-
-bool Validatore::ammette() {
-  const QPointer<CampoTestoVista> campo = std::exchange(pendente_, nullptr);
-  if (!campo || !campo->isVisible()) return true;
-  // The toolkit may have led the focus through the window's frame on its way to a button that needs none.
-  const auto* ora = QApplication::focusWidget();
-  if (ora != nullptr && ora->property(kSenzaValidazione).toBool()) return true;
-  bool trattiene = false;
-  confine_.esegui([&] { trattiene = campo->modello().Validate(); });
-  if (!trattiene || !campo) return true;
-  rientro_ = true;
-  campo->setFocus(Qt::OtherFocusReason);
-  campo->selectAll();
-  rientro_ = false;
-  return false;
-}
-
-CampoTestoVista::CampoTestoVista(CampoTesto& modello, Validatore& validatore, QWidget* padre)
-    : QLineEdit(padre), modello_(modello), validatore_(validatore) {
+CampoTestoVista::CampoTestoVista(CampoTesto& modello, QWidget* padre) : QLineEdit(padre), modello_(modello) {
   setReadOnly(modello.Locked);
   setToolTip(QString::fromStdString(modello.esempio));
   setPlaceholderText(toolTip());
@@ -56,7 +24,11 @@ void CampoTestoVista::aggiorna() {
                      : QString(maschera).replace(QLatin1Char('#'), QLatin1Char('0')) + QStringLiteral("; "));
   }
   const auto testo = QString::fromStdString(modello_.Text());
-  if (displayText() != testo) setText(testo);
+  if (displayText() != testo) {
+    const bool intero = hasFocus() && selectedText() == text();  // an empty one too
+    setText(testo);
+    if (intero) selectAll();
+  }
   setEnabled(modello_.Enabled());
   setVisible(modello_.Visible());
 
@@ -74,14 +46,6 @@ void CampoTestoVista::focusInEvent(QFocusEvent* evento) {
   if (evento->reason() != Qt::MouseFocusReason && !isReadOnly()) selectAll();
 }
 
-void CampoTestoVista::focusOutEvent(QFocusEvent* evento) {
-  QLineEdit::focusOutEvent(evento);
-  if (!modello_.Validate || validatore_.rientro() || !spostamentoNellaFinestra(evento->reason())) return;
-  const auto* verso = QApplication::focusWidget();
-  if (verso == nullptr || verso->window() != window() || verso->property(kSenzaValidazione).toBool()) return;
-  validatore_.lasciato(this);
-}
-
 void CampoTestoVista::keyPressEvent(QKeyEvent* evento) {
   const bool invio = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
   if (invio && modello_.InvioComeTab) {
@@ -89,6 +53,15 @@ void CampoTestoVista::keyPressEvent(QKeyEvent* evento) {
     return;
   }
   QLineEdit::keyPressEvent(evento);
+}
+
+void CampoTestoVista::mousePressEvent(QMouseEvent* evento) {
+  QLineEdit::mousePressEvent(evento);
+  // The blanks of the mask behind the digits are no place to type at.
+  if (hasSelectedText() || maschera_.isEmpty()) return;
+  auto cifre = displayText();
+  while (cifre.endsWith(QLatin1Char(' '))) cifre.chop(1);
+  if (cursorPosition() > cifre.size()) setCursorPosition(static_cast<int>(cifre.size()));
 }
 
 }  // namespace vaticlo

@@ -1,7 +1,6 @@
 #include "desktop/legame.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,19 +15,13 @@
 #include "controls/xpgroupbox.h"
 #include "controls/xpradiobutton.h"
 #include "desktop/immagini.h"
+#include "desktop/selettore_data.h"
 
 namespace vaticlo {
 
 namespace {
 
 QString testo(const std::string& utf8) { return QString::fromStdString(utf8); }
-
-QDate giornoQt(const Data& data) { return {anno(data), mese(data), giorno(data)}; }
-
-Data daGiornoQt(const QDate& giorno) {
-  return Data{std::chrono::year{giorno.year()}, std::chrono::month{static_cast<unsigned>(giorno.month())},
-              std::chrono::day{static_cast<unsigned>(giorno.day())}};
-}
 
 /// A list that tells when it is about to show its items.
 class ElencoVista : public QComboBox {
@@ -41,18 +34,6 @@ class ElencoVista : public QComboBox {
 
  private:
   std::function<void()> apre_;
-};
-
-/// A date field that selects the day, month or year that is clicked on, so that digits typed replace it.
-class SelettoreVista : public QDateEdit {
- public:
-  explicit SelettoreVista(QWidget* padre) : QDateEdit(padre) { lineEdit()->installEventFilter(this); }
-  bool eventFilter(QObject* oggetto, QEvent* evento) override {
-    const bool preso = QDateEdit::eventFilter(oggetto, evento);
-    if (evento->type() == QEvent::MouseButtonRelease && !lineEdit()->hasSelectedText())
-      setSelectedSection(currentSection());
-    return preso;
-  }
 };
 
 void disegnaVoci(QComboBox& combo, const Elenco& modello) {
@@ -72,7 +53,7 @@ Legame::Legame(QWidget* vista, std::shared_ptr<Finestra> finestra, const Confine
       vista_(vista),
       finestra_(std::move(finestra)),
       confine_(confine),
-      validatore_(this, confine) {}
+      validatore_(vista, confine) {}
 
 Legame::~Legame() {
   for (auto* modello : seguiti_) modello->osserva({});
@@ -101,7 +82,8 @@ QLabel* Legame::etichetta(Etichetta& modello, const QString& nome) {
 }
 
 CampoTestoVista* Legame::campo(CampoTesto& modello, const QString& nome) {
-  auto* widget = chiamato(new CampoTestoVista(modello, validatore_, vista_), nome);
+  auto* widget = chiamato(new CampoTestoVista(modello, vista_), nome);
+  if (modello.Validate) validatore_.prova(widget, [&modello] { return modello.Validate(); });
   segui(modello, [widget] { widget->aggiorna(); });
   return widget;
 }
@@ -189,7 +171,7 @@ xpradiobutton* Legame::opzioneDisegnata(Opzione& modello, const QString& caption
 
 xpcmdbutton* Legame::pulsante(Pulsante& modello, const QString& nome) {
   auto* widget = chiamato(new xpcmdbutton(vista_), nome);
-  widget->setProperty(kSenzaValidazione, !modello.CausesValidation);
+  if (!modello.CausesValidation) validatore_.nonChiede(widget);
   widget->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
   segui(modello, [&modello, widget] {
     widget->setCaption(testo(modello.Caption()));
@@ -216,28 +198,16 @@ QToolButton* Legame::pulsanteConImmagine(Pulsante& modello, const QString& nome,
 }
 
 void Legame::premuto(Pulsante& modello) {
-  if (modello.CausesValidation && !validatore_.ammette()) return;
   confine_.esegui([&] {
     if (modello.Click) modello.Click();
   });
 }
 
-QDateEdit* Legame::selettoreData(SelettoreData& modello, const QString& nome) {
-  auto* widget = chiamato(new SelettoreVista(vista_), nome);
-  widget->setCalendarPopup(true);
-  widget->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
-  segui(modello, [&modello, widget] {
-    const QSignalBlocker silenzio(widget);
-    if (modello.MaxDate()) widget->setMaximumDate(giornoQt(*modello.MaxDate()));
-    if (modello.Value()) widget->setDate(giornoQt(*modello.Value()));
-    widget->setEnabled(modello.Enabled());
-  });
-  connect(widget, &QDateEdit::dateChanged, this, [this, &modello](const QDate& giorno) {
-    confine_.esegui([&] {
-      modello.Value(daGiornoQt(giorno));
-      if (modello.Change) modello.Change();
-    });
-  });
+SelettoreDataVista* Legame::selettoreData(SelettoreData& modello, const QString& nome) {
+  auto* widget = chiamato(new SelettoreDataVista(modello, confine_, vista_), nome);
+  if (!modello.CausesValidation) validatore_.nonChiede(widget);
+  validatore_.prova(widget, [widget] { return widget->trattiene(); });
+  segui(modello, [widget] { widget->aggiorna(); });
   return widget;
 }
 

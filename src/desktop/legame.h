@@ -6,11 +6,11 @@
 
 #include "desktop/campo_testo.h"
 #include "desktop/confine.h"
+#include "desktop/validatore.h"
 #include "forms/controlli.h"
 #include "forms/finestra.h"
 
 class QComboBox;
-class QDateEdit;
 class QGroupBox;
 class QLabel;
 class QPlainTextEdit;
@@ -22,6 +22,7 @@ class QWidget;
 
 namespace vaticlo {
 
+class SelettoreDataVista;
 class xpcmdbutton;
 class xpgroupbox;
 class xpradiobutton;
@@ -45,7 +46,7 @@ class Legame : public QObject {
   xpcmdbutton* pulsante(Pulsante& modello, const QString& nome);
   /// A button that shows a picture instead of a caption.
   QToolButton* pulsanteConImmagine(Pulsante& modello, const QString& nome, const QString& chiave);
-  QDateEdit* selettoreData(SelettoreData& modello, const QString& nome);
+  SelettoreDataVista* selettoreData(SelettoreData& modello, const QString& nome);
   QProgressBar* avanzamento(Avanzamento& modello, const QString& nome);
   QGroupBox* riquadro(Riquadro& modello, const QString& nome);
   xpgroupbox* riquadroDisegnato(Riquadro& modello, const QString& nome);

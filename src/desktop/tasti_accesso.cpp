@@ -48,7 +48,7 @@ bool TastiAccesso::premi(const QKeyEvent& tasto, bool davvero) const {
     }
     if (davvero && !tasto.isAutoRepeat()) {
       pulsante->setFocus(Qt::ShortcutFocusReason);
-      pulsante->click();
+      if (pulsante->hasFocus()) pulsante->click();  // a field that fails its test does not let the focus go
     }
     return true;
   }

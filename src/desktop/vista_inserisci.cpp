@@ -1,9 +1,9 @@
-#include <QDateEdit>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
 #include "controls/xpcmdbutton.h"
+#include "desktop/selettore_data.h"
 #include "desktop/tavola_estrazione.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_inserisci.h"

@@ -1,5 +1,6 @@
 #include "desktop/vista_principale.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
@@ -27,10 +28,15 @@ constexpr int kLatoImmagini = 32;
 
 int pixel(int twips) { return twips / kTwipsPerPixel; }
 
-/// A child window that knows its dialog.
+/// A child window that knows its dialog. A press on its frame or background leaves the focus where it is in
+/// it; the toolkit would take it away and give it back.
 class Figlia : public QMdiSubWindow {
  public:
-  explicit Figlia(std::shared_ptr<Finestra> finestra) : finestra_(std::move(finestra)) {}
+  explicit Figlia(std::shared_ptr<Finestra> finestra) : finestra_(std::move(finestra)) {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*prima*/, QWidget* ora) {
+      if (ora != nullptr && ora != this) setFocusProxy(isAncestorOf(ora) ? ora : nullptr);
+    });
+  }
   [[nodiscard]] const std::shared_ptr<Finestra>& finestra() const { return finestra_; }
 
  private:

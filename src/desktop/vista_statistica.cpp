@@ -1,4 +1,3 @@
-#include <QDateEdit>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -9,6 +8,7 @@
 
 #include "controls/xpcmdbutton.h"
 #include "desktop/riquadri.h"
+#include "desktop/selettore_data.h"
 #include "desktop/viste.h"
 #include "dialogs/frm_statistica.h"
 

@@ -1,5 +1,6 @@
 #include "dialogs/frm_inserisci.h"
 
+#include "dialogs/data_digitata.h"
 #include "platform/conversione.h"
 
 namespace vaticlo {
@@ -30,6 +31,10 @@ frmInserisci::frmInserisci(Programma& programma, Cornice& cornice)
     campo.Text("  ");
     campo.Validate = [this, f] { return txtestr_Validate(f); };
   }
+  mcdatecombo1.CausesValidation = false;  // the date can be chosen first
+  mcdatecombo1.Validate = [this](const std::string& digitata) {
+    return trattieneData(mcdatecombo1, digitata, programma_.servizi);
+  };
   btnSalva.Click = [this] { btnSalva_Click(); };
   btnCancella.Click = [this] { btnCancella_Click(); };
   btnCancella.CausesValidation = false;  // leaving is always possible

@@ -1,5 +1,6 @@
 #include "dialogs/frm_statistica.h"
 
+#include "dialogs/data_digitata.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"
 #include "platform/rapporto.h"
@@ -27,6 +28,10 @@ frmStatistica::frmStatistica(Programma& programma, Cornice& cornice)
     };
   DTInizio.Change = [this] { DTInizio_Change(); };
   DTFine.Change = [this] { DTFine_Change(); };
+  for (auto* selettore : {&DTInizio, &DTFine})
+    selettore->Validate = [this, selettore](const std::string& digitata) {
+      return trattieneData(*selettore, digitata, programma_.servizi);
+    };
   btnElabora.Click = [this] { btnElabora_Click(); };
   btnStop.Click = [this] { btnStop_Click(); };
   btnVincite.Click = [this] { btnVincite_Click(); };

@@ -67,4 +67,10 @@ int Elenco::ItemDataScelta() const {
   return voci_[static_cast<std::size_t>(indice_)].ItemData;
 }
 
+void SelettoreData::scegli(const Data& data) {
+  if (data == Value()) return;
+  Value(data);
+  if (Change) Change();
+}
+
 }  // namespace vaticlo

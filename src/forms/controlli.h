@@ -166,8 +166,14 @@ class Opzione : public Controllo {
 class SelettoreData : public Controllo {
  public:
   Proprieta<std::optional<Data>> Value{*this, std::nullopt};
-  Proprieta<std::optional<Data>> MaxDate{*this, std::nullopt};
-  std::function<void()> Change;  ///< runs when the user picks a date
+  Proprieta<std::optional<Data>> MaxDate{*this, std::nullopt};  ///< the latest date that can be picked
+  /// The user picks a date: Change follows when it is another one.
+  void scegli(const Data& data);
+
+  bool CausesValidation = true;  ///< going to it lets the control that is left validate itself
+  std::function<void()> Change;
+  /// The focus is about to leave a text that was typed: true keeps it there.
+  std::function<bool(const std::string& digitata)> Validate;
 };
 
 class Avanzamento : public Controllo {

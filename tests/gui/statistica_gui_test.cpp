@@ -1,4 +1,3 @@
-#include <QDateEdit>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMenuBar>
@@ -123,29 +122,32 @@ class StatisticaGuiTest : public QObject {
 
   void aDatePickedFillsItsNumberAndNoDateLiesAhead() {
     Statistica v;
-    auto& inizio = v.usa<QDateEdit>("DTInizio");
     QCOMPARE(v.testo("txtestr_0") + ' ' + v.testo("DTInizio"), QString("6877 03/01/2000"));
     QCOMPARE(v.testo("txtestr_1") + ' ' + v.testo("DTFine"), QString("110 14/03/2026"));
-    auto* cifre = inizio.findChild<QLineEdit*>();
-    QTest::mouseClick(cifre, Qt::LeftButton, {}, QPoint(cifre->fontMetrics().horizontalAdvance("03/0"), 5));
-    v.scrivi("5");
-    QCOMPARE(v.testo("DTInizio"), QString("03/05/2000"));
-    inizio.setSelectedSection(QDateEdit::DaySection);
-    v.scrivi("20032005");
-    QCOMPARE(v.testo("txtestr_0"), QString("104"));
-    for (const auto& [giorno, numero] : {std::pair{QDate(1899, 1, 3), "1"},
-                                         {QDate(2000, 1, 28), "3"},
-                                         {QDate(2000, 1, 31), "5"},  // only days are compared from here on
-                                         {QDate(2000, 3, 1), "4"},
-                                         {QDate(2005, 3, 13), "104"},
-                                         {QDate(2005, 3, 21), "110"},
-                                         {QDate(1899, 2, 1), "15001"}}) {
-      inizio.setDate(giorno);
+    for (const auto& [giorno, numero] : {std::pair{"3/1/1899", "1"},
+                                         {"28/1/2000", "3"},
+                                         {"31/1/2000", "5"},  // only days are compared from here on
+                                         {"1/3/2000", "4"},
+                                         {"13/3/2005", "104"},
+                                         {"21/3/2005", "110"},
+                                         {"1/2/1899", "15001"}}) {
+      v.clicca("DTInizio");
+      v.scrivi(giorno);
+      v.premi(Qt::Key_Tab);
       QCOMPARE(v.testo("txtestr_0"), QString(numero));
     }
-    v.usa<QDateEdit>("DTFine").setDate({2000, 1, 29});
+    v.clicca("DTFine");
+    for (const char* giorno : {"14/3/2026", "15/3/2026", "14/3/2062"}) {
+      v.scrivi(giorno);
+      v.premi(Qt::Key_Return);
+      QCOMPARE(v.testo("DTFine"), QString("14/03/2026"));
+    }
+    QCOMPARE(v.detti().size(), 2);
+    v.scrivi("29/1/2000");
+    QCOMPARE(v.testo("txtestr_1"), QString("110"));
+    v.premi(Qt::Key_E, Qt::AltModifier);
     QCOMPARE(v.testo("txtestr_1"), QString("3"));
-    QCOMPARE(inizio.maximumDate(), QDate(2026, 3, 14));
+    QCOMPARE(v.detti().size(), 1);  // the range, whose start lies behind it
   }
 
   void aRunIsPrintedAndItsListsOpenInOneWindowThatReadsItsFileAtEachActivation() {

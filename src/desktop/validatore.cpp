@@ -1,0 +1,64 @@
+#include "desktop/validatore.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QPointer>
+#include <QWidget>
+#include <utility>
+
+namespace vaticlo {
+
+Validatore::Validatore(QWidget* vista, const Confine& confine) : vista_(vista), confine_(confine) {
+  qApp->installEventFilter(this);
+}
+
+bool Validatore::eventFilter(QObject* oggetto, QEvent* evento) {
+  auto* widget = qobject_cast<QWidget*>(oggetto);
+  if (widget == nullptr) return false;
+  switch (evento->type()) {
+    case QEvent::WindowBlocked:
+      // A message is about to be shown: the control that it is about has the caret meanwhile.
+      if (inProva_ != nullptr && widget == vista_->window()) inProva_->setFocus(Qt::OtherFocusReason);
+      return false;
+    case QEvent::FocusIn: {
+      if (inProva_ != nullptr || widget == attuale_ || !vista_->isAncestorOf(widget)) return false;
+      if (!vista_->isVisible()) return false;  // a window that closes hands its focus round
+      const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
+      if (!respinge(widget)) return false;
+      pressionePersa_ = motivo == Qt::MouseFocusReason;
+      return true;
+    }
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+      // The toolkit moves the focus, and then delivers the event that moved it.
+      return std::exchange(pressionePersa_, false);
+    default:
+      return false;
+  }
+}
+
+/// The focus has come to another control. True when one that was left has taken it back.
+bool Validatore::respinge(QWidget* verso) {
+  const QPointer<Validatore> vivo = this;
+  std::erase(lasciati_, attuale_);
+  if (prove_.contains(attuale_)) lasciati_.push_back(attuale_);
+  std::erase(lasciati_, verso);
+  attuale_ = verso;
+  if (esenti_.contains(verso)) return false;
+  while (!lasciati_.empty()) {
+    inProva_ = lasciati_.front();
+    bool trattiene = false;
+    confine_.esegui([&] { trattiene = prove_[inProva_](); });
+    if (!vivo) return true;
+    auto* provato = std::exchange(inProva_, nullptr);
+    std::erase(lasciati_, provato);
+    if (!trattiene) continue;
+    attuale_ = provato;
+    provato->setFocus(Qt::OtherFocusReason);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace vaticlo
