@@ -6,7 +6,7 @@ namespace vaticlo {
 
 namespace {
 
-/// The fields of the editor, behind the parameters that say which prediction.
+/// The parameters that say which prediction, followed by the fields of the editor.
 std::vector<Parametro> conCampi(std::vector<Parametro> parametri, bool nuova) {
   for (const auto& campo :
        std::vector<Parametro>{{"--estrazione", "Numero dell'estrazione di calcolo", "N", nuova},
