@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "platform/blocco.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
 
@@ -30,6 +31,14 @@ std::optional<ArchivioEstrazioni> importa(Servizi& servizi, const fs::path& file
   return std::nullopt;
 }
 
+// False when there are draws that nobody gave up.
+bool scrivi(const CartellaProgramma& cartella, const ArchivioEstrazioni& nuovo, bool sostituire) {
+  const BloccoCartella blocco(cartella.radice());
+  if (!sostituire && ApriArchivio(cartella)(1, 0, 1) != 0) return false;
+  ScriviArchivio(cartella, nuovo);
+  return true;
+}
+
 }  // namespace
 
 ArchivioEstrazioni leggiEstrazioni(const fs::path& file, const std::function<void(int)>& avanzamento) {
@@ -42,13 +51,14 @@ void importaEstrazioniDaFile(Programma& programma) {
   if (file.empty()) return;
   const auto nuovo = importa(servizi, file);
   if (!nuovo) return;
-  const bool vuoto = ApriArchivio(programma.cartella)(1, 0, 1) == 0;
-  if (!vuoto && servizi.mostra({"L'archivio contiene già delle estrazioni. Sostituirle tutte con quelle del "
-                                "file (" +
-                                    riassunto(*nuovo) + ")?",
-                                kTitolo, Genere::Domanda, Icona::Esclamazione, Risposta::No}) != Risposta::Si)
-    return;
-  ScriviArchivio(programma.cartella, *nuovo);
+  if (!scrivi(programma.cartella, *nuovo, false)) {
+    const auto risposta =
+        servizi.mostra({"L'archivio contiene già delle estrazioni. Sostituirle tutte con quelle del file (" +
+                            riassunto(*nuovo) + ")?",
+                        kTitolo, Genere::Domanda, Icona::Esclamazione, Risposta::No});
+    if (risposta != Risposta::Si) return;
+    scrivi(programma.cartella, *nuovo, true);
+  }
   servizi.mostra({"Importate " + riassunto(*nuovo), kTitolo});
 }
 
