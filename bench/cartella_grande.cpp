@@ -7,6 +7,7 @@
 
 #include "archive/archivio.h"
 #include "archive/ruota.h"
+#include "methods/cartella_metodi.h"
 #include "methods/testi_campi.h"
 
 namespace vaticlo {
@@ -62,7 +63,7 @@ TestiPrevisione previsioneCasuale(Caso& caso) {
 
 void creaCartellaGrande(const CartellaProgramma& cartella, int estrazioni, int metodi) {
   Caso caso;
-  std::filesystem::create_directories(cartella.metodi());
+  std::filesystem::create_directories(cartellaMetodi(cartella));
   const auto archivio = archivioGrande(caso, estrazioni);
   ScriviArchivio(cartella, archivio);
   for (int m = 1; m <= metodi; ++m) {

@@ -30,7 +30,7 @@ class Cartella {
       : programma(std::filesystem::temp_directory_path() / ("vaticlo-bench-" + std::to_string(::getpid())),
                   servizi) {
     creaCartellaGrande(programma.cartella, kEstrazioni, metodi);
-    programma.globals.UltimaEstrazione = kEstrazioni;
+    programma.globals.apriSullUltima(kEstrazioni + 1);
     programma.globals.UltimaEstrazione16 = kEstrazioni;
     programma.globals.MetodoScelto = 1;
   }
@@ -56,7 +56,7 @@ void Verifica(benchmark::State& stato) {
   Cartella cartella(static_cast<int>(stato.range(0)));
   int n = 101;
   for (auto _ : stato) {
-    cartella.programma.globals.EstrazioneCorrente = cartella.programma.globals.EstrazioneBase = n;
+    cartella.programma.globals.mostra(n);
     clsMetodo controllo(cartella.programma, {{}, std::to_string(n)});
     controllo.ricerca(n);
     controllo.rilascia();

@@ -1,8 +1,12 @@
-# vaticlo_folder(NAME LINKS ...): the library of one folder of src/, reached as "NAME/file.h" by those alone that link
-# it. Each folder gets an include root of its own that holds nothing but a link to it, so an #include against the
+# vaticlo_folder(NAME LINKS ... [SOURCES ...]): the library of one folder of src/, made of its *.cpp (main.cpp left out)
+# unless SOURCES names them, and reached as "NAME/file.h" by those alone that link it. Each folder gets an include root of its own that holds nothing but a link to it, so an #include against the
 # arrows of the design does not build.
 function(vaticlo_folder name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  if(NOT ARG_SOURCES)
+    file(GLOB_RECURSE ARG_SOURCES RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS *.cpp)
+    list(REMOVE_ITEM ARG_SOURCES main.cpp)
+  endif()
   set(root ${PROJECT_BINARY_DIR}/include/${name})
   file(MAKE_DIRECTORY ${root})
   file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${name} SYMBOLIC)

@@ -9,11 +9,11 @@ class Verifica : public testing::Test {
  protected:
   void archivio(int ultima, const std::string& uscite = "") {
     archivioDi(ultima, uscite).scrivi(p);
-    p.globals().UltimaEstrazione = ultima;
+    p.globals().apriSullUltima(ultima + 1);
   }
   /// The report of the check of a draw.
   std::string verifica(int estrazione, const std::string& lblnestr, const SceltaMetodo& scelta = {}) {
-    p.globals().EstrazioneCorrente = p.globals().EstrazioneBase = estrazione;
+    p.globals().mostra(estrazione);
     clsMetodo controllo(p.programma, {scelta, lblnestr});
     controllo.ricerca(0);
     controllo.rilascia();

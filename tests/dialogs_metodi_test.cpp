@@ -1,4 +1,5 @@
 #include "dialogs/frm_gestione_metodi.h"
+#include "methods/cartella_metodi.h"
 #include "operations/gestione_metodi.h"
 #include "sostegno/cornice_prova.h"
 #include "sostegno/logica.h"
@@ -24,13 +25,13 @@ TEST_F(Metodi, TheirWindowRenamesAndDeletesAfterAYes) {
   p.servizi.risposta = Risposta::No;
   frm.btnRinomina.Click();
   frm.btnElimina.Click();
-  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("A.dat"));
+  EXPECT_THAT(elencaFile(cartellaMetodi(p.cartella())), ElementsAre("A.dat"));
   p.servizi.risposta = Risposta::Si;
   frm.btnRinomina.Click();
-  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("B.dat"));
+  EXPECT_THAT(elencaFile(cartellaMetodi(p.cartella())), ElementsAre("B.dat"));
   frm.cmbMetodo.scegli(0);
   frm.btnElimina.Click();
-  EXPECT_TRUE(frm.cmbMetodo.voci().empty() && p.cartella().elencaMetodi().empty());
+  EXPECT_TRUE(frm.cmbMetodo.voci().empty() && elencaFile(cartellaMetodi(p.cartella())).empty());
 }
 
 TEST_F(Metodi, ANameMustBeAFileOnEverySystemAndNew) {
@@ -42,7 +43,7 @@ TEST_F(Metodi, ANameMustBeAFileOnEverySystemAndNew) {
     EXPECT_FALSE(gestione.crea(nome)) << nome;
     EXPECT_THAT(p.servizi.detti(), ElementsAre(StartsWith("[Attenzione] "))) << nome;
   }
-  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("Città.dat"));
+  EXPECT_THAT(elencaFile(cartellaMetodi(p.cartella())), ElementsAre("Città.dat"));
 }
 
 TEST_F(Metodi, AMethodIsCreatedRenamedAndDeletedAndNeverReplacesAnother) {
@@ -58,7 +59,7 @@ TEST_F(Metodi, AMethodIsCreatedRenamedAndDeletedAndNeverReplacesAnother) {
   EXPECT_FALSE(gestione.elimina("manca"));
   EXPECT_EQ(p.servizi.messaggi.size(), 4U);
   EXPECT_TRUE(gestione.elimina("Mio 1.5"));
-  EXPECT_THAT(p.cartella().elencaMetodi(), ElementsAre("MIO.dat", "Mio.dat"));
+  EXPECT_THAT(elencaFile(cartellaMetodi(p.cartella())), ElementsAre("MIO.dat", "Mio.dat"));
   EXPECT_EQ(p.contenuto("Metodi/MIO.dat") + p.contenuto("Metodi/Mio.dat"), "mioaltro");
 }
 

@@ -1,3 +1,4 @@
+#include "methods/cartella_metodi.h"
 #include "methods/catalogo.h"
 #include "methods/decodifica.h"
 #include "sostegno/logica.h"
@@ -22,15 +23,54 @@ TEST(MethodFile, KeepsTenSlotsInterleavedByteByByte) {
   }
 }
 
-TEST(MethodFile, HasAsManyPredictionsAsStandBeforeTheFirstOnAMultipleOfOneHundred) {
-  const auto conta = [](const Celle& estrazioni) {
-    std::vector<SlotProva> slot;
-    for (const int estrazione : estrazioni) slot.push_back({.estrazione = estrazione});
-    return ContaPrevisioni(metodoProva(slot));
+FileMetodo calcolateSu(const Celle& estrazioni) {
+  std::vector<SlotProva> slot;
+  for (const int estrazione : estrazioni) slot.push_back({.estrazione = estrazione});
+  return metodoProva(slot);
+}
+
+TEST(MethodFile, ASlotCountsAsTakenForTheScansForTheListAndForTheSaveInThreeWays) {
+  struct Caso {
+    Celle estrazioni;
+    int viste, elencate, libero;
   };
-  EXPECT_EQ(conta({57, 3501, 3500, 3502}), 2);
-  EXPECT_EQ(conta(Celle(9, 101)), 9);
-  EXPECT_EQ(failureDi([&] { return conta(Celle(10, 101)); }), 9);
+  for (const auto& [estrazioni, viste, elencate, libero] : {Caso{{}, 0, 0, 1},
+                                                            {{57, 3501, 3500, 3502}, 2, 4, 1},
+                                                            {{3501, 57, 3502}, 3, 3, 2},
+                                                            {{100, 200}, 0, 2, 3},
+                                                            {Celle(9, 101), 9, 9, 10}}) {
+    SCOPED_TRACE(testing::PrintToString(estrazioni));
+    const auto metodo = calcolateSu(estrazioni);
+    EXPECT_EQ(ContaPrevisioni(metodo), viste);
+    EXPECT_EQ(ContaElencate(metodo), elencate);
+    EXPECT_EQ(PrimoSlotLibero(metodo), libero);
+  }
+  const auto pieno = calcolateSu(Celle(10, 101));
+  EXPECT_EQ(failureDi([&] { return ContaPrevisioni(pieno); }), 9);
+  EXPECT_EQ(failureDi([&] { return ContaElencate(pieno); }), 9);
+  EXPECT_EQ(PrimoSlotLibero(pieno), 0);
+}
+
+TEST(MethodFile, ASlotIsEmptiedWholeAndAloneAndNoneCanBeTakenAway) {
+  FileMetodo metodo, atteso;
+  std::ranges::fill(metodo.ottetti(), std::uint8_t{7});
+  for (std::size_t n = 0; n < FileMetodo::Ottetti; ++n)
+    atteso.ottetti()[n] = n % FileMetodo::Slot == 3 ? 0 : 7;  // the slot runs fastest
+  SvuotaSlot(metodo, 4);
+  EXPECT_TRUE(std::ranges::equal(metodo.ottetti(), atteso.ottetti()));
+  EXPECT_EQ(failureDi([&] { return SenzaPrevisione(metodo, 2); }), 9);
+}
+
+TEST(MethodFile, IsTheTrimmedNameWithDatInsideTheFolderOfTheMethods) {
+  const ProgrammaProva p;
+  const auto metodi = cartellaMetodi(p.cartella());
+  p.scrivi("Metodi/Metodo 1.dat", "");
+  std::filesystem::create_directory(metodi / "Cartella.dat");
+  EXPECT_EQ(fileMetodo(p.cartella(), "  Metodo 1 "), metodi / "Metodo 1.dat");
+  EXPECT_TRUE(esisteMetodo(p.cartella(), " Metodo 1"));
+  for (const auto* nome : {"Metodo 2", "Cartella", "../Metodi/Metodo 1"})
+    EXPECT_FALSE(esisteMetodo(p.cartella(), nome)) << nome;
+  EXPECT_EQ(failureDi([&] { return fileMetodo(p.cartella(), "../archivion71"); }), 52);
 }
 
 /// One scan: each prediction is decoded over what the one before it has left behind.

@@ -1,3 +1,4 @@
+#include "methods/cartella_metodi.h"
 #include "operations/importa_estrazioni.h"
 #include "sostegno/logica.h"
 
@@ -45,7 +46,7 @@ TEST_F(Importa, TellsWhatIsWrongWithAFileAndKeepsTheArchive) {
   EXPECT_EQ(p.servizi.percenti.back(), 100) << "the progress box goes away";
   EXPECT_THAT(importa(""), ElementsAre(HasSubstr("riga 1: il file è vuoto")));
   p.servizi.messaggi.clear();
-  for (const auto& file : {p.cartella().metodi(), p.radice / "manca.txt"}) {
+  for (const auto& file : {cartellaMetodi(p.cartella()), p.radice / "manca.txt"}) {
     p.servizi.scelto = file;
     importaEstrazioniDaFile(p.programma);
   }

@@ -178,22 +178,12 @@ TEST_F(Files, MethodsAreListedByUpperCasedNameWithoutFoldersAndHiddenFiles) {
   for (const auto* nome : {"é.dat", "È.dat", "b.dat", "Z.dat", "A.dat", ".nascosto.dat", "c", "ça.dat"})
     p.scrivi(std::string("Metodi/") + nome, "");
   fs::create_directory(percorso("Metodi/B cartella.dat"));
-  EXPECT_THAT(p.cartella().elencaMetodi(),
+  EXPECT_THAT(elencaFile(percorso("Metodi")),
               ElementsAre("A.dat", "b.dat", "c", "Z.dat", "ça.dat", "È.dat", "é.dat"));
   fs::remove_all(percorso("Metodi"));
-  EXPECT_THAT(p.cartella().elencaMetodi(), IsEmpty());
+  EXPECT_THAT(elencaFile(percorso("Metodi")), IsEmpty());
   p.scrivi("Metodi", "a file in its place");
-  EXPECT_EQ(failureDi([&] { return p.cartella().elencaMetodi(); }), 75);
-}
-
-TEST_F(Files, AMethodIsItsTrimmedNameWithDatInsideItsFolder) {
-  p.scrivi("Metodi/Metodo 1.dat", "");
-  fs::create_directory(percorso("Metodi/Cartella.dat"));
-  EXPECT_EQ(p.cartella().metodo("  Metodo 1 "), percorso("Metodi/Metodo 1.dat"));
-  EXPECT_TRUE(p.cartella().esisteMetodo(" Metodo 1"));
-  for (const auto* nome : {"Metodo 2", "Cartella", "../Metodi/Metodo 1"})
-    EXPECT_FALSE(p.cartella().esisteMetodo(nome)) << nome;
-  EXPECT_EQ(failureDi([&] { return p.cartella().metodo("../archivion71"); }), 52);
+  EXPECT_EQ(failureDi([&] { return elencaFile(percorso("Metodi")); }), 75);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 
+#include "methods/cartella_metodi.h"
 #include "platform/scaricamento.h"
 #include "sostegno/cartella_prova.h"
 #include "sostegno/server_prova.h"
@@ -41,7 +42,7 @@ class Download : public testing::Test {
   }
   static constexpr const char* kVecchio = "vecchio e lungo";
   prova::ProgrammaProva p;
-  const std::string segreto = "file://" + (p.cartella().metodi() / "M.dat").string();
+  const std::string segreto = "file://" + (cartellaMetodi(p.cartella()) / "M.dat").string();
   const prova::ServerProva server{{{"/breve", risposta("200 OK", "nuovo")},
                                    {"/lungo", risposta("203 Non-Authoritative", std::string(900, 'x'))},
                                    {"/rinvio", rinvio("/rinvio2")},
@@ -94,7 +95,7 @@ TEST_F(Download, FollowsARedirectionToTheWebAlone) {
 }
 
 TEST_F(Download, LeavesNothingBesideADestinationThatRefuses) {
-  EXPECT_FALSE(scaricaInFile(server.indirizzo("/breve"), p.cartella().metodi()));
+  EXPECT_FALSE(scaricaInFile(server.indirizzo("/breve"), cartellaMetodi(p.cartella())));
   EXPECT_EQ(nellaCartella(), 1);
 }
 

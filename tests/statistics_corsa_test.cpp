@@ -23,7 +23,7 @@ class Corsa : public testing::Test {
   void archivio(const ArchivioProva& archivio) {
     archivio.scrivi(p);
     auto& g = p.globals();
-    g.UltimaEstrazione = archivio.griglia.PrimoIndiceLibero() - 1;
+    g.apriSullUltima(archivio.griglia.PrimoIndiceLibero());
     g.UltimaEstrazione16 = static_cast<std::int16_t>(g.UltimaEstrazione);
   }
   void corri(int inizio, int fine) {

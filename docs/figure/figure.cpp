@@ -25,6 +25,8 @@
 #include "desktop/servizi_desktop.h"
 #include "desktop/vista_principale.h"
 #include "desktop/vista_splash.h"
+#include "dialogs/frm_principale.h"
+#include "methods/cartella_metodi.h"
 #include "operations/dimostrazione.h"
 
 namespace vaticlo {
@@ -239,8 +241,8 @@ int main(int argc, char* argv[]) {
   const QTemporaryDir cartella;
   ServiziFigure servizi;
   Programma programma(cartella.path().toStdString(), servizi);
-  std::filesystem::create_directories(programma.cartella.metodi());
-  std::filesystem::create_directory_symlink(VATICLO_GUIDA, programma.cartella.guida().parent_path());
+  std::filesystem::create_directories(cartellaMetodi(programma.cartella));
+  std::filesystem::create_directory_symlink(VATICLO_GUIDA, programma.cartella.file(kFileGuida).parent_path());
   servizi.fileDaImportare = programma.cartella.radice() / "estrazioni.txt";
   std::ofstream(servizi.fileDaImportare) << fileDiEstrazioni();
   std::ostream nessuno(nullptr);

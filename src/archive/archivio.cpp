@@ -24,14 +24,37 @@ std::string ArchivioEstrazioni::DataEstrazione(int i) const {
          (annoNelSecolo < 10 ? "0" : "") + std::to_string(annoNelSecolo);
 }
 
+void ArchivioEstrazioni::scriviData(int i, const Data& data, int secolo) {
+  ArchivioEstrazioni& a = *this;
+  a(i, 0, 1) = static_cast<std::uint8_t>(giorno(data));
+  a(i, 0, 2) = static_cast<std::uint8_t>(mese(data));
+  a(i, 0, 3) = static_cast<std::uint8_t>(annoDueCifre(data));
+  a(i, 0, 4) = static_cast<std::uint8_t>(secolo);
+  a(i, 0, 5) = 0;
+}
+
+int cercaData(const ArchivioEstrazioni& archivio, const DataCercata& data, int ultima) {
+  int i = 1;
+  const auto avanza = [&](auto fermati) {
+    while (i <= ArchivioEstrazioni::MaxEstrazioni && !fermati(i)) ++i;
+  };
+  // Meant: each walk goes on where the last one stopped and never back.
+  avanza([&](int d) { return archivio(d, 0, 4) == data.secolo; });
+  avanza([&](int d) { return archivio(d, 0, 3) == data.anno; });
+  avanza([&](int d) { return archivio(d, 0, 2) == data.mese; });
+  // Meant: days alone are compared here, whatever month the walk gets into.
+  avanza([&](int d) { return archivio(d, 0, 1) >= data.giorno || d >= ultima; });
+  return i;
+}
+
 ArchivioEstrazioni ApriArchivio(const CartellaProgramma& cartella) {
   ArchivioEstrazioni archivio;
-  leggiFile(cartella.archivio(), archivio.ottetti());
+  leggiFile(cartella.file(kFileArchivio), archivio.ottetti());
   return archivio;
 }
 
 void ScriviArchivio(const CartellaProgramma& cartella, const ArchivioEstrazioni& archivio) {
-  scriviFile(cartella.archivio(), archivio.ottetti());
+  scriviFile(cartella.file(kFileArchivio), archivio.ottetti());
 }
 
 }  // namespace vaticlo

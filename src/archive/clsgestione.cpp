@@ -9,12 +9,13 @@ namespace vaticlo {
 
 namespace {
 
-constexpr std::uint8_t kSecoloDiOgniSalvataggio = 20;
+// Meant: a draw of another century becomes one of 20xx with its first save.
+constexpr int kSecoloDiOgniSalvataggio = 20;
 
 int ruotaDelCampo(int f) { return 1 + f / ArchivioEstrazioni::Colonne; }
 int posizioneDelCampo(int f) { return 1 + f % ArchivioEstrazioni::Colonne; }
 
-void mostra(FinestraEstrazione& frm, const ArchivioEstrazioni& archivio, int n) {
+void mostra(SchedaEstrazione& frm, const ArchivioEstrazioni& archivio, int n) {
   frm.lbldataestr_Caption(archivio.DataEstrazione(n));
   frm.lblnestr_Caption(std::to_string(n));
   for (int f = 0; f < kCampiEstrazione; ++f)
@@ -23,10 +24,7 @@ void mostra(FinestraEstrazione& frm, const ArchivioEstrazioni& archivio, int n) 
 
 }  // namespace
 
-clsGestione::clsGestione(const CartellaProgramma& cartella, Servizi& servizi)
-    : cartella_(cartella), servizi_(servizi), archivio_(ApriArchivio(cartella)) {}
-
-int clsGestione::salva(FinestraEstrazione& frm, std::optional<int> n) {
+int clsGestione::salva(const ModuloEstrazione& frm, std::optional<int> n) {
   const BloccoCartella blocco(cartella_.radice());
   auto archivio = ApriArchivio(cartella_);
   std::optional<Data> data;
@@ -38,26 +36,21 @@ int clsGestione::salva(FinestraEstrazione& frm, std::optional<int> n) {
     data = frm.mcdatecombo1_Value();
     if (!data) data = servizi_.oggi();
   }
-  archivio(*n, 0, 1) = static_cast<std::uint8_t>(giorno(*data));
-  archivio(*n, 0, 2) = static_cast<std::uint8_t>(mese(*data));
-  archivio(*n, 0, 3) = static_cast<std::uint8_t>(annoDueCifre(*data));
-  // A draw of another century becomes one of 20xx with its first save: meant.
-  archivio(*n, 0, 4) = kSecoloDiOgniSalvataggio;
-  archivio(*n, 0, 5) = 0;
+  archivio.scriviData(*n, *data, kSecoloDiOgniSalvataggio);
   for (int f = 0; f < kCampiEstrazione; ++f)
     archivio(*n, ruotaDelCampo(f), posizioneDelCampo(f)) = inByte(frm.txtestr_Text(f));
   ScriviArchivio(cartella_, archivio);
   return *n;
 }
 
-void clsGestione::Visualizza(FinestraEstrazione& frm, int n) { mostra(frm, ApriArchivio(cartella_), n); }
+void clsGestione::Visualizza(SchedaEstrazione& frm, int n) { mostra(frm, ApriArchivio(cartella_), n); }
 
-void clsGestione::cancella(FinestraEstrazione& frm, std::int16_t n) {
+void clsGestione::cancella(SchedaEstrazione& frm, std::int16_t n) {
   std::optional<BloccoCartella> blocco(std::in_place, cartella_.radice());
   auto archivio = ApriArchivio(cartella_);
   const int libero = archivio.PrimoIndiceLibero();
-  // Rows 0 to 10 move down. Row 11, the Nazionale, stays: each later draw takes that of the draw before it.
-  // Meant.
+  // Meant: rows 0 to 10 move down and row 11, the Nazionale, stays, so that each later draw takes that of the
+  // draw before it.
   for (int r = n; r < libero; ++r)
     for (int j = 0; j < kRuote; ++j)
       for (int k = 1; k <= ArchivioEstrazioni::Colonne; ++k) archivio(r, j, k) = archivio(r + 1, j, k);
@@ -68,17 +61,11 @@ void clsGestione::cancella(FinestraEstrazione& frm, std::int16_t n) {
   mostra(frm, archivio, n);
 }
 
-void clsGestione::Trova(FinestraEstrazione& frm, int giorno, int mese, int secolo, int anno) {
+void clsGestione::Trova(SchedaEstrazione& frm, int giorno, int mese, int secolo, int anno) {
+  const auto archivio = ApriArchivio(cartella_);  // an archive that can't be opened is no miss
   try {
-    const auto archivio = ApriArchivio(cartella_);
-    // Four walks with one index, none of which tests again what an earlier one met: a month that the year has
-    // not is found in a later year, and the walks run on through the free slots. Meant.
-    int i = 1;
-    while (archivio(i, 0, 4) != secolo) ++i;
-    while (archivio(i, 0, 3) != anno) ++i;
-    while (archivio(i, 0, 2) != mese) ++i;
-    while (archivio(i, 0, 1) < giorno) ++i;
-    Visualizza(frm, i);
+    const int i = cercaData(archivio, {.giorno = giorno, .mese = mese, .anno = anno, .secolo = secolo});
+    mostra(frm, archivio, i);  // off the grid it fails, as the walks do
     frm.VScroll1_Value(i + 1);
   } catch (const RuntimeFailure& failure) {
     if (failure.errore() == Errore::Indice)
@@ -92,7 +79,7 @@ void clsGestione::VisualizzaSomDif(SchedaSomDif& frm, int n) {
   frm.lblnestr_Caption(std::to_string(n));
 
   const auto tipo = frm.opzione();
-  const auto valori = tipo ? CalcolaSomDif(archivio_, n, *tipo) : ValoriSomDif{};
+  const auto valori = tipo ? CalcolaSomDif(archivio, n, *tipo) : ValoriSomDif{};
   for (int i = 0; i < kRuoteSomDif; ++i)
     for (int c = 0; c < static_cast<int>(valori.size()); ++c)
       frm.txtestr_Mostra(c, i,

@@ -3,23 +3,18 @@
 #include <array>
 #include <string>
 
+#include "platform/conversione.h"
 #include "platform/testo.h"
 
 namespace vaticlo {
 
-namespace {
-
-std::optional<int> cifre(std::string_view testo) {
-  if (testo.empty() || testo.size() > 4) return std::nullopt;
-  int valore = 0;
-  for (const char c : testo) {
-    if (c < '0' || c > '9') return std::nullopt;
-    valore = valore * 10 + (c - '0');
-  }
-  return valore;
+std::optional<Data> dataDiCalendario(int giorno, int mese, int anno) {
+  if (giorno < 1 || mese < 1) return std::nullopt;
+  const Data data{std::chrono::year{anno}, std::chrono::month{static_cast<unsigned>(mese)},
+                  std::chrono::day{static_cast<unsigned>(giorno)}};
+  if (!data.ok()) return std::nullopt;
+  return data;
 }
-
-}  // namespace
 
 std::optional<Data> dataDaTesto(std::string_view testo) {
   testo = senzaBlanchi(testo);
@@ -36,10 +31,7 @@ std::optional<Data> dataDaTesto(std::string_view testo) {
   if (!g || !m || !a || parti[0].size() > 2 || parti[1].size() > 2) return std::nullopt;
   if (parti[2].size() != 2 && parti[2].size() != 4) return std::nullopt;
   const int annoIntero = parti[2].size() == 4 ? *a : *a < 30 ? 2000 + *a : 1900 + *a;
-  const Data data{std::chrono::year{annoIntero}, std::chrono::month{static_cast<unsigned>(*m)},
-                  std::chrono::day{static_cast<unsigned>(*g)}};
-  if (!data.ok()) return std::nullopt;
-  return data;
+  return dataDiCalendario(*g, *m, annoIntero);
 }
 
 std::optional<Data> dataDigitata(std::string_view testo) {

@@ -7,6 +7,7 @@
 
 #include "archive/data.h"
 #include "archive/ruota.h"
+#include "platform/conversione.h"
 #include "platform/testo.h"
 
 namespace vaticlo {
@@ -20,15 +21,6 @@ constexpr std::array<std::string_view, kRuote> kSiglePubbliche = {"BA", "CA", "F
 constexpr int kMassimoEstrazioni = ArchivioEstrazioni::MaxEstrazioni - 1;  // the archive needs one free slot
 constexpr std::string_view kForma =
     "attesa la forma aaaa/mm/gg, ruota e cinque numeri, separati da tabulazioni";
-
-int numero(std::string_view cifre) {
-  int valore = 0;
-  for (const char c : cifre) {
-    if (c < '0' || c > '9') return -1;
-    valore = valore * 10 + (c - '0');
-  }
-  return cifre.empty() || cifre.size() > 4 ? -1 : valore;
-}
 
 class Lettore {
  public:
@@ -49,22 +41,18 @@ class Lettore {
 
   void prendiData(std::string_view testo) {
     if (testo.size() != 10 || testo[4] != '/' || testo[7] != '/') errore(std::string(kForma));
-    const int a = numero(testo.substr(0, 4)), m = numero(testo.substr(5, 2)), g = numero(testo.substr(8, 2));
-    const Data data{std::chrono::year{a}, std::chrono::month{static_cast<unsigned>(m)},
-                    std::chrono::day{static_cast<unsigned>(g)}};
-    if (a < 1800 || a > 2099 || m < 1 || g < 1 || !data.ok())
-      errore("\"" + citazione(testo) + "\" non è una data valida");
-    if (estrazioni_ > 0 && data < data_) errore("la data è precedente a quella della riga prima");
-    if (estrazioni_ > 0 && data == data_) return;
+    const int a = cifre(testo.substr(0, 4)).value_or(0);
+    const auto data =
+        dataDiCalendario(cifre(testo.substr(8, 2)).value_or(0), cifre(testo.substr(5, 2)).value_or(0), a);
+    if (!data || a < 1800 || a > 2099) errore("\"" + citazione(testo) + "\" non è una data valida");
+    if (estrazioni_ > 0 && *data < data_) errore("la data è precedente a quella della riga prima");
+    if (estrazioni_ > 0 && *data == data_) return;
     if (estrazioni_ == kMassimoEstrazioni)
       errore("più di " + std::to_string(kMassimoEstrazioni) + " estrazioni");
-    data_ = data;
+    data_ = *data;
     ruote_.reset();
     ++estrazioni_;
-    archivio_(estrazioni_, 0, 1) = static_cast<std::uint8_t>(g);
-    archivio_(estrazioni_, 0, 2) = static_cast<std::uint8_t>(m);
-    archivio_(estrazioni_, 0, 3) = static_cast<std::uint8_t>(a % 100);
-    archivio_(estrazioni_, 0, 4) = static_cast<std::uint8_t>(a / 100);
+    archivio_.scriviData(estrazioni_, *data, a / 100);
   }
 
   int prendiRuota(std::string_view sigla) {
@@ -77,8 +65,8 @@ class Lettore {
   }
 
   std::uint8_t prendiNumero(std::string_view testo, int ruota, int k) const {
-    const int valore = testo.size() > 2 ? -1 : numero(testo);
-    if (valore < 1 || valore > 90) errore("\"" + citazione(testo) + "\" non è un numero da 1 a 90");
+    const int valore = testo.size() > 2 ? 0 : cifre(testo).value_or(0);
+    if (valore < 1 || valore > kNumeri) errore("\"" + citazione(testo) + "\" non è un numero da 1 a 90");
     for (int prima = 1; prima < k; ++prima)
       if (archivio_(estrazioni_, ruota, prima) == valore)
         errore("il numero " + std::to_string(valore) + " è ripetuto nella stessa ruota");

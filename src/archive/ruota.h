@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <string>
 #include <string_view>
 
 namespace vaticlo {
@@ -12,6 +11,7 @@ struct Ruota {
   std::string_view sigla;
 };
 
+inline constexpr int kNumeri = 90;  ///< the numbers of the game: 1 to 90
 inline constexpr int kRuote = 11;
 inline constexpr int kTutte = 12;  ///< the wheel code of predictions for "all wheels"
 

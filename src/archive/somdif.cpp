@@ -1,9 +1,11 @@
 #include "archive/somdif.h"
 
+#include "archive/ruota.h"
+
 namespace vaticlo {
 
 int Riduci90(int x) {
-  while (x > 90) x -= 90;
+  while (x > kNumeri) x -= kNumeri;
   return x;
 }
 
@@ -11,7 +13,7 @@ int Differenza(int a, int b) { return a > b ? a - b : b - a; }
 
 std::int16_t DistanzaCiclo(int a, int b) {
   const int d = Differenza(a, b);
-  return static_cast<std::int16_t>(d > 45 ? 90 - d : d);
+  return static_cast<std::int16_t>(d > kNumeri / 2 ? kNumeri - d : d);
 }
 
 ValoriSomDif CalcolaSomDif(const ArchivioEstrazioni& archivio, int estrazione, TipoSomDif tipo) {

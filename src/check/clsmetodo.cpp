@@ -1,5 +1,7 @@
 #include "check/clsmetodo.h"
 
+#include <optional>
+
 #include "methods/testi_previsione.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"
@@ -12,7 +14,7 @@ clsMetodo::clsMetodo(Programma& programma, SceltaVerifica scelta)
       scelta_(std::move(scelta)),
       archivio_(ApriArchivio(programma.cartella)),
       regole_(archivio_),
-      rapporto_(programma.cartella.esiti()) {
+      rapporto_(programma.cartella.file(kFileEsiti)) {
   g_.ContaGiocabili = 0;
   g_.ContaVincenti = 0;
   g_.ContaInGioco = 0;
@@ -20,7 +22,7 @@ clsMetodo::clsMetodo(Programma& programma, SceltaVerifica scelta)
 }
 
 void clsMetodo::ricerca([[maybe_unused]] int estrazione) {
-  // The draw to match is the one that the dialog shows; the argument plays no part.
+  // Meant: the draw to match is the one that the dialog shows, and the argument plays no part.
   try {
     ScorriMetodi();
   } catch (const RuntimeFailure&) {
@@ -34,11 +36,13 @@ void clsMetodo::rilascia() {
 
 void clsMetodo::ScorriMetodi() {
   g_.ElencoMetodi = CaricaElencoMetodi(programma_.cartella, scelta_.metodo);
+  std::optional<std::int16_t> mostrata;  // a label that is no number fails at the first prediction only
   for (const auto& nome : g_.ElencoMetodi) {
     const auto metodo = LeggiMetodo(programma_.cartella, nome);
     const int previsioni = ContaPrevisioni(metodo);
     for (int slot = 1; slot <= previsioni; ++slot) {
-      if (inIntero16(scelta_.lblnestr) != metodo.EstrazioneCalcolo(slot)) continue;
+      if (!mostrata) mostrata = inIntero16(scelta_.lblnestr);
+      if (*mostrata != metodo.EstrazioneCalcolo(slot)) continue;
       decodificatore_.DecodificaPrevisione(metodo, slot, g_.previsione);
       RiportaPrevisione(g_.previsione.Colpi, nome);
     }

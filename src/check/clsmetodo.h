@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "archive/regole.h"
@@ -13,6 +14,8 @@
 #include "program/programma.h"
 
 namespace vaticlo {
+
+inline constexpr std::string_view kFileEsiti = "Esiti.txt";
 
 /// What the check takes from its dialog.
 struct SceltaVerifica {

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "console/riga_di_comando.h"
+#include "methods/cartella_metodi.h"
 #include "platform/failure.h"
 
 namespace vaticlo {
@@ -34,7 +35,7 @@ Programma& Sessione::programma() {
     programma_.emplace(cartella_ ? fs::path(*cartella_) : cartellaEseguibile(), servizi);
     // A folder that can't be made shows itself in the first file that is opened in it.
     std::error_code ignorato;
-    fs::create_directories(programma_->cartella.metodi(), ignorato);
+    fs::create_directories(cartellaMetodi(programma_->cartella), ignorato);
   }
   return *programma_;
 }

@@ -10,6 +10,7 @@
 #include "desktop/servizi_desktop.h"
 #include "desktop/vista_principale.h"
 #include "desktop/vista_splash.h"
+#include "methods/cartella_metodi.h"
 
 int main(int argc, char* argv[]) {
   using namespace vaticlo;
@@ -31,7 +32,7 @@ int main(int argc, char* argv[]) {
     servizi.padre(finestra.get());
     finestra->show();
     std::error_code ignorato;
-    std::filesystem::create_directories(programma.cartella.metodi(), ignorato);
+    std::filesystem::create_directories(cartellaMetodi(programma.cartella), ignorato);
   });
   splash.show();
   return QApplication::exec();

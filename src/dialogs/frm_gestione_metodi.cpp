@@ -1,5 +1,6 @@
 #include "dialogs/frm_gestione_metodi.h"
 
+#include "methods/cartella_metodi.h"
 #include "methods/catalogo.h"
 #include "operations/gestione_metodi.h"
 
@@ -56,7 +57,7 @@ void frmGestioneMetodi::fatto(const std::string& testo) {
 
 std::vector<std::string> frmGestioneMetodi::esistenti() const {
   auto nomi = metodiOfferti(programma_.cartella);
-  std::erase_if(nomi, [this](const auto& nome) { return !programma_.cartella.esisteMetodo(nome); });
+  std::erase_if(nomi, [this](const auto& nome) { return !esisteMetodo(programma_.cartella, nome); });
   return nomi;
 }
 

@@ -1,26 +1,10 @@
 #include "dialogs/frm_inserisci.h"
 
+#include "archive/ruota.h"
 #include "dialogs/data_digitata.h"
 #include "platform/conversione.h"
 
 namespace vaticlo {
-
-namespace {
-
-/// The form as the draw store saves it.
-class FormDaSalvare : public ControlliEstrazione {
- public:
-  explicit FormDaSalvare(const frmInserisci& frm) : frm_(frm) {}
-  [[nodiscard]] std::string txtestr_Text(int f) const override {
-    return frm_.txtestr.at(static_cast<std::size_t>(f)).Text();
-  }
-  [[nodiscard]] std::optional<Data> mcdatecombo1_Value() const override { return frm_.mcdatecombo1.Value(); }
-
- private:
-  const frmInserisci& frm_;
-};
-
-}  // namespace
 
 frmInserisci::frmInserisci(Programma& programma, Cornice& cornice)
     : Finestra(cornice), programma_(programma) {
@@ -47,8 +31,8 @@ void frmInserisci::Form_Load() {
 }
 
 bool frmInserisci::txtestr_Validate(int f) {
-  const auto numero = numeroDaTesto(testo(f));
-  if (!numero || *numero <= 0 || *numero > 90) {
+  const auto numero = numeroDaTesto(txtestr_Text(f));
+  if (!numero || *numero <= 0 || *numero > kNumeri) {
     programma_.servizi.mostra({"Inserire un valore valido compreso tra 1 e 90", "Attenzione", Genere::Rifiuto,
                                Icona::Esclamazione});
     return true;
@@ -56,8 +40,8 @@ bool frmInserisci::txtestr_Validate(int f) {
   // Texts are compared, and only with the fields at the left: a digit typed in the right-hand place of the
   // mask is another text than the same digit in the left-hand place. Meant.
   for (int i = 1; i <= f % ArchivioEstrazioni::Colonne; ++i)
-    if (testo(f) == testo(f - i)) {
-      programma_.servizi.mostra({"''" + testo(f) + "'' è stato già inserito come estratto nella ruota",
+    if (txtestr_Text(f) == txtestr_Text(f - i)) {
+      programma_.servizi.mostra({"''" + txtestr_Text(f) + "'' è stato già inserito come estratto nella ruota",
                                  "Attenzione", Genere::Rifiuto, Icona::Esclamazione});
       return true;
     }
@@ -68,8 +52,7 @@ void frmInserisci::btnSalva_Click() {
   const auto risposta =
       programma_.servizi.mostra({"Sei sicuro di voler salvare l'estrazione", "Attenzione", Genere::Domanda});
   if (risposta != Risposta::Si) return;
-  FormDaSalvare form(*this);
-  clsGestione(programma_.cartella, programma_.servizi).salva(form);
+  clsGestione(programma_.cartella, programma_.servizi).salva(*this);
   cornice().riapri(*this);
 }
 

@@ -7,7 +7,7 @@
 namespace vaticlo {
 
 /// Draw entry: a new draw typed in number by number and appended to the archive.
-class frmInserisci : public Finestra {
+class frmInserisci : public Finestra, private ModuloEstrazione {
  public:
   frmInserisci(Programma& programma, Cornice& cornice);
 
@@ -24,9 +24,11 @@ class frmInserisci : public Finestra {
   Pulsante btnCancella{"&Esci", "Esci dalla finestra"};
 
  private:
-  [[nodiscard]] const std::string& testo(int f) const {
+  [[nodiscard]] std::string txtestr_Text(int f) const override {
     return txtestr.at(static_cast<std::size_t>(f)).Text();
   }
+  [[nodiscard]] std::optional<Data> mcdatecombo1_Value() const override { return mcdatecombo1.Value(); }
+  [[nodiscard]] std::string lbldataestr_Caption() const override { return {}; }
 
   Programma& programma_;
 };

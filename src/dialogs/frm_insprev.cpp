@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "forms/controlli_metodo.h"
+#include "methods/cartella_metodi.h"
 #include "platform/blocco.h"
 #include "platform/failure.h"
 #include "platform/testo.h"
@@ -13,13 +14,10 @@ namespace {
 
 constexpr int kColpiOfferti = 30;
 constexpr int kColpiIniziali = 10;
-// One slot too many for every method, and far more than it has: the walk of a delete always leaves the grid.
-// Meant.
-constexpr int kUltimoSlotDaSpostare = 2000;
 
 std::string dueCifre(int valore) { return (valore < 10 ? "0" : "") + std::to_string(valore); }
 
-// The double slash before the year is wanted.
+// Meant: the double slash before the year.
 std::string voceDiElenco(const FileMetodo& metodo, int slot) {
   return "Previsione n." + std::to_string(slot) + " del " + dueCifre(metodo(slot, kCampoData, 1)) + "/" +
          dueCifre(metodo(slot, kCampoData, 2)) + "//" + std::to_string(metodo(slot, kCampoData, 3)) +
@@ -67,14 +65,13 @@ void frmInsPrev::VScroll1_Change() {
 void frmInsPrev::cmbMetodo_Click() {
   if (!programma_.globals.PrevisioneInModifica) return;
   cmbPrevisione.Clear();
-  if (!programma_.cartella.esisteMetodo(cmbMetodo.Text())) {
+  if (!esisteMetodo(programma_.cartella, cmbMetodo.Text())) {
     rifiuta("Non esiste il file del metodo selezionato!", Icona::Nessuna);
     return;
   }
-  // Unlike the scans the list sees every prediction: up to the first draw number 0.
   const auto metodo = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
-  for (int slot = 1; metodo.EstrazioneCalcolo(slot) != 0; ++slot)
-    cmbPrevisione.AddItem(voceDiElenco(metodo, slot), slot);
+  const int elencate = ContaElencate(metodo);
+  for (int slot = 1; slot <= elencate; ++slot) cmbPrevisione.AddItem(voceDiElenco(metodo, slot), slot);
   txtRuote.Text("");
   txtAmbate.Text("");
   txtAmbi.Text("");
@@ -104,23 +101,15 @@ void frmInsPrev::btnElimina_Click() {
   if (risposta != Risposta::Si) return;
   try {
     std::optional<BloccoCartella> blocco(std::in_place, programma_.cartella.radice());
-    const auto origine = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
-    FileMetodo destinazione;
-    const int eliminato = cmbPrevisione.ItemDataScelta();
-    const auto copia = [&](int da, int a) {
-      for (int campo = 0; campo < FileMetodo::Campi; ++campo)
-        for (int pos = 1; pos <= FileMetodo::Posizioni; ++pos)
-          destinazione(a, campo, pos) = origine(da, campo, pos);
-    };
-    for (int slot = 1; slot < eliminato; ++slot) copia(slot, slot);
-    for (int slot = eliminato + 1; slot <= kUltimoSlotDaSpostare; ++slot) copia(slot, slot - 1);
-    // Never reached with a grid of ten slots: in this program a delete ends in its failure message. Meant.
-    ScriviMetodo(programma_.cartella, cmbMetodo.Text(), destinazione);
+    const auto metodo = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
+    // Meant: this always fails, so a delete ends in its failure message and changes nothing.
+    ScriviMetodo(programma_.cartella, cmbMetodo.Text(),
+                 SenzaPrevisione(metodo, cmbPrevisione.ItemDataScelta()));
     blocco.reset();
     programma_.servizi.mostra({"Previsione Eliminata!", ""});
     cornice().riapri(*this);
   } catch (const RuntimeFailure&) {
-    rifiuta("Errore nell'eliminaizione della previsione!");
+    rifiuta("Errore nell'eliminaizione della previsione!");  // Meant: the slip in the text.
   }
 }
 

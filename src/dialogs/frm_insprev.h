@@ -39,7 +39,6 @@ class frmInsPrev : public Finestra {
   /// The save up to the writing of the file. False when it was refused; the user has been told.
   [[nodiscard]] bool salva();
   [[nodiscard]] bool rifiutaCampiVuoti();
-  [[nodiscard]] int primoSlotLibero(const FileMetodo& metodo) const;
   [[nodiscard]] TestiPrevisione testi() const;
   bool rifiuta(const std::string& testo, Icona icona = Icona::Esclamazione);
 

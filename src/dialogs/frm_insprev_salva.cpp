@@ -1,4 +1,5 @@
 #include "dialogs/frm_insprev.h"
+#include "methods/cartella_metodi.h"
 #include "platform/blocco.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"
@@ -15,7 +16,7 @@ void frmInsPrev::btnElabora_Click() {
 bool frmInsPrev::salva() {
   try {
     if (rifiutaCampiVuoti()) return false;
-    if (!programma_.cartella.esisteMetodo(cmbMetodo.Text()))
+    if (!esisteMetodo(programma_.cartella, cmbMetodo.Text()))
       return rifiuta("Non esiste il file del metodo selezionato!", Icona::Nessuna);
 
     const BloccoCartella blocco(programma_.cartella.radice());
@@ -23,10 +24,9 @@ bool frmInsPrev::salva() {
     int slot = 0;
     if (programma_.globals.PrevisioneInModifica) {
       slot = cmbPrevisione.ItemDataScelta();
-      for (int campo = 0; campo < FileMetodo::Campi; ++campo)
-        for (int pos = 1; pos <= FileMetodo::Posizioni; ++pos) metodo(slot, campo, pos) = 0;
+      SvuotaSlot(metodo, slot);
     } else {
-      slot = primoSlotLibero(metodo);
+      slot = PrimoSlotLibero(metodo);
       if (slot == 0) throw RifiutoPrevisione("Il metodo contiene già dieci previsioni!");
     }
 
@@ -51,15 +51,6 @@ bool frmInsPrev::rifiutaCampiVuoti() {
   if (vuoto(txtAmbate.Text()) && vuoto(txtAmbi.Text()) && vuoto(txtSup.Text()))
     return !rifiuta("Scegliere almeno una combinazione da giocare!");
   return false;
-}
-
-// A prediction on a draw below number 100 has hundreds 0 and counts as free, and of its slot only the draw,
-// the date and the telephone number are cleared: the next save goes over it, and what stood behind the ends
-// of the new lists reads as part of them. Meant.
-int frmInsPrev::primoSlotLibero(const FileMetodo& metodo) const {
-  for (int slot = 1; slot <= FileMetodo::Slot; ++slot)
-    if (metodo(slot, kCampoEstrazione, 1) == 0) return slot;
-  return 0;
 }
 
 TestiPrevisione frmInsPrev::testi() const {

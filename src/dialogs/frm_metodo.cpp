@@ -29,8 +29,7 @@ void frmMetodo::Form_Load() {
   auto& g = programma_.globals;
   cornice().chiudiAltre(*this);
   prendiMisure({6960, 12660, 200, 630});
-  g.EstrazioneCorrente = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
-  g.UltimaEstrazione = g.EstrazioneCorrente - 1;
+  g.apriSullUltima(ApriArchivio(programma_.cartella).PrimoIndiceLibero());
   estrazione.VScroll1.Max(g.EstrazioneCorrente);
   estrazione.VScroll1.Value(estrazione.VScroll1.Max());
   visualizza(g.EstrazioneCorrente);
@@ -40,7 +39,7 @@ void frmMetodo::VScroll1_Change() {
   auto& g = programma_.globals;
   g.EstrazioneCorrente = estrazioneDellaBarra(estrazione.VScroll1);
   visualizza(g.EstrazioneCorrente);
-  g.EstrazioneBase = g.EstrazioneCorrente;
+  g.mostra(g.EstrazioneCorrente);
   for (auto& campo : estrazione.txtestr) campo.BackColor(kGrigio);
   verifica();
 }
@@ -75,7 +74,7 @@ void frmMetodo::verifica() {
   txtvincenti.Text(std::to_string(g.ContaVincenti));
   txtgiocabili.Text(std::to_string(g.ContaGiocabili));
   txtingioco.Text(std::to_string(g.ContaInGioco));
-  RichTextBox1.Text(testoRapporto(programma_.cartella.esiti()));
+  RichTextBox1.Text(testoRapporto(programma_.cartella.file(kFileEsiti)));
 }
 
 }  // namespace vaticlo

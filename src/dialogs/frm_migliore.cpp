@@ -1,7 +1,9 @@
 #include "dialogs/frm_migliore.h"
 
+#include "methods/scansione.h"
 #include "platform/failure.h"
 #include "platform/rapporto.h"
+#include "statistics/clsstatistica.h"
 
 namespace vaticlo {
 
@@ -17,8 +19,8 @@ void frmMigliore::Form_Activate() {
   RichTextBox1.Visible(true);
   const auto& cartella = programma_.cartella;
   try {
-    RichTextBox1.Text(
-        testoRapporto(programma_.globals.VistaVincite ? cartella.vincite() : cartella.prevGioco()));
+    RichTextBox1.Text(testoRapporto(programma_.globals.VistaVincite ? cartella.file(kFileVincite)
+                                                                    : cartella.file(kFilePrevGioco)));
   } catch (const RuntimeFailure&) {
     // The pane stays as it was, without a message.
   }

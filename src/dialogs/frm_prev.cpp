@@ -1,5 +1,7 @@
 #include "dialogs/frm_prev.h"
 
+#include "methods/scansione.h"
+
 namespace vaticlo {
 
 frmPrev::frmPrev(Programma& programma, Cornice& cornice) : ElencoScansione(programma, cornice) {
@@ -10,7 +12,7 @@ frmPrev::frmPrev(Programma& programma, Cornice& cornice) : ElencoScansione(progr
 
 std::filesystem::path frmPrev::scansione() {
   ScansionePrevisioni(programma_, *this).PrevInGioco();
-  return programma_.cartella.prevGioco();
+  return programma_.cartella.file(kFilePrevGioco);
 }
 
 void frmPrev::btnStampa_Click() {

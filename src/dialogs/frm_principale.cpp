@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <type_traits>
 
+#include "check/clsmetodo.h"
 #include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_inserisci.h"
@@ -177,7 +178,7 @@ void frmPrincipale::attivata(Finestra& finestra) {
 
 void frmPrincipale::Form_Unload() {
   std::error_code codice;
-  std::filesystem::remove(programma_.cartella.esiti(), codice);
+  std::filesystem::remove(programma_.cartella.file(kFileEsiti), codice);
   if (codice) throw RuntimeFailure(Errore::AccessoAlFile, "Esiti.txt");
 }
 
@@ -232,7 +233,7 @@ void frmPrincipale::creaMetodo() {
 }
 
 void frmPrincipale::apriGuida() {
-  const auto pagina = programma_.cartella.guida();
+  const auto pagina = programma_.cartella.file(kFileGuida);
   std::error_code codice;
   if (std::filesystem::is_regular_file(pagina, codice)) {
     if (vista_ != nullptr) vista_->mostraGuida(pagina);

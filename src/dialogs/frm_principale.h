@@ -11,6 +11,8 @@
 
 namespace vaticlo {
 
+inline constexpr std::string_view kFileGuida = "guida/guida.html";
+
 /// What draws the main window and its child windows.
 class VistaPrincipale {
  public:

@@ -44,13 +44,13 @@ void frmSomdif::opzione_Click(TipoSomDif tipo) {
 }
 
 void frmSomdif::btnTrova_Click() {
-  cercaEstrazione(programma_, VScroll1, vistaRicerca_, [this](int x) { visualizza(x); });
+  cercaEstrazione(programma_, VScroll1, trovata_, [this](int x) { visualizza(x); });
 }
 
 void frmSomdif::btnAnnulla_Click() { cornice().chiudi(*this); }
 
 void frmSomdif::visualizza(int n) {
-  clsGestione(programma_.cartella, programma_.servizi).VisualizzaSomDif(vistaSomDif_, n);
+  clsGestione(programma_.cartella, programma_.servizi).VisualizzaSomDif(valori_, n);
 }
 
 void frmSomdif::tuttoGrigio() {
@@ -58,28 +58,24 @@ void frmSomdif::tuttoGrigio() {
     for (auto& campo : colonna) campo.BackColor(kGrigio);
 }
 
-std::optional<TipoSomDif> frmSomdif::VistaSomDif::opzione() const {
+std::optional<TipoSomDif> frmSomdif::ValoriMostrati::opzione() const {
   if (frm_.optdistciclo.Value()) return TipoSomDif::Ciclometrica;
   if (frm_.optdistmat.Value()) return TipoSomDif::Matematica;
   if (frm_.optsommat.Value()) return TipoSomDif::Somma;
   return std::nullopt;
 }
 
-void frmSomdif::VistaSomDif::txtestr_Mostra(int colonna, int i, const std::string& testo) {
+void frmSomdif::ValoriMostrati::txtestr_Mostra(int colonna, int i, const std::string& testo) {
   frm_.colonne.at(static_cast<std::size_t>(colonna)).at(static_cast<std::size_t>(i)).mostra(testo);
 }
 
-void frmSomdif::VistaSomDif::txtestr_Giallo(int colonna, int i) {
+void frmSomdif::ValoriMostrati::txtestr_Giallo(int colonna, int i) {
   frm_.colonne.at(static_cast<std::size_t>(colonna)).at(static_cast<std::size_t>(i)).BackColor(kGiallo);
 }
 
-CampoTesto& frmSomdif::VistaRicerca::campo(int f) const {
+void frmSomdif::EstrazioneTrovata::txtestr_Mostra(int f, const std::string& testo) {
   if (f < 0 || f >= kRuoteSomDif) throw RuntimeFailure(Errore::ElementoInesistente);
-  return frm_.colonne[0][static_cast<std::size_t>(f)];
+  frm_.colonne[0][static_cast<std::size_t>(f)].mostra(testo);
 }
-
-std::string frmSomdif::VistaRicerca::txtestr_Text(int f) const { return campo(f).Text(); }
-
-void frmSomdif::VistaRicerca::txtestr_Mostra(int f, const std::string& testo) { campo(f).mostra(testo); }
 
 }  // namespace vaticlo

@@ -35,9 +35,9 @@ class frmSomdif : public Finestra {
 
  private:
   /// The window as the sum and distance view sees it.
-  class VistaSomDif : public SchedaSomDif {
+  class ValoriMostrati : public SchedaSomDif {
    public:
-    explicit VistaSomDif(frmSomdif& frm) : frm_(frm) {}
+    explicit ValoriMostrati(frmSomdif& frm) : frm_(frm) {}
     [[nodiscard]] std::optional<TipoSomDif> opzione() const override;
     void lbldataestr_Caption(const std::string& testo) override { frm_.lbldataestr.Caption(testo); }
     void lblnestr_Caption(const std::string& testo) override { frm_.lblnestr.Caption(testo); }
@@ -50,28 +50,24 @@ class frmSomdif : public Finestra {
 
   /// The window as the search by date sees it, which is not made for it: it has only the ten fields of its
   /// first column under the name that a draw's numbers go to.
-  class VistaRicerca : public FinestraEstrazione {
+  class EstrazioneTrovata : public SchedaEstrazione {
    public:
-    explicit VistaRicerca(frmSomdif& frm) : frm_(frm) {}
-    [[nodiscard]] std::string txtestr_Text(int f) const override;
+    explicit EstrazioneTrovata(frmSomdif& frm) : frm_(frm) {}
     void txtestr_Mostra(int f, const std::string& testo) override;
-    [[nodiscard]] std::optional<Data> mcdatecombo1_Value() const override { return std::nullopt; }
-    [[nodiscard]] std::string lbldataestr_Caption() const override { return frm_.lbldataestr.Caption(); }
     void lbldataestr_Caption(const std::string& testo) override { frm_.lbldataestr.Caption(testo); }
     void lblnestr_Caption(const std::string& testo) override { frm_.lblnestr.Caption(testo); }
     void VScroll1_Max(int massimo) override { frm_.VScroll1.Max(massimo); }
     void VScroll1_Value(int valore) override { frm_.VScroll1.Value(valore); }
 
    private:
-    [[nodiscard]] CampoTesto& campo(int f) const;
     frmSomdif& frm_;
   };
 
   void tuttoGrigio();
 
   Programma& programma_;
-  VistaSomDif vistaSomDif_{*this};
-  VistaRicerca vistaRicerca_{*this};
+  ValoriMostrati valori_{*this};
+  EstrazioneTrovata trovata_{*this};
 };
 
 }  // namespace vaticlo

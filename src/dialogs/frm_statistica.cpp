@@ -4,6 +4,7 @@
 #include "platform/conversione.h"
 #include "platform/failure.h"
 #include "platform/rapporto.h"
+#include "statistics/clsstatistica.h"
 
 namespace vaticlo {
 
@@ -49,8 +50,7 @@ void frmStatistica::Form_Load() {
   btnVincite.Enabled(false);
   btnPrev.Enabled(false);
   prendiMisure({7785, 10395, 100, 500});
-  g.EstrazioneCorrente = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
-  g.UltimaEstrazione = g.EstrazioneCorrente - 1;
+  g.apriSullUltima(ApriArchivio(programma_.cartella).PrimoIndiceLibero());
   g.UltimaEstrazione16 = static_cast<std::int16_t>(g.UltimaEstrazione);
   txtestr[0].mostra(kInizioOfferto);
   txtestr[1].mostra(std::to_string(g.UltimaEstrazione));
@@ -62,11 +62,11 @@ void frmStatistica::Form_Load() {
   DTFine.Value(oggi);
 }
 
-void frmStatistica::DTInizio_Change() { cercaData(DTInizio, txtestr[0]); }
+void frmStatistica::DTInizio_Change() { cercaNumero(DTInizio, txtestr[0]); }
 
-void frmStatistica::DTFine_Change() { cercaData(DTFine, txtestr[1]); }
+void frmStatistica::DTFine_Change() { cercaNumero(DTFine, txtestr[1]); }
 
-void frmStatistica::cercaData(const SelettoreData& selettore, CampoTesto& campo) {
+void frmStatistica::cercaNumero(const SelettoreData& selettore, CampoTesto& campo) {
   const auto data = selettore.Value();
   if (!data) throw RuntimeFailure(Errore::TipoNonCorrispondente);
   campo.Text(std::to_string(
@@ -74,28 +74,19 @@ void frmStatistica::cercaData(const SelettoreData& selettore, CampoTesto& campo)
 }
 
 int frmStatistica::CercaData(int giorno, int mese, int anno, int secolo) const {
-  int i = 1;
-  try {
-    const auto archivio = ApriArchivio(programma_.cartella);
-    while (archivio(i, 0, 4) != secolo) ++i;
-    while (archivio(i, 0, 3) != anno) ++i;
-    while (archivio(i, 0, 2) != mese) ++i;
-    // Days alone are compared here, whatever month the walk gets into. Meant.
-    while (archivio(i, 0, 1) < giorno && i < programma_.globals.UltimaEstrazione) ++i;
-  } catch (const RuntimeFailure& failure) {
-    if (failure.errore() != Errore::Indice) throw;
-  }
-  return i;
+  return cercaData(ApriArchivio(programma_.cartella),
+                   {.giorno = giorno, .mese = mese, .anno = anno, .secolo = secolo},
+                   programma_.globals.UltimaEstrazione);
 }
 
 void frmStatistica::btnElabora_Click() {
   auto& g = programma_.globals;
   {
-    FileRapporto vuoto(programma_.cartella.stat());
+    FileRapporto vuoto(programma_.cartella.file(kFileStat));
     vuoto.riga();
     vuoto.chiudi();
   }
-  RichTextBox1.Text(testoRapporto(programma_.cartella.stat()));
+  RichTextBox1.Text(testoRapporto(programma_.cartella.file(kFileStat)));
   RichTextBox1.Visible(false);
   btnVincite.Enabled(false);
   btnPrev.Enabled(false);
@@ -131,7 +122,7 @@ bool frmStatistica::rifiutaIntervallo() {
 
 void frmStatistica::mostraTotali() {
   RichTextBox1.Visible(true);
-  RichTextBox1.Text(testoRapporto(programma_.cartella.stat()));
+  RichTextBox1.Text(testoRapporto(programma_.cartella.file(kFileStat)));
   btnVincite.Enabled(programma_.globals.ContaVincenti >= 1);
   btnPrev.Enabled(programma_.globals.ContaInGioco >= 1);
   btnStampa.Enabled(true);

@@ -46,7 +46,7 @@ class frmStatistica : public Finestra, private PannelloCorsa {
   Pulsante btnCancella{"&Esci", "Chiudi la finestra"};
 
  private:
-  void cercaData(const SelettoreData& selettore, CampoTesto& campo);
+  void cercaNumero(const SelettoreData& selettore, CampoTesto& campo);
   [[nodiscard]] bool rifiutaIntervallo();
   void mostraTotali();
   void apriRisultati(bool vincite);

@@ -1,5 +1,7 @@
 #include "dialogs/frm_vinc.h"
 
+#include "methods/scansione.h"
+
 namespace vaticlo {
 
 frmVinc::frmVinc(Programma& programma, Cornice& cornice) : ElencoScansione(programma, cornice) {
@@ -9,7 +11,7 @@ frmVinc::frmVinc(Programma& programma, Cornice& cornice) : ElencoScansione(progr
 
 std::filesystem::path frmVinc::scansione() {
   ScansionePrevisioni(programma_, *this).PrevVincenti();
-  return programma_.cartella.vincenti();
+  return programma_.cartella.file(kFileVincenti);
 }
 
 void frmVinc::UpDown1_Change(int ultime) {

@@ -5,7 +5,7 @@
 
 namespace vaticlo {
 
-void cercaEstrazione(Programma& programma, BarraScorrimento& VScroll1, FinestraEstrazione& frm,
+void cercaEstrazione(Programma& programma, BarraScorrimento& VScroll1, SchedaEstrazione& frm,
                      const std::function<void(int)>& mostra) {
   auto& servizi = programma.servizi;
   const auto primo = std::to_string(VScroll1.Min()), ultimo = std::to_string(VScroll1.Max() - 1);

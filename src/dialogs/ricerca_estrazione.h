@@ -12,7 +12,7 @@ namespace vaticlo {
 /// draw. After a search by number `mostra` shows that draw; a search by date goes through clsGestione::Trova
 /// on `frm`. Draw 1 can't be reached by number, though prompt and message offer it: meant. Failure 6 for a
 /// number beyond 16 bits.
-void cercaEstrazione(Programma& programma, BarraScorrimento& VScroll1, FinestraEstrazione& frm,
+void cercaEstrazione(Programma& programma, BarraScorrimento& VScroll1, SchedaEstrazione& frm,
                      const std::function<void(int)>& mostra);
 
 }  // namespace vaticlo

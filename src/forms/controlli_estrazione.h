@@ -15,7 +15,7 @@ namespace vaticlo {
 
 /// The controls that show one draw, as the draw store reaches them: number, date, 55 fields, and the scroll
 /// bar that walks the draws.
-class ControlliEstrazione : public FinestraEstrazione {
+class ControlliEstrazione : public ModuloEstrazione, public SchedaEstrazione {
  public:
   Etichetta lblnestr, lbldataestr;
   std::array<CampoTesto, kCampiEstrazione> txtestr;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "methods/cartella_metodi.h"
 #include "platform/failure.h"
 
 namespace vaticlo {
@@ -9,7 +10,7 @@ namespace vaticlo {
 std::vector<std::string> CaricaElencoMetodi(const CartellaProgramma& cartella, const SceltaMetodo& scelta,
                                             NomeSenzaDat senzaDat) {
   if (!scelta.tutti) return {scelta.nome};
-  auto elenco = cartella.elencaMetodi();
+  auto elenco = elencaFile(cartellaMetodi(cartella));
   for (auto& nome : elenco) {
     const auto fine = nome.find(".dat");
     if (fine == std::string::npos && senzaDat == NomeSenzaDat::Failure)

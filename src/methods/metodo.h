@@ -25,7 +25,7 @@ class FileMetodo {
   static constexpr int Posizioni = 180;
   static constexpr std::size_t Ottetti = std::size_t{Slot} * Campi * Posizioni;
 
-  /// A cell. Failure 9 outside the grid.
+  /// A cell. Fails with Errore::Indice outside the grid.
   [[nodiscard]] std::uint8_t operator()(int slot, int campo, int pos) const {
     return celle_[posto(slot, campo, pos)];
   }
@@ -57,9 +57,27 @@ class FileMetodo {
 /// Writes the whole grid. Failures of scriviFile(); the file is then as it was.
 void ScriviMetodo(const CartellaProgramma& cartella, std::string_view nome, const FileMetodo& metodo);
 
-/// How many predictions every scan sees: up to the first slot whose remainder cell is 0. A draw number that
-/// is a multiple of 100 so hides its slot and those behind it, which is meant. Failure 9 when all ten slots
-/// are taken.
+// A slot bears no mark that it is taken. Three answers to "is it?" are given, and all three are wanted:
+// what a scan judges, what the editor lists, and where it stores.
+
+/// How many predictions every scan sees: those before the first slot whose draw number ends in 00. Fails with
+/// Errore::Indice when none of the ten does.
+/// Meant: a prediction on draw 3500 hides itself and those after it.
 [[nodiscard]] int ContaPrevisioni(const FileMetodo& metodo);
+
+/// How many predictions the editor lists: those before the first slot whose draw number is 0, so also those
+/// that ContaPrevisioni() does not see. Fails with Errore::Indice when all ten slots have one.
+[[nodiscard]] int ContaElencate(const FileMetodo& metodo);
+
+/// The slot that takes a new prediction: the first one whose draw number is below 100; 0 when there is none.
+/// Meant: a prediction on one of the first 99 draws counts as free and is written over.
+[[nodiscard]] int PrimoSlotLibero(const FileMetodo& metodo);
+
+/// All cells of a slot become 0.
+void SvuotaSlot(FileMetodo& metodo, int slot);
+
+/// The predictions but that of `slot`, those after it one slot lower, as the editor's delete makes them.
+/// Meant: the walk wants far more slots than a method has, so it always fails with Errore::Indice.
+[[nodiscard]] FileMetodo SenzaPrevisione(const FileMetodo& metodo, int slot);
 
 }  // namespace vaticlo

@@ -14,18 +14,17 @@ ScansionePrevisioni::ScansionePrevisioni(Programma& programma, PannelloScansione
 
 void ScansionePrevisioni::PrevInGioco() {
   g_.SoloVincenti = false;
-  scorriMetodi(programma_.cartella.prevGioco());
+  scorriMetodi(programma_.cartella.file(kFilePrevGioco));
 }
 
 void ScansionePrevisioni::PrevVincenti() {
   g_.SoloVincenti = true;
-  scorriMetodi(programma_.cartella.vincenti());
+  scorriMetodi(programma_.cartella.file(kFileVincenti));
 }
 
 void ScansionePrevisioni::scorriMetodi(const std::filesystem::path& percorso) {
   g_.ElencoMetodi.clear();
-  g_.EstrazioneCorrente = archivio_.PrimoIndiceLibero();
-  g_.UltimaEstrazione = g_.EstrazioneCorrente - 1;
+  g_.apriSullUltima(archivio_.PrimoIndiceLibero());
   if (g_.SoloVincenti) UltimeEstrazioni_ = inIntero16(frm_.txtColpi_Text());
 
   FileRapporto rapporto(percorso);
@@ -43,7 +42,7 @@ void ScansionePrevisioni::scorriMetodi(const std::filesystem::path& percorso) {
       // A period that ends with the last draw is over, won or not. It differs by one draw from the check:
       // meant.
       if (calcolo + metodo(slot, kCampoColpi, 1) <= g_.UltimaEstrazione) continue;
-      g_.EstrazioneBase = g_.EstrazioneCorrente = calcolo;
+      g_.mostra(calcolo);
       decodificatore_.DecodificaPrevisione(metodo, slot, g_.previsione);
       RiportaPrevisione(rapporto, nome);
     }

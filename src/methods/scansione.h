@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "archive/regole.h"
 #include "methods/catalogo.h"
@@ -12,6 +13,10 @@
 #include "program/programma.h"
 
 namespace vaticlo {
+
+// The reports of the two scans. The statistics write their predictions in play into the same file.
+inline constexpr std::string_view kFilePrevGioco = "PrevGioco.txt";
+inline constexpr std::string_view kFileVincenti = "Vincenti.txt";
 
 /// What a scan asks of its window and shows on it.
 class PannelloScansione {

@@ -1,11 +1,13 @@
 #include "operations/aggiornamento.h"
 
+#include "archive/archivio.h"
+
 namespace vaticlo {
 
 std::string indirizzoArchivio() { return VATICLO_SERVER_ARCHIVIO; }
 
 void aggiornaArchivio(Programma& programma, const std::string& indirizzo) {
-  const bool riuscito = programma.servizi.scarica(indirizzo, programma.cartella.archivio());
+  const bool riuscito = programma.servizi.scarica(indirizzo, programma.cartella.file(kFileArchivio));
   if (riuscito)
     programma.servizi.mostra({"Aggiornamento avvenuto"});
   else

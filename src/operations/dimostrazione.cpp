@@ -35,13 +35,10 @@ ArchivioEstrazioni inventaEstrazioni() {
   for (int i = 1; i <= kEstrazioni; ++i, giorno += days{1}) {
     while (!giornoDiEstrazione(giorno)) giorno += days{1};
     const Data data{giorno};
-    archivio(i, 0, 1) = static_cast<std::uint8_t>(vaticlo::giorno(data));
-    archivio(i, 0, 2) = static_cast<std::uint8_t>(mese(data));
-    archivio(i, 0, 3) = static_cast<std::uint8_t>(annoDueCifre(data));
-    archivio(i, 0, 4) = static_cast<std::uint8_t>(anno(data) / 100);
+    archivio.scriviData(i, data, anno(data) / 100);
     for (int ruota = 1; ruota <= kRuote; ++ruota) {
       // An urn of ninety: each number drawn goes out of it.
-      std::array<std::uint8_t, 90> urna;
+      std::array<std::uint8_t, kNumeri> urna;
       for (std::size_t n = 0; n < urna.size(); ++n) urna[n] = static_cast<std::uint8_t>(n + 1);
       for (std::size_t k = 0; k < 5; ++k) {
         std::swap(urna[k], urna[k + caso() % (urna.size() - k)]);
@@ -63,12 +60,12 @@ class Inventore {
   /// A number that does not come out on the wheel in the draws behind `estrazione`, as far as there are any.
   [[nodiscard]] std::string mancato(int estrazione, int ruota, int colpi) const {
     const int ultima = std::min(estrazione + colpi, kEstrazioni);
-    for (int numero = 1; numero <= 90; ++numero) {
+    for (int numero = 1; numero <= kNumeri; ++numero) {
       bool esce = false;
       for (int d = estrazione + 1; d <= ultima; ++d) esce = esce || regole_.ambata(numero, ruota, d);
       if (!esce) return std::to_string(numero);
     }
-    return "90";
+    return std::to_string(kNumeri);
   }
 
  private:

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include "methods/cartella_metodi.h"
 #include "methods/metodo.h"
 #include "platform/blocco.h"
 #include "platform/failure.h"
@@ -47,7 +48,7 @@ bool GestioneMetodi::crea(const std::string& nome) {
   return inUnPasso([&] {
     const std::string pulito(senzaBlanchi(nome));
     richiediAmmesso(pulito);
-    scriviFile(programma_.cartella.metodo(pulito), FileMetodo{}.ottetti(), Scrittura::Nuova);
+    scriviFile(fileMetodo(programma_.cartella, pulito), FileMetodo{}.ottetti(), Scrittura::Nuova);
   });
 }
 
@@ -56,7 +57,7 @@ bool GestioneMetodi::rinomina(const std::string& nome, const std::string& nuovo)
     const std::string pulito(senzaBlanchi(nuovo));
     richiediEsistente(nome);
     richiediAmmesso(pulito, std::string(senzaBlanchi(nome)));
-    rinominaFile(programma_.cartella.metodo(nome), programma_.cartella.metodo(pulito));
+    rinominaFile(fileMetodo(programma_.cartella, nome), fileMetodo(programma_.cartella, pulito));
   });
 }
 
@@ -64,7 +65,7 @@ bool GestioneMetodi::elimina(const std::string& nome) {
   return inUnPasso([&] {
     richiediEsistente(nome);
     std::error_code codice;
-    fs::remove(programma_.cartella.metodo(nome), codice);
+    fs::remove(fileMetodo(programma_.cartella, nome), codice);
     if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nome);
   });
 }
@@ -90,13 +91,13 @@ void GestioneMetodi::richiediAmmesso(const std::string& nome, const std::string&
     throw Rifiuto{"Il nome del metodo non può contenere \".dat\"!"};
   const auto cercato = formaDiConfronto(nome + std::string(kEstensione));
   const auto ceduto = tranne + std::string(kEstensione);
-  for (const auto& file : programma_.cartella.elencaMetodi())
+  for (const auto& file : elencaFile(cartellaMetodi(programma_.cartella)))
     if (formaDiConfronto(file) == cercato && file != ceduto)
       throw Rifiuto{"Esiste già un metodo con il nome \"" + nome + "\"!"};
 }
 
 void GestioneMetodi::richiediEsistente(const std::string& nome) const {
-  if (!programma_.cartella.esisteMetodo(nome)) throw Rifiuto{"Non esiste il file del metodo selezionato!"};
+  if (!esisteMetodo(programma_.cartella, nome)) throw Rifiuto{"Non esiste il file del metodo selezionato!"};
 }
 
 }  // namespace vaticlo

@@ -2,6 +2,7 @@
 
 #include "methods/metodo.h"
 #include "platform/failure.h"
+#include "methods/cartella_metodi.h"
 
 namespace vaticlo {
 
@@ -10,7 +11,7 @@ namespace {
 /// Empty for a method that can be judged.
 std::string motivo(const CartellaProgramma& cartella, const std::string& nome) {
   try {
-    if (cartella.esisteMetodo(nome)) static_cast<void>(ContaPrevisioni(LeggiMetodo(cartella, nome)));
+    if (esisteMetodo(cartella, nome)) static_cast<void>(ContaPrevisioni(LeggiMetodo(cartella, nome)));
     return "";
   } catch (const RuntimeFailure& failure) {
     return failure.errore() == Errore::Indice ? "contiene dieci previsioni" : failure.what();
@@ -29,7 +30,7 @@ std::vector<MetodoGuasto> metodiGuasti(const CartellaProgramma& cartella, const 
     return guasti;
   }
   try {
-    for (const auto& file : cartella.elencaMetodi())
+    for (const auto& file : elencaFile(cartellaMetodi(cartella)))
       if (const auto fine = file.find(".dat"); fine == std::string::npos)
         guasti.push_back({file, "il nome del file non ha \".dat\""});
       else

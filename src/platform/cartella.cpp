@@ -11,27 +11,15 @@ namespace vaticlo {
 
 namespace fs = std::filesystem;
 
-fs::path CartellaProgramma::metodo(std::string_view nome) const {
-  if (nome.find('/') != nome.npos || nome.find('\0') != nome.npos)
-    throw RuntimeFailure(Errore::NomeFile, std::string(nome));
-  return metodi() / (std::string(senzaBlanchi(nome)) + ".dat");
-}
-
-bool CartellaProgramma::esisteMetodo(std::string_view nome) const {
-  if (nome.find('/') != nome.npos || nome.find('\0') != nome.npos) return false;
-  std::error_code ignorato;
-  return fs::is_regular_file(metodo(nome), ignorato);
-}
-
-std::vector<std::string> CartellaProgramma::elencaMetodi() const {
+std::vector<std::string> elencaFile(const fs::path& cartella) {
   std::error_code codice;
-  fs::directory_iterator voce(metodi(), codice);
+  fs::directory_iterator voce(cartella, codice);
   if (codice == std::errc::no_such_file_or_directory) return {};
-  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, "Metodi");
+  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, cartella.filename().string());
 
   std::vector<std::pair<std::string, std::string>> chiavi;
   for (const fs::directory_iterator fine; voce != fine; voce.increment(codice)) {
-    if (codice) throw RuntimeFailure(Errore::AccessoAlFile, "Metodi");
+    if (codice) throw RuntimeFailure(Errore::AccessoAlFile, cartella.filename().string());
     std::error_code ignorato;
     auto nome = voce->path().filename().string();
     if (!nome.starts_with('.') && voce->is_regular_file(ignorato)) {

@@ -28,6 +28,14 @@ Intero inIntero(std::string_view testo) {
 
 }  // namespace
 
+std::optional<int> cifre(std::string_view testo) {
+  if (testo.empty() || testo.size() > 4 || !std::all_of(testo.begin(), testo.end(), cifra))
+    return std::nullopt;
+  int valore = 0;
+  for (const char c : testo) valore = valore * 10 + (c - '0');
+  return valore;
+}
+
 std::optional<double> numeroDaTesto(std::string_view testo) {
   auto resto = senzaBlanchi(testo);
   const bool negativo = resto.starts_with('-');

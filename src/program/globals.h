@@ -46,6 +46,15 @@ struct Globals {
   bool StopElaborazione = false;
   bool VistaVincite = false;
 
+  /// A window opens on the archive: its last draw becomes the one on the screen. `primoLibero`: the first
+  /// free slot, which the windows take for the draw on the screen until their scroll bar moves.
+  void apriSullUltima(int primoLibero) {
+    EstrazioneCorrente = primoLibero;
+    UltimaEstrazione = primoLibero - 1;
+  }
+  /// Draw n is on the screen, and what is judged was calculated on it.
+  void mostra(int n) { EstrazioneCorrente = EstrazioneBase = n; }
+
   [[nodiscard]] int NumeroMetodi() const { return static_cast<int>(ElencoMetodi.size()); }
 };
 

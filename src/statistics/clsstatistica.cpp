@@ -1,6 +1,7 @@
 #include "statistics/clsstatistica.h"
 
 #include "archive/ruota.h"
+#include "methods/scansione.h"
 #include "platform/failure.h"
 
 namespace vaticlo {
@@ -11,9 +12,9 @@ clsStatistica::clsStatistica(Programma& programma, PannelloCorsa& frm)
       frm_(frm),
       archivio_(ApriArchivio(programma.cartella)),
       regole_(archivio_),
-      prevGioco_(programma.cartella.prevGioco()),
-      vincite_(programma.cartella.vincite()),
-      stat_(programma.cartella.stat()) {
+      prevGioco_(programma.cartella.file(kFilePrevGioco)),
+      vincite_(programma.cartella.file(kFileVincite)),
+      stat_(programma.cartella.file(kFileStat)) {
   g_.ContaGiocabili = 0;
   g_.ContaNonGiocabili = 0;
   g_.ContaVincenti = 0;
@@ -47,7 +48,7 @@ void clsStatistica::Inizia(std::int16_t inizio, std::int16_t fine) {
         frm_.corsaInterrotta();
         return;
       }
-      g_.EstrazioneCorrente = g_.EstrazioneBase = d;
+      g_.mostra(d);
       try {
         StatMetodo1(d, metodi);
       } catch (const RuntimeFailure&) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "archive/regole.h"
@@ -13,6 +14,10 @@
 #include "statistics/metodi_corsa.h"
 
 namespace vaticlo {
+
+// The reports of a run, beside kFilePrevGioco: the totals, and the predictions that are decided.
+inline constexpr std::string_view kFileStat = "Stat.txt";
+inline constexpr std::string_view kFileVincite = "Vincite.txt";
 
 /// What a statistics run asks of its dialog and shows on it.
 class PannelloCorsa {

@@ -142,7 +142,7 @@ class ElenchiGuiTest : public QObject {
     archivioDi(5, "3 Ba 11").scrivi(v.p);
     v.premi(Qt::Key_F1);
     QVERIFY(v.detti().value(0).contains("guida/guida.html"));
-    std::filesystem::create_directory(v.p.cartella().guida().parent_path());
+    std::filesystem::create_directory(v.p.cartella().file(kFileGuida).parent_path());
     v.p.scrivi("guida/guida.html", "<meta charset=utf-8><h1>Città</h1>");
     v.scegli("mnu1Modifica");
     v.p.servizi.digitato = "3";
@@ -159,4 +159,5 @@ class ElenchiGuiTest : public QObject {
 };
 
 QTEST_MAIN(ElenchiGuiTest)
+#include "dialogs/frm_principale.h"
 #include "elenchi_gui_test.moc"

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "methods/cartella_metodi.h"
 #include "program/programma.h"
 
 namespace vaticlo::prova {
@@ -59,7 +60,7 @@ class ServiziProva : public Servizi {
 
 /// A program in a folder of its own under the temporary files, with `Metodi` in it, gone at the end.
 struct ProgrammaProva {
-  ProgrammaProva() { std::filesystem::create_directory(cartella().metodi()); }
+  ProgrammaProva() { std::filesystem::create_directory(cartellaMetodi(cartella())); }
   ProgrammaProva(const ProgrammaProva&) = delete;
   ProgrammaProva& operator=(const ProgrammaProva&) = delete;
   ~ProgrammaProva() {

@@ -3,11 +3,12 @@
 #include <iostream>
 
 #include "operations/metodi_guasti.h"
+#include "methods/cartella_metodi.h"
 
 namespace vaticlo {
 
 void avvisaDeiMetodi(const Programma& programma, const std::optional<std::string>& metodo) {
-  if (metodo && !programma.cartella.esisteMetodo(*metodo))
+  if (metodo && !esisteMetodo(programma.cartella, *metodo))
     std::cerr << "Non c'è nessun metodo di nome \"" << *metodo << "\".\n";
   for (const auto& guasto : metodiGuasti(programma.cartella, {!metodo, metodo.value_or("")}))
     std::cerr << "Il metodo \"" << guasto.nome << "\" non si può giudicare: " << guasto.motivo << ".\n";

@@ -17,7 +17,7 @@ Esito verifica(Sessione& sessione, const Argomenti& argomenti) {
   g.EstrazioneCorrente = g.EstrazioneBase = n;
   avvisaDeiMetodi(programma, metodo);
   eseguiVerifica(programma, {{!metodo, metodo.value_or("")}, std::to_string(n)});
-  std::cout << testoRapporto(programma.cartella.esiti()) << "Giocabili: " << g.ContaGiocabili << '\n'
+  std::cout << testoRapporto(programma.cartella.file(kFileEsiti)) << "Giocabili: " << g.ContaGiocabili << '\n'
             << "Vincenti: " << g.ContaVincenti << '\n'
             << "In gioco: " << g.ContaInGioco << '\n';
   return esitoDeiRapporti(programma);
