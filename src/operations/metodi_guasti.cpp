@@ -1,8 +1,8 @@
 #include "operations/metodi_guasti.h"
 
+#include "methods/cartella_metodi.h"
 #include "methods/metodo.h"
 #include "platform/failure.h"
-#include "methods/cartella_metodi.h"
 
 namespace vaticlo {
 

@@ -2,8 +2,8 @@
 
 #include <iostream>
 
-#include "operations/metodi_guasti.h"
 #include "methods/cartella_metodi.h"
+#include "operations/metodi_guasti.h"
 
 namespace vaticlo {
 
