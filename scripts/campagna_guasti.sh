@@ -91,7 +91,7 @@ senza_posto() {
 }
 rimetti
 rotti=$(ulimit -f 8 && senza_posto)
-riga "limite dei file a 8 KB: perduti" "$rotti"
+riga "limite dei file a 8 KB: riusciti o a pezzi" "$rotti"
 mancato "$rotti"
 export -f senza_posto firma vaticlo
 pieno=$(unshare -m bash -c '
@@ -99,6 +99,6 @@ pieno=$(unshare -m bash -c '
   mkdir "$cartella"; mount -t tmpfs -o size=1200k vaticlo "$cartella"; cp -r "$cartella/../pronta/." "$cartella"
   head -c 2M /dev/zero >"$cartella/resto" 2>/dev/null || true
   set +e; senza_posto' _ "$cli" "$lavoro" "${comandi[@]}" 2>/dev/null) || pieno="non provato (serve mount)"
-riga "tmpfs pieno: perduti" "$pieno"
+riga "tmpfs pieno: riusciti o a pezzi" "$pieno"
 [ "$pieno" = 0 ] || [[ $pieno = non* ]] || male=1
 exit $male
