@@ -5,6 +5,7 @@
 #include "console/cornice_vuota.h"
 #include "console/sessione.h"
 #include "dialogs/frm_insprev.h"
+#include "platform/blocco.h"
 
 namespace vaticlo::comandi {
 
@@ -87,6 +88,7 @@ Esito inserisciPrevisione(Sessione& sessione, const Argomenti& argomenti) {
 
 // A slot that the list does not offer stays unchosen, and the editor says what it says of that.
 Esito modificaPrevisione(Sessione& sessione, const Argomenti& argomenti) {
+  const BloccoCartella blocco(sessione.programma().cartella.radice());
   CorniceVuota cornice;
   const auto frm = apri(sessione, cornice, argomenti["METODO"]);
   if (!frm) return kFatto;
