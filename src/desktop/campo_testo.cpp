@@ -43,7 +43,16 @@ void CampoTestoVista::aggiorna() {
 
 void CampoTestoVista::focusInEvent(QFocusEvent* evento) {
   QLineEdit::focusInEvent(evento);
-  if (evento->reason() != Qt::MouseFocusReason && !isReadOnly()) selectAll();
+  if (evento->reason() == Qt::ActiveWindowFocusReason && selezione_.second > 0)
+    setSelection(selezione_.first, selezione_.second);  // the focus was away, but nothing was left
+  else if (evento->reason() != Qt::ActiveWindowFocusReason && evento->reason() != Qt::MouseFocusReason &&
+           !isReadOnly())
+    selectAll();
+}
+
+void CampoTestoVista::focusOutEvent(QFocusEvent* evento) {
+  selezione_ = {selectionStart(), selectionLength()};
+  QLineEdit::focusOutEvent(evento);
 }
 
 void CampoTestoVista::keyPressEvent(QKeyEvent* evento) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLineEdit>
+#include <utility>
 
 #include "forms/controlli.h"
 
@@ -16,12 +17,14 @@ class CampoTestoVista : public QLineEdit {
 
  protected:
   void focusInEvent(QFocusEvent* evento) override;
+  void focusOutEvent(QFocusEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
   void mousePressEvent(QMouseEvent* evento) override;
 
  private:
   CampoTesto& modello_;
   QString maschera_;
+  std::pair<int, int> selezione_;  // where the focus left it, and how long
 };
 
 }  // namespace vaticlo

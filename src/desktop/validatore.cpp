@@ -21,9 +21,9 @@ bool Validatore::eventFilter(QObject* oggetto, QEvent* evento) {
       if (inProva_ != nullptr && widget == vista_->window()) inProva_->setFocus(Qt::OtherFocusReason);
       return false;
     case QEvent::FocusIn: {
-      if (inProva_ != nullptr || widget == attuale_ || !vista_->isAncestorOf(widget)) return false;
-      if (!vista_->isVisible()) return false;  // a window that closes hands its focus round
+      if (inProva_ != nullptr || !vista_->isAncestorOf(widget)) return false;
       const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
+      if (widget == attuale_) return ritorna(widget, motivo);
       if (!respinge(widget)) return false;
       pressionePersa_ = motivo == Qt::MouseFocusReason;
       return true;
@@ -36,6 +36,14 @@ bool Validatore::eventFilter(QObject* oggetto, QEvent* evento) {
     default:
       return false;
   }
+}
+
+/// The focus is back where it was, however it comes there: nothing was left, and what was typed goes on.
+bool Validatore::ritorna(QWidget* controllo, Qt::FocusReason motivo) {
+  if (motivo == Qt::ActiveWindowFocusReason || motivo == Qt::MouseFocusReason) return false;
+  QFocusEvent rientro(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+  QCoreApplication::sendEvent(controllo, &rientro);
+  return true;
 }
 
 /// The focus has come to another control. True when one that was left has taken it back.
@@ -51,12 +59,12 @@ bool Validatore::respinge(QWidget* verso) {
     bool trattiene = false;
     confine_.esegui([&] { trattiene = prove_[inProva_](); });
     if (!vivo) return true;
-    auto* provato = std::exchange(inProva_, nullptr);
-    std::erase(lasciati_, provato);
-    if (!trattiene) continue;
-    attuale_ = provato;
-    provato->setFocus(Qt::OtherFocusReason);
-    return true;
+    if (trattiene) {
+      attuale_ = inProva_;
+      inProva_->setFocus(Qt::OtherFocusReason);
+    }
+    std::erase(lasciati_, std::exchange(inProva_, nullptr));
+    if (trattiene) return true;
   }
   return false;
 }

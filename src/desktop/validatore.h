@@ -32,6 +32,7 @@ class Validatore : public QObject {
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
+  [[nodiscard]] static bool ritorna(QWidget* controllo, Qt::FocusReason motivo);
   [[nodiscard]] bool respinge(QWidget* verso);
 
   QWidget* vista_;

@@ -39,6 +39,12 @@ class Figlia : public QMdiSubWindow {
   }
   [[nodiscard]] const std::shared_ptr<Finestra>& finestra() const { return finestra_; }
 
+ protected:
+  // A window that is hidden, to be shown in another size or to close, does not hand its focus round.
+  bool focusNextPrevChild(bool next) override {
+    return isVisible() && QMdiSubWindow::focusNextPrevChild(next);
+  }
+
  private:
   std::shared_ptr<Finestra> finestra_;
 };

@@ -41,6 +41,20 @@ class FiglieGuiTest : public QObject {
     QVERIFY(v.finestra.findChild<QMdiArea*>()->viewport()->rect().contains(v.figlia().geometry()));
   }
 
+  void whatIsBeingTypedGoesOnWhenAnotherWindowWasOnTop() {
+    PrincipaleProva v;
+    v.scegli("mnu1Inserisci");
+    for (const bool grande : {false, true}) {
+      if (grande) v.figlia().showMaximized();
+      v.scrivi("5");
+      v.scegli("mnuUtility3");
+      v.scegli("mnu1Inserisci");
+      v.scrivi("7");
+      QCOMPARE(v.fuoco() + ' ' + v.numeri(0, 2), QString("txtestr_0 57   "));
+      v.premi(Qt::Key_A, Qt::ControlModifier);
+    }
+  }
+
   void accessKeysOfTheActiveWindowComeBeforeTheMenu() {
     PrincipaleProva v;
     v.p.servizi.risposta = Risposta::No;

@@ -55,6 +55,23 @@ class Mano : public testing::Test {
       s.attendiPrincipale();
     }
   }
+  /// Opens the menu by its key, and leaves it.
+  void menu() {
+    attendi("the toolbar", [&] { return !vuoto("Modify"); });
+    const auto sotto = s.immagine("Modify"), barra = s.immagine("menu");
+    schermo->premi("Alt_L+a");
+    attendi("the menu", [&] { return s.immagine("Modify") != sotto; });
+    schermo->premi("Escape");
+    attendi("its end", [&] { return s.immagine("Modify") == sotto; });
+    schermo->premi("Escape");
+    attendi("the menu bar at rest", [&] { return s.immagine("menu") == barra; });
+  }
+  void guida() {
+    schermo->premi("F1");
+    s.attendiRiquadro("Guida");
+    schermo->premi("Escape");
+    s.attendiPrincipale();
+  }
   /// Nothing is drawn there.
   [[nodiscard]] bool vuoto(const char* nome) {
     const auto campo = s.immagine(nome);
@@ -102,28 +119,11 @@ TEST_F(Mano, AFieldIsTestedWhenAndOnlyWhenTheFocusGoesToAControlOfItsWindowThatA
        },
        1},
       {"the title bar", [&] { s.clicca("titolo"); }, 0},
+      {"the maximise box", [&] { s.clicca("ingrandisci"); }, 0},
       {"the background", [&] { s.clicca("sfondo"); }, 0},
       {"a label", [&] { s.clicca("Label21"); }, 0},
-      {"the menu",
-       [&] {
-         attendi("the toolbar", [&] { return !vuoto("Modify"); });
-         const auto sotto = s.immagine("Modify"), menu = s.immagine("menu");
-         schermo->premi("Alt_L+a");
-         attendi("the menu", [&] { return s.immagine("Modify") != sotto; });
-         schermo->premi("Escape");
-         attendi("its end", [&] { return s.immagine("Modify") == sotto; });
-         schermo->premi("Escape");
-         attendi("the menu bar at rest", [&] { return s.immagine("menu") == menu; });
-       },
-       0},
-      {"the guide",
-       [&] {
-         schermo->premi("F1");
-         s.attendiRiquadro("Guida");
-         schermo->premi("Alt_L+F4");
-         s.attendiPrincipale();
-       },
-       0},
+      {"the menu", [&] { menu(); }, 0},
+      {"the guide", [&] { guida(); }, 0},
       {"another field", [&] { s.clicca("txtestr_7"); }, 1},
       {"a button", [&] { s.clicca("btnSalva"); }, 1},
       {"a button's letter", [] { schermo->premi("Alt_L+s"); }, 1},
@@ -165,11 +165,18 @@ TEST_F(Mano, AFieldIsTestedWhenAndOnlyWhenTheFocusGoesToAControlOfItsWindowThatA
 }
 
 TEST_F(Mano, WhatIsInAFieldIsReplacedOrGoneOnWithAsItsSelectionSays) {
+  const std::pair<const char*, std::function<void()>> casi[] = {
+      {"the background", [&] { s.clicca("sfondo"); }},
+      {"the title bar", [&] { s.clicca("titolo"); }},
+      {"the menu", [&] { menu(); }},
+      {"the guide", [&] { guida(); }}};
   s.apri("Insert");
-  schermo->scrivi("5");
-  s.clicca("sfondo");
-  schermo->scrivi("7");
-  EXPECT_EQ(schermo->copia(), "57") << "the background leaves the caret where it is";
+  for (const auto& [altrove, gesto] : casi) {
+    schermo->scrivi("5");
+    gesto();
+    schermo->scrivi("7");
+    EXPECT_EQ(schermo->copia(), "57") << altrove << " leaves the caret where it is";
+  }
   s.clicca("btnCancella");
   s.apri("Modify");
   schermo->scrivi("5");

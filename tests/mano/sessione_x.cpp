@@ -35,6 +35,7 @@ Mappa misura(const QString& chiave) {
   const auto cornice = posto(*finestra.findChild<QMdiSubWindow*>());
   mappa["menu"] = posto(*finestra.menuBar());
   mappa["titolo"] = QRect(cornice.topLeft(), QSize(cornice.width(), 28));
+  mappa["ingrandisci"] = QRect(cornice.topRight() - QPoint(46, 0), QSize(24, 28));
   mappa["chiudi"] = QRect(cornice.topRight() - QPoint(26, 0), QSize(24, 28));
   mappa["sfondo"] = QRect(cornice.bottomRight() - QPoint(30, 30), QSize(20, 20));
   return mappa;
