@@ -147,6 +147,18 @@ TEST_F(Mano, AFieldIsTestedWhenAndOnlyWhenTheFocusGoesToAControlOfItsWindowThatA
          schermo->scrivi("\t");
        },
        1},
+      {"a bad number, then a bad date",
+       [&] {
+         schermo->scrivi("99");
+         s.clicca("mcdatecombo1", 0.2);
+         schermo->scrivi("31/2/2026\t");
+         conferma(1);
+         schermo->scrivi("12\t");
+         conferma(1);
+         s.clicca("txtestr_0");
+         schermo->premi("Control_L+a");
+       },
+       0},
       {"a click into the middle of the empty field", [&] { s.clicca("txtestr_0"); }, 0},
       {"a click beside its end", [&] { s.clicca("txtestr_0", 0.9); }, 0},
   };
@@ -229,12 +241,16 @@ TEST_F(Mano, TheFrameClosesAFreshEntryWindow) {
   attendi("the empty main window", [&] { return vuoto("txtestr_0"); });
 }
 
-TEST_F(Mano, AButtonPressedIntoAFailingTestIsDrawnReleased) {
+TEST_F(Mano, AMessageLeavesFieldsAndButtonsAsTheyWereDrawn) {
   s.apri("Insert");
   attendi("the window", [&] { return !vuoto("btnSalva"); });
-  const auto prima = s.immagine("btnSalva");
+  const auto campo = s.immagine("txtestr_1"), pulsante = s.immagine("btnSalva");
+  schermo->scrivi("\t");
+  s.attendiRiquadro();
+  attendi("the next field without the focus", [&] { return s.immagine("txtestr_1") == campo; });
+  conferma(1);
   s.punta("btnSalva");
-  attendi("the look under the pointer", [&] { return s.immagine("btnSalva") != prima; });
+  attendi("the look under the pointer", [&] { return s.immagine("btnSalva") != pulsante; });
   const auto sotto = s.immagine("btnSalva");
   s.clicca("btnSalva");
   conferma(1);
