@@ -153,6 +153,7 @@ TEST_F(Mano, AFieldIsTestedWhenAndOnlyWhenTheFocusGoesToAControlOfItsWindowThatA
          s.clicca("mcdatecombo1", 0.2);
          schermo->scrivi("31/2/2026\t");
          conferma(1);
+         EXPECT_EQ(schermo->copia(), "99");
          schermo->scrivi("12\t");
          conferma(1);
          s.clicca("txtestr_0");
@@ -220,6 +221,9 @@ TEST_F(Mano, ADateOfTheStatisticsFillsItsNumber) {
       EXPECT_EQ(schermo->copia(), caso.data);
     });
   }
+  s.clicca("Label4");
+  schermo->scrivi("7/6/2025\n");
+  EXPECT_EQ(schermo->copia(), "07/06/2025") << "what is selected stays so when a label is clicked";
   schermo->premi("Up");
   EXPECT_EQ(schermo->copia(), "08/06/2025") << "a key steps the day";
   schermo->premi("Home");
