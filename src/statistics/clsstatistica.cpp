@@ -3,6 +3,7 @@
 #include "archive/ruota.h"
 #include "methods/scansione.h"
 #include "platform/failure.h"
+#include "statistics/giudizio_statistica.h"
 
 namespace vaticlo {
 
@@ -73,9 +74,9 @@ void clsStatistica::azzeraGiocate() {
 
 void clsStatistica::StatMetodo1(int estrazione, MetodiDellaCorsa& metodi) {
   decodificatore_ = {};  // the working pair of the ambi starts anew with each draw, unlike in the other scans
-  metodi.scorri(estrazione, [this](const FileMetodo& metodo, int slot, const std::string& nome) {
+  metodi.scorri(estrazione, [this](const FileMetodo& metodo, int slot, std::size_t indice) {
     decodificatore_.DecodificaPrevisione(metodo, slot, g_.previsione);
-    StatPrevisione(g_.previsione.Colpi, nome);
+    StatPrevisione(g_.previsione.Colpi, g_.ElencoMetodi[indice]);
   });
 }
 
@@ -88,19 +89,14 @@ void clsStatistica::StatPrevisione(int colpi, const std::string& metodo) {
 
 bool clsStatistica::StatColpi(int colpi, const std::string& metodo) {
   g_.TestoEsito.clear();
-  for (int colpo = 1; colpo <= colpi; ++colpo) {
-    const int e = g_.EstrazioneBase + colpo;
-    if (e > g_.UltimaEstrazione) {
-      ++g_.ContaInGioco;
-      scriviInGioco(colpi, metodo);
-      return false;
-    }
-    if (giudicaColpo(g_.previsione, regole_, e, FlagTutte::OgniRuota, *this)) {
-      g_.TestoEsito += " " + std::to_string(colpo) + "° colpo\r\n";
-      return true;
-    }
+  const auto esito = giudicaPrevisione(g_.previsione, regole_, g_.UltimaEstrazione, *this);
+  if (esito.stato == StatoPrevisione::InGioco) {
+    ++g_.ContaInGioco;
+    scriviInGioco(colpi, metodo);
   }
-  return false;
+  if (esito.stato != StatoPrevisione::Vincente) return false;
+  g_.TestoEsito += " " + std::to_string(esito.colpo) + "° colpo\r\n";
+  return true;
 }
 
 void clsStatistica::ambata(int numero, int ruota) {

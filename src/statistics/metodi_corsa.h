@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -11,29 +12,49 @@
 
 namespace vaticlo {
 
-/// The methods of one statistics run, each file read once and its predictions found by their calculation
-/// draw, so that a run costs draws + predictions. To whoever scans draw after draw it looks as if every file
-/// were read for every draw: a method is read when the first scan reaches it, and a failure that stops the
-/// scan at a method (ten predictions, an unreadable file) is worked out once and stops every scan there.
+/// What a scan does with a method that fails: ten predictions, an unreadable file.
+enum class MetodoGuasto {
+  FermaLaScansione,  ///< no prediction of it nor of the methods after it is taken
+  SiSalta,           ///< the methods after it are taken all the same
+};
+
+/// A method as its file was read.
+struct MetodoLetto {
+  int previsioni = 0;     ///< how many the scans see
+  bool nonViste = false;  ///< it holds predictions that they do not see
+  std::optional<RuntimeFailure> guasto;
+};
+
+/// The methods of one run, each file read once and its predictions found by their calculation draw, so that a
+/// run costs draws + predictions. To whoever scans draw after draw it looks as if every file were read for
+/// every draw: a method is read when the first scan reaches it, and a failure is worked out once and holds
+/// for every draw.
 class MetodiDellaCorsa {
  public:
-  using Previsione = std::function<void(const FileMetodo& metodo, int slot, const std::string& nome)>;
+  /// A prediction: the grid it stands in, its slot, and which method of the list it belongs to, from 0.
+  using Previsione = std::function<void(const FileMetodo& metodo, int slot, std::size_t indice)>;
 
   /// Only predictions calculated on the draws `inizio` to `fine` are kept.
-  MetodiDellaCorsa(const CartellaProgramma& cartella, std::vector<std::string> elenco, int inizio, int fine);
+  MetodiDellaCorsa(const CartellaProgramma& cartella, std::vector<std::string> elenco, int inizio, int fine,
+                   MetodoGuasto guasto = MetodoGuasto::FermaLaScansione);
 
-  /// Calls `prendi` for each prediction calculated on that draw, in the order of methods and slots. A
-  /// failure, be it of `prendi` or of a file, ends the scan there.
+  /// Calls `prendi` for each prediction calculated on that draw, in the order of methods and slots. A failure
+  /// of `prendi` ends the scan there, and so does a method that fails unless such methods are skipped.
   void scorri(int estrazione, const Previsione& prendi);
+
+  /// All methods of the list, in its order; those that no scan has reached yet are read now. For a run that
+  /// skips the methods that fail.
+  [[nodiscard]] const std::vector<MetodoLetto>& letti();
 
  private:
   struct Posto {
     const FileMetodo* metodo;
     int slot;
-    const std::string* nome;
+    std::size_t indice;
   };
 
   void leggiProssimo();
+  void leggi(std::size_t indice, MetodoLetto& letto);
   [[nodiscard]] bool nelCampo(int estrazione) const { return estrazione >= inizio_ && estrazione <= fine_; }
   [[nodiscard]] std::vector<Posto>& posti(int estrazione) {
     return posti_[static_cast<std::size_t>(estrazione - inizio_)];
@@ -42,8 +63,8 @@ class MetodiDellaCorsa {
   const CartellaProgramma& cartella_;
   std::vector<std::string> elenco_;
   int inizio_, fine_;
-  std::size_t letti_ = 0;
-  std::optional<RuntimeFailure> guasto_;
+  MetodoGuasto seGuasto_;
+  std::vector<MetodoLetto> letti_;
   std::deque<FileMetodo> griglie_;
   std::vector<std::vector<Posto>> posti_;
 };

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "archive/regole.h"
+#include "program/previsione.h"
+
+namespace vaticlo {
+
+/// How a prediction has done by the rules of the statistics, in words: "vinta al 3° colpo: ambata 90 Ba",
+/// "negativa", "in gioco, ancora 4 colpi", "non giudicabile: …". `ultima` is the last stored draw.
+[[nodiscard]] std::string esitoInParole(const Previsione& previsione, const RegoleVincita& regole,
+                                        int ultima);
+
+}  // namespace vaticlo
