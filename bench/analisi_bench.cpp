@@ -16,6 +16,7 @@
 #include "methods/catalogo.h"
 #include "methods/decodifica.h"
 #include "platform/cartella.h"
+#include "archive/archivio.h"
 
 namespace vaticlo {
 namespace {
@@ -29,7 +30,7 @@ class Cartella {
       : cartella(std::filesystem::temp_directory_path() / ("vaticlo-analisi-" + std::to_string(::getpid()))) {
     creaCartellaGrande(cartella, kEstrazioni, metodi);
     if (const char* vero = std::getenv("VATICLO_ARCHIVIO"))
-      std::filesystem::copy_file(vero, cartella.archivio(),
+      std::filesystem::copy_file(vero, cartella.file(kFileArchivio),
                                  std::filesystem::copy_options::overwrite_existing);
     archivio = ApriArchivio(cartella);
     elenco = CaricaElencoMetodi(cartella, {});

@@ -61,7 +61,7 @@ std::vector<MetodoGiudicato> giudicaMetodi(const CartellaProgramma& cartella,
                                            const std::vector<std::string>& elenco,
                                            IntervalloEstrazioni intervallo) {
   const int dal = std::max(intervallo.dal, 0), al = std::min(intervallo.al, kUltimoPossibile);
-  MetodiDellaCorsa metodi(cartella, elenco, dal, al, MetodoGuasto::SiSalta);
+  MetodiDellaCorsa metodi(cartella, elenco, dal, al, SeGuasto::SiSalta);
   const auto& letti = metodi.letti();
   std::vector<MetodoGiudicato> giudicati;
   giudicati.reserve(elenco.size());

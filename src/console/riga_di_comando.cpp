@@ -98,6 +98,10 @@ std::string spiega(const CLI::App& app, const CLI::ParseError& errore, const std
 
 void aggiungiParametri(CLI::App& app, const Comando& comando) {
   for (const auto& parametro : comando.parametri) {
+    if (parametro.quanti == 0) {
+      app.add_flag(parametro.nome)->description(parametro.aiuto);
+      continue;
+    }
     auto* opzione = app.add_option(parametro.nome)->description(parametro.aiuto)->type_name(parametro.tipo);
     opzione->expected(parametro.quanti)->allow_extra_args(parametro.quanti > 1);
     opzione->required(parametro.necessario || !parametro.nome.starts_with("--"));

@@ -7,7 +7,7 @@
 
 #include "methods/cartella_metodi.h"
 #include "methods/metodo.h"
-#include "platform/blocco.h"
+#include "operations/un_passo.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
 #include "platform/testo.h"
@@ -37,15 +37,10 @@ bool nomeDiFile(const std::string& nome) {
   return std::find(kRiservati.begin(), kRiservati.end(), radice) == kRiservati.end();
 }
 
-/// Why a name or a method is refused, as it is shown.
-struct Rifiuto {
-  std::string testo;
-};
-
 }  // namespace
 
 bool GestioneMetodi::crea(const std::string& nome) {
-  return inUnPasso([&] {
+  return inUnPasso(programma_, [&] {
     const std::string pulito(senzaBlanchi(nome));
     richiediAmmesso(pulito);
     scriviFile(fileMetodo(programma_.cartella, pulito), FileMetodo{}.ottetti(), Scrittura::Nuova);
@@ -53,33 +48,21 @@ bool GestioneMetodi::crea(const std::string& nome) {
 }
 
 bool GestioneMetodi::rinomina(const std::string& nome, const std::string& nuovo) {
-  return inUnPasso([&] {
+  return inUnPasso(programma_, [&] {
     const std::string pulito(senzaBlanchi(nuovo));
-    richiediEsistente(nome);
+    richiediMetodo(programma_, nome);
     richiediAmmesso(pulito, std::string(senzaBlanchi(nome)));
     rinominaFile(fileMetodo(programma_.cartella, nome), fileMetodo(programma_.cartella, pulito));
   });
 }
 
 bool GestioneMetodi::elimina(const std::string& nome) {
-  return inUnPasso([&] {
-    richiediEsistente(nome);
+  return inUnPasso(programma_, [&] {
+    richiediMetodo(programma_, nome);
     std::error_code codice;
     fs::remove(fileMetodo(programma_.cartella, nome), codice);
     if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nome);
   });
-}
-
-// A refusal is told when the folder is free again: while somebody reads it, other programs may write.
-bool GestioneMetodi::inUnPasso(const std::function<void()>& passo) {
-  try {
-    const BloccoCartella blocco(programma_.cartella.radice());
-    passo();
-    return true;
-  } catch (const Rifiuto& rifiuto) {
-    programma_.servizi.mostra({rifiuto.testo, "Attenzione", Genere::Rifiuto, Icona::Esclamazione});
-    return false;
-  }
 }
 
 // `tranne`: the name that a rename gives up, so that its upper and lower case
@@ -94,10 +77,6 @@ void GestioneMetodi::richiediAmmesso(const std::string& nome, const std::string&
   for (const auto& file : elencaFile(cartellaMetodi(programma_.cartella)))
     if (formaDiConfronto(file) == cercato && file != ceduto)
       throw Rifiuto{"Esiste già un metodo con il nome \"" + nome + "\"!"};
-}
-
-void GestioneMetodi::richiediEsistente(const std::string& nome) const {
-  if (!esisteMetodo(programma_.cartella, nome)) throw Rifiuto{"Non esiste il file del metodo selezionato!"};
 }
 
 }  // namespace vaticlo

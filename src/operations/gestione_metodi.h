@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "program/programma.h"
@@ -20,9 +19,7 @@ class GestioneMetodi {
   bool elimina(const std::string& nome);
 
  private:
-  bool inUnPasso(const std::function<void()>& passo);
   void richiediAmmesso(const std::string& nome, const std::string& tranne = {}) const;
-  void richiediEsistente(const std::string& nome) const;
 
   Programma& programma_;
 };

@@ -5,7 +5,7 @@
 namespace vaticlo {
 
 MetodiDellaCorsa::MetodiDellaCorsa(const CartellaProgramma& cartella, std::vector<std::string> elenco,
-                                   int inizio, int fine, MetodoGuasto guasto)
+                                   int inizio, int fine, SeGuasto guasto)
     : cartella_(cartella),
       elenco_(std::move(elenco)),
       inizio_(inizio),
@@ -18,7 +18,7 @@ void MetodiDellaCorsa::scorri(int estrazione, const Previsione& prendi) {
   auto& posti = this->posti(estrazione);
   for (std::size_t n = 0;; ++n) {
     while (n == posti.size()) {
-      if (seGuasto_ == MetodoGuasto::FermaLaScansione && !letti_.empty() && letti_.back().guasto)
+      if (seGuasto_ == SeGuasto::FermaLaScansione && !letti_.empty() && letti_.back().guasto)
         throw RuntimeFailure(*letti_.back().guasto);
       if (letti_.size() == elenco_.size()) return;
       leggiProssimo();

@@ -13,7 +13,7 @@
 namespace vaticlo {
 
 /// What a scan does with a method that fails: ten predictions, an unreadable file.
-enum class MetodoGuasto {
+enum class SeGuasto {
   FermaLaScansione,  ///< no prediction of it nor of the methods after it is taken
   SiSalta,           ///< the methods after it are taken all the same
 };
@@ -36,7 +36,7 @@ class MetodiDellaCorsa {
 
   /// Only predictions calculated on the draws `inizio` to `fine` are kept.
   MetodiDellaCorsa(const CartellaProgramma& cartella, std::vector<std::string> elenco, int inizio, int fine,
-                   MetodoGuasto guasto = MetodoGuasto::FermaLaScansione);
+                   SeGuasto guasto = SeGuasto::FermaLaScansione);
 
   /// Calls `prendi` for each prediction calculated on that draw, in the order of methods and slots. A failure
   /// of `prendi` ends the scan there, and so does a method that fails unless such methods are skipped.
@@ -63,7 +63,7 @@ class MetodiDellaCorsa {
   const CartellaProgramma& cartella_;
   std::vector<std::string> elenco_;
   int inizio_, fine_;
-  MetodoGuasto seGuasto_;
+  SeGuasto seGuasto_;
   std::vector<MetodoLetto> letti_;
   std::deque<FileMetodo> griglie_;
   std::vector<std::vector<Posto>> posti_;

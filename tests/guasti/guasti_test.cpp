@@ -40,6 +40,7 @@ const Parole kModifica = con55Numeri({"modifica", "7"});
 const Parole kInserisci = con55Numeri({"inserisci", "14/03/2026"});
 const Parole kModificaPrevisione = {"previsione", "modifica", "Metodo 1", "1",
                                     "--ruote",    "To",       "--ambate", "9"};
+const Parole kSposta = {"previsione", "sposta", "Metodo 1", "1", "Metodo 2"};
 const Parole kCrea = {"metodo", "crea", "Nuovo"}, kRinomina = {"metodo", "rinomina", "Metodo 1", "Nuovo"};
 
 /// The real program on a folder of its own.
@@ -155,13 +156,16 @@ class Guasti : public testing::TestWithParam<Caso>, public ProgrammaVero {
     const bool puoEsserci = esito == -SIGKILL || (GetParam().sistema == "vecchio" && chiamata == "fsync");
     const bool aPezzi =
         GetParam().parole[0] == "dimostrazione" && esito != 0;  // of several files, each whole
+    // Of two methods the one that gains is written first: a kill may leave the prediction in both.
+    const bool inTutti = esito == -SIGKILL && GetParam().parole == kSposta &&
+                         ora.at("Metodi/Metodo 2.dat") == dopo.at("Metodi/Metodo 2.dat");
     for (const auto& [nome, ottetti] : ora) {
       const auto era = prima.find(nome), sara = dopo.find(nome);
       EXPECT_TRUE((era != prima.end() && era->second == ottetti) ||
                   (sara != dopo.end() && sara->second == ottetti))
           << nome << " is neither as before nor as after";
     }
-    EXPECT_TRUE(esito == 0 ? ora == dopo : aPezzi || ora == prima || (puoEsserci && ora == dopo))
+    EXPECT_TRUE(esito == 0 ? ora == dopo : aPezzi || inTutti || ora == prima || (puoEsserci && ora == dopo))
         << "status " << esito;
     // The names that stand in for a sync are the library's own.
     for (const auto& file : accanto())
@@ -217,8 +221,8 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{
             "previsione_inserisci",
             {"previsione", "inserisci", "Metodo 1", "--estrazione", "300", "--ruote", "Ba", "--ambate", "9"}},
-        Caso{"previsione_modifica", kModificaPrevisione}, Caso{"dimostrazione", {"dimostrazione"}, "", true},
-        Caso{"modifica_sul_posto", kModifica, "chiusa"},
+        Caso{"previsione_modifica", kModificaPrevisione}, Caso{"previsione_sposta", kSposta},
+        Caso{"dimostrazione", {"dimostrazione"}, "", true}, Caso{"modifica_sul_posto", kModifica, "chiusa"},
         Caso{"previsione_sul_posto", kModificaPrevisione, "chiusa"},
         Caso{"modifica_vecchio", kModifica, "vecchio"}, Caso{"crea_vecchio", kCrea, "vecchio"},
         Caso{"rinomina_vecchio", kRinomina, "vecchio"}),

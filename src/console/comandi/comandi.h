@@ -18,7 +18,7 @@ struct Parametro {
   std::string tipo = "TESTO";    ///< what the help calls the value of an option
   bool necessario = false;       ///< of an option
   std::string predefinito = {};  ///< of an option; empty for none
-  int quanti = 1;                ///< how many values follow
+  int quanti = 1;                ///< how many values follow; an option without any is there or not
 };
 
 /// A command of the console. One whose name has two words belongs to the group that the first one names; the
@@ -61,11 +61,19 @@ Esito mostraPrevisione(Sessione& sessione, const Argomenti& argomenti);
 Esito inserisciPrevisione(Sessione& sessione, const Argomenti& argomenti);
 Esito modificaPrevisione(Sessione& sessione, const Argomenti& argomenti);
 Esito eliminaPrevisione(Sessione& sessione, const Argomenti& argomenti);
+Esito togliPrevisione(Sessione& sessione, const Argomenti& argomenti);
+Esito duplicaPrevisione(Sessione& sessione, const Argomenti& argomenti);
+Esito copiaPrevisione(Sessione& sessione, const Argomenti& argomenti);
+Esito spostaPrevisione(Sessione& sessione, const Argomenti& argomenti);
 
 Esito verifica(Sessione& sessione, const Argomenti& argomenti);
 Esito statistica(Sessione& sessione, const Argomenti& argomenti);
 Esito inGioco(Sessione& sessione, const Argomenti& argomenti);
 Esito vincenti(Sessione& sessione, const Argomenti& argomenti);
+
+Esito quadro(Sessione& sessione, const Argomenti& argomenti);
+Esito caso(Sessione& sessione, const Argomenti& argomenti);
+Esito ritardi(Sessione& sessione, const Argomenti& argomenti);
 
 Esito esegui(Sessione& sessione, const Argomenti& argomenti);
 

@@ -5,6 +5,7 @@
 #include "console/cornice_vuota.h"
 #include "console/sessione.h"
 #include "dialogs/frm_insprev.h"
+#include "operations/previsioni_metodo.h"
 #include "platform/blocco.h"
 
 namespace vaticlo::comandi {
@@ -104,6 +105,36 @@ Esito eliminaPrevisione(Sessione& sessione, const Argomenti& argomenti) {
   if (!frm) return kFatto;
   scegli(*frm, argomenti.intero("SLOT"));
   frm->btnElimina_Click();
+  return kFatto;
+}
+
+Esito togliPrevisione(Sessione& sessione, const Argomenti& argomenti) {
+  const auto& metodo = argomenti["METODO"];
+  if (!PrevisioniMetodo(sessione.programma()).togli(metodo, {argomenti.intero("SLOT")}).empty())
+    std::cout << "Tolta la previsione n." << argomenti["SLOT"] << " dal metodo " << metodo << '\n';
+  return kFatto;
+}
+
+Esito duplicaPrevisione(Sessione& sessione, const Argomenti& argomenti) {
+  const auto& metodo = argomenti["METODO"];
+  if (!PrevisioniMetodo(sessione.programma()).duplica(metodo, {argomenti.intero("SLOT")}).empty())
+    std::cout << "Duplicata la previsione n." << argomenti["SLOT"] << " del metodo " << metodo << '\n';
+  return kFatto;
+}
+
+Esito copiaPrevisione(Sessione& sessione, const Argomenti& argomenti) {
+  const auto &metodo = argomenti["METODO"], &verso = argomenti["VERSO"];
+  if (!PrevisioniMetodo(sessione.programma()).copia(metodo, {argomenti.intero("SLOT")}, verso).empty())
+    std::cout << "Copiata la previsione n." << argomenti["SLOT"] << " del metodo " << metodo << " nel metodo "
+              << verso << '\n';
+  return kFatto;
+}
+
+Esito spostaPrevisione(Sessione& sessione, const Argomenti& argomenti) {
+  const auto &metodo = argomenti["METODO"], &verso = argomenti["VERSO"];
+  if (!PrevisioniMetodo(sessione.programma()).sposta(metodo, {argomenti.intero("SLOT")}, verso).empty())
+    std::cout << "Spostata la previsione n." << argomenti["SLOT"] << " dal metodo " << metodo << " al metodo "
+              << verso << '\n';
   return kFatto;
 }
 

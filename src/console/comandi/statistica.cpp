@@ -1,11 +1,10 @@
-#include <csignal>
 #include <iostream>
 
-#include <unistd.h>
-
+#include "console/barra.h"
 #include "console/comandi/avvisi.h"
 #include "console/comandi/comandi.h"
 #include "console/cornice_vuota.h"
+#include "console/ctrl_c.h"
 #include "console/sessione.h"
 #include "dialogs/frm_statistica.h"
 
@@ -13,51 +12,21 @@ namespace vaticlo::comandi {
 
 namespace {
 
-volatile std::sig_atomic_t interruzione = 0;
-
-/// While it lives, Ctrl-C asks the run for a stop instead of ending the process.
+/// While it lives, Ctrl-C asks the run for a stop.
 class StopConCtrlC {
  public:
-  StopConCtrlC(ServiziConsole& servizi, frmStatistica& frm)
-      : servizi_(servizi), prima_(std::signal(SIGINT, [](int) { interruzione = 1; })) {
-    interruzione = 0;
+  StopConCtrlC(ServiziConsole& servizi, frmStatistica& frm) : servizi_(servizi) {
     servizi_.eventi([&frm] {
-      if (interruzione != 0) frm.btnStop_Click();
+      if (CtrlC::premuto()) frm.btnStop_Click();
     });
   }
   StopConCtrlC(const StopConCtrlC&) = delete;
   StopConCtrlC& operator=(const StopConCtrlC&) = delete;
-  ~StopConCtrlC() {
-    servizi_.eventi({});
-    std::signal(SIGINT, prima_);
-  }
+  ~StopConCtrlC() { servizi_.eventi({}); }
 
  private:
   ServiziConsole& servizi_;
-  void (*prima_)(int);
-};
-
-/// A progress bar on standard error, drawn anew when the percentage changes and wiped out at the end.
-class BarraSuTerminale {
- public:
-  void mostra(const Avanzamento& avanzamento) {
-    if (!terminale_ || avanzamento.Max() <= 0) return;
-    const int percento = avanzamento.Value() * 100 / avanzamento.Max();
-    if (percento == percento_) return;
-    percento_ = percento;
-    const int piene = percento * kLarghezza / 100;
-    std::cerr << "\r[" << std::string(static_cast<std::size_t>(piene), '#')
-              << std::string(static_cast<std::size_t>(kLarghezza - piene), ' ') << "] " << percento << "%"
-              << std::flush;
-  }
-  void togli() const {
-    if (percento_ >= 0) std::cerr << '\r' << std::string(kLarghezza + 8, ' ') << '\r' << std::flush;
-  }
-
- private:
-  static constexpr int kLarghezza = 50;
-  bool terminale_ = ::isatty(STDERR_FILENO) != 0;
-  int percento_ = -1;
+  CtrlC ctrlC_;
 };
 
 }  // namespace
@@ -79,7 +48,7 @@ Esito statistica(Sessione& sessione, const Argomenti& argomenti) {
   frm.txtestr[1].Text(argomenti["FINE"]);
 
   BarraSuTerminale barra;
-  frm.prgbar.osserva([&] { barra.mostra(frm.prgbar); });
+  frm.prgbar.osserva([&] { barra.mostra(frm.prgbar.Value(), frm.prgbar.Max()); });
   {
     const StopConCtrlC ctrlC(sessione.servizi, frm);
     globals.StopElaborazione = false;

@@ -20,6 +20,13 @@ std::vector<Parametro> conCampi(std::vector<Parametro> parametri, bool nuova) {
   return parametri;
 }
 
+/// Where what a command lists goes besides the screen.
+std::vector<Parametro> conUscite(std::vector<Parametro> parametri) {
+  parametri.push_back({"--csv", "Scrive anche un file CSV (-: standard output al posto del testo)", "FILE"});
+  parametri.push_back({.nome = "--json", .aiuto = "Scrive in JSON al posto del testo", .quanti = 0});
+  return parametri;
+}
+
 }  // namespace
 
 std::vector<Comando> tavolaComandi() {
@@ -27,6 +34,9 @@ std::vector<Comando> tavolaComandi() {
   const Parametro n{"N", "Numero dell'estrazione"}, nome{"NOME", "Nome del metodo"};
   const Parametro metodo{"METODO", "Nome del metodo"}, slot{"SLOT", "Numero della previsione nel metodo"};
   const Parametro soloMetodo{"--metodo", "Un solo metodo, invece di tutti", "NOME"};
+  const Parametro verso{"VERSO", "Nome del metodo che la riceve"};
+  const Parametro dal{"--dal", "Prima estrazione (la 1 se non indicata)", "N"},
+      al{"--al", "Ultima estrazione (l'ultima se non indicata)", "N"};
   const Parametro numeri{.nome = "NUMERI",
                          .aiuto = "I 55 numeri: cinque per ruota, da Bari a Nazionale",
                          .quanti = kCampiEstrazione};
@@ -86,7 +96,7 @@ std::vector<Comando> tavolaComandi() {
        .parametri = {nome},
        .scrive = true},
       {.nome = "metodo elenco", .aiuto = "Elenca i metodi", .fai = elencoMetodi},
-      {.nome = "previsione", .aiuto = "Inserisce, modifica, mostra ed elimina le previsioni"},
+      {.nome = "previsione", .aiuto = "Inserisce, modifica, mostra, elimina e riordina le previsioni"},
       {.nome = "previsione elenco",
        .aiuto = "Elenca le previsioni di un metodo",
        .fai = elencoPrevisioni,
@@ -110,6 +120,26 @@ std::vector<Comando> tavolaComandi() {
        .fai = eliminaPrevisione,
        .parametri = {metodo, slot},
        .scrive = true},
+      {.nome = "previsione togli",
+       .aiuto = "Toglie una previsione e chiude il vuoto che lascia",
+       .fai = togliPrevisione,
+       .parametri = {metodo, slot},
+       .scrive = true},
+      {.nome = "previsione duplica",
+       .aiuto = "Copia una previsione in fondo al suo metodo",
+       .fai = duplicaPrevisione,
+       .parametri = {metodo, slot},
+       .scrive = true},
+      {.nome = "previsione copia",
+       .aiuto = "Copia una previsione in fondo a un altro metodo",
+       .fai = copiaPrevisione,
+       .parametri = {metodo, slot, verso},
+       .scrive = true},
+      {.nome = "previsione sposta",
+       .aiuto = "Sposta una previsione in fondo a un altro metodo",
+       .fai = spostaPrevisione,
+       .parametri = {metodo, slot, verso},
+       .scrive = true},
       {.nome = "verifica",
        .aiuto = "Verifica le previsioni calcolate su un'estrazione (Esiti.txt)",
        .fai = verifica,
@@ -130,6 +160,26 @@ std::vector<Comando> tavolaComandi() {
        .fai = vincenti,
        .parametri = {soloMetodo,
                      {"--ultime", "Quante ultime estrazioni considerare, da 1 a 5", "K", false, "1"}}},
+      {.nome = "quadro",
+       .aiuto = "Confronta i metodi, una riga per metodo",
+       .fai = quadro,
+       .parametri = conUscite({dal, al, soloMetodo})},
+      {.nome = "caso",
+       .aiuto = "Confronta i metodi con il puro caso",
+       .fai = caso,
+       .parametri =
+           conUscite({{"INIZIO", "Prima estrazione di calcolo"},
+                      {"FINE", "Ultima estrazione di calcolo"},
+                      soloMetodo,
+                      {"--prove", "Quante prove simulare", "K", false, "1000"},
+                      {"--seme", "Seme delle prove: lo stesso dà le stesse prove", "S", false, "1"}})},
+      {.nome = "ritardi",
+       .aiuto = "Frequenze e ritardi dei numeri di una ruota",
+       .fai = ritardi,
+       .parametri = conUscite({{"RUOTA", "Sigla della ruota, o Tutte"},
+                               {.nome = "--ambi", .aiuto = "Gli ambi al posto dei numeri", .quanti = 0},
+                               dal,
+                               al})},
       {.nome = "dimostrazione",
        .aiuto = "Riempie una cartella vuota con estrazioni e previsioni inventate",
        .fai = dimostrazione,

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "methods/metodo.h"
+#include "program/programma.h"
+
+namespace vaticlo {
+
+/// A method before and after a step.
+struct CambioMetodo {
+  std::string nome;
+  FileMetodo prima, dopo;
+};
+
+/// What a step on predictions has changed, so that it can be taken back: one method, or two when predictions
+/// went from one to the other. Empty for a step that was refused.
+using PassoPrevisioni = std::vector<CambioMetodo>;
+
+/// Takes predictions out of methods, copies and moves them. Those that stay close the gap, those that come go
+/// behind the last one, so that the scans see them all. A step is refused, and the user told why, before
+/// anything is written: a slot that holds no prediction, a method that is not there, one that would get a
+/// tenth prediction, which keeps it from being judged. Failures of the disk go on to the caller; all methods
+/// are then as they were.
+class PrevisioniMetodo {
+ public:
+  explicit PrevisioniMetodo(Programma& programma) : programma_(programma) {}
+
+  PassoPrevisioni togli(const std::string& metodo, std::vector<int> slot);
+  PassoPrevisioni duplica(const std::string& metodo, std::vector<int> slot);
+  PassoPrevisioni copia(const std::string& metodo, std::vector<int> slot, const std::string& verso);
+  PassoPrevisioni sposta(const std::string& metodo, std::vector<int> slot, const std::string& verso);
+
+  /// Takes a step back. Refused when one of its methods has changed since.
+  bool annulla(const PassoPrevisioni& passo);
+
+ private:
+  Programma& programma_;
+};
+
+}  // namespace vaticlo
