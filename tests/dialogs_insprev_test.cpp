@@ -121,6 +121,18 @@ TEST_F(InsPrev, ChoosingAMethodEmptiesItsBetsAndKeepsNumberAndColpi) {
   detto("[Attenzione] Non esiste il file del metodo selezionato!", Icona::Nessuna);
 }
 
+TEST_F(InsPrev, TypingAnotherMethodDropsTheChoiceOfThePrediction) {
+  scriviMetodoProva(p, "Metodo 2", {kAltra});
+  auto& f = apri(true);
+  f.cmbMetodo.scegli(1);
+  f.cmbPrevisione.scegli(0);
+  f.cmbMetodo.digita("Metodo 1");
+  const auto prima = file();
+  f.btnElabora_Click();
+  detto("[Attenzione] Errore nella creazione del metodo!");
+  EXPECT_TRUE(file() == prima);
+}
+
 TEST_F(InsPrev, ADeleteAlwaysFails) {
   scriviMetodoProva(p, "Metodo 1", {kAltra});
   const auto prima = file();

@@ -39,7 +39,7 @@ constexpr const char* kMetodo = "La mia prova";
 class ServiziFigure : public ServiziDesktop {
  public:
   [[nodiscard]] std::chrono::year_month_day oggi() const override {
-    return {std::chrono::year{2025}, std::chrono::September, std::chrono::day{23}};
+    return {std::chrono::year{2001}, std::chrono::September, std::chrono::day{23}};
   }
   bool scarica(const std::string& /*indirizzo*/, const std::filesystem::path& /*dove*/) override {
     return true;
@@ -186,7 +186,7 @@ void Fotografo::tutte() {
   scatta("modifica-metodo");
   scegli("mnuGestione22");
   sceglie("cmbMetodo", kMetodo);
-  sceglie("cmbPrevisione", "Previsione n.1 del 04/07//2025");
+  sceglie("cmbPrevisione", "Previsione n.1 del 03/07//2001");
   scatta("modifica-previsione");
 
   scegli("mnuMetodi");
@@ -198,7 +198,7 @@ void Fotografo::tutte() {
   sceglie("cmbMetodo", kMetodo);
   auto& inizio = nella<QLineEdit>("DTInizio");
   inizio.selectAll();
-  inizio.insert("07/06/2025");
+  inizio.insert("07/06/2001");
   QKeyEvent invio(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
   QApplication::sendEvent(&inizio, &invio);
   premi("btnElabora");

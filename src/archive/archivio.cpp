@@ -13,7 +13,15 @@ int ArchivioEstrazioni::PrimoIndiceLibero() const {
   // The first MaxEstrazioni bytes are the days of all draws, one after the other.
   const auto giorni = ottetti().first(MaxEstrazioni);
   const auto libero = std::find(giorni.begin(), giorni.end(), std::uint8_t{0});
-  if (libero == giorni.end()) fuoriDallaGriglia();
+  if (libero == giorni.end())
+    throw RuntimeFailure(Errore::Indice)
+        .spiega(
+            {.fatto =
+                 "L'archivio è pieno: contiene 15.000 estrazioni, una più di quante se ne possono mostrare.",
+             .rimedio =
+                 "Rimettete al suo posto una copia di archivion71.dat, oppure costruite l'archivio con "
+                 "Utility > Importa Estrazioni da File.",
+             .capitolo = "Il resto"});
   return static_cast<int>(libero - giorni.begin()) + 1;
 }
 

@@ -22,6 +22,19 @@ void mostra(SchedaEstrazione& frm, const ArchivioEstrazioni& archivio, int n) {
     frm.txtestr_Mostra(f, std::to_string(archivio(n, ruotaDelCampo(f), posizioneDelCampo(f))));
 }
 
+std::uint8_t numeroDelCampo(const ModuloEstrazione& frm, int f) {
+  try {
+    return inByte(frm.txtestr_Text(f));
+  } catch (RuntimeFailure& failure) {
+    failure.spiega({.fatto = "Il numero " + std::to_string(posizioneDelCampo(f)) + " di " +
+                             std::string(kTavolaRuote[static_cast<std::size_t>(ruotaDelCampo(f) - 1)].nome) +
+                             " è vuoto o non è un numero: l'estrazione non è stata salvata.",
+                    .rimedio = "Riaprite il programma e scrivete tutti i 55 numeri prima di salvare.",
+                    .capitolo = "Inserire un'estrazione"});
+    throw;
+  }
+}
+
 }  // namespace
 
 int clsGestione::salva(const ModuloEstrazione& frm, std::optional<int> n) {
@@ -38,7 +51,7 @@ int clsGestione::salva(const ModuloEstrazione& frm, std::optional<int> n) {
   }
   archivio.scriviData(*n, *data, kSecoloDiOgniSalvataggio);
   for (int f = 0; f < kCampiEstrazione; ++f)
-    archivio(*n, ruotaDelCampo(f), posizioneDelCampo(f)) = inByte(frm.txtestr_Text(f));
+    archivio(*n, ruotaDelCampo(f), posizioneDelCampo(f)) = numeroDelCampo(frm, f);
   ScriviArchivio(cartella_, archivio);
   return *n;
 }

@@ -1,6 +1,7 @@
 #include "controls/controllo_disegnato.h"
 
 #include <QCursor>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QShortcutEvent>
@@ -50,22 +51,37 @@ bool ControlloDisegnato::event(QEvent* evento) {
 }
 
 void ControlloDisegnato::mousePressEvent(QMouseEvent* evento) {
+  Q_EMIT MouseDown(evento->button(), evento->modifiers(), evento->position().toPoint());
   if (evento->button() == Qt::LeftButton) stato().MouseDown();
   ridisegna();
   QAbstractButton::mousePressEvent(evento);
 }
 
 void ControlloDisegnato::mouseMoveEvent(QMouseEvent* evento) {
-  stato().MouseMove(rect().contains(evento->position().toPoint()),
-                    evento->buttons().testFlag(Qt::LeftButton));
+  const auto dove = evento->position().toPoint();
+  const bool dentro = rect().contains(dove);
+  if (dentro) Q_EMIT MouseMove(evento->buttons(), evento->modifiers(), dove);
+  stato().MouseMove(dentro, evento->buttons().testFlag(Qt::LeftButton));
   ridisegna();
   QAbstractButton::mouseMoveEvent(evento);
 }
 
 void ControlloDisegnato::mouseReleaseEvent(QMouseEvent* evento) {
+  Q_EMIT MouseUp(evento->button(), evento->modifiers(), evento->position().toPoint());
   stato().MouseUp();  // before the click, whose handler may show a message over the button
   ridisegna();
   QAbstractButton::mouseReleaseEvent(evento);
+}
+
+void ControlloDisegnato::keyPressEvent(QKeyEvent* tasto) {
+  Q_EMIT KeyDown(tasto->key(), tasto->modifiers());
+  if (!tasto->text().isEmpty()) Q_EMIT KeyPress(tasto->text());
+  QAbstractButton::keyPressEvent(tasto);
+}
+
+void ControlloDisegnato::keyReleaseEvent(QKeyEvent* tasto) {
+  Q_EMIT KeyUp(tasto->key(), tasto->modifiers());
+  QAbstractButton::keyReleaseEvent(tasto);
 }
 
 void ControlloDisegnato::changeEvent(QEvent* evento) {

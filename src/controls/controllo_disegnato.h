@@ -22,6 +22,13 @@ class ControlloDisegnato : public QAbstractButton {
 
  Q_SIGNALS:
   void Click();
+  void KeyDown(int tasto, Qt::KeyboardModifiers modificatori);
+  void KeyPress(const QString& carattere);
+  void KeyUp(int tasto, Qt::KeyboardModifiers modificatori);
+  /// Points are in the control's coordinates. A move is told of inside the control alone.
+  void MouseDown(Qt::MouseButton pulsante, Qt::KeyboardModifiers modificatori, QPoint dove);
+  void MouseMove(Qt::MouseButtons pulsanti, Qt::KeyboardModifiers modificatori, QPoint dove);
+  void MouseUp(Qt::MouseButton pulsante, Qt::KeyboardModifiers modificatori, QPoint dove);
   void MouseOut();
 
  protected:
@@ -39,6 +46,8 @@ class ControlloDisegnato : public QAbstractButton {
   void mousePressEvent(QMouseEvent* evento) override;
   void mouseMoveEvent(QMouseEvent* evento) override;
   void mouseReleaseEvent(QMouseEvent* evento) override;
+  void keyPressEvent(QKeyEvent* tasto) override;
+  void keyReleaseEvent(QKeyEvent* tasto) override;
   void changeEvent(QEvent* evento) override;
 
  private:

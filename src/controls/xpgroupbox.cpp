@@ -22,6 +22,7 @@ QRect qt(const Rettangolo& r) { return {r.x, r.y, r.larghezza, r.altezza}; }
 
 xpgroupbox::xpgroupbox(QWidget* parent) : QWidget(parent) {
   installaAccessibilita();
+  setMouseTracking(true);
   disponi();
 }
 
@@ -68,17 +69,34 @@ void xpgroupbox::paintEvent(QPaintEvent*) {
   }
   disegnaNovePezzi(pennello, qt(parti.cornice), immagini_.prendi(0, devicePixelRatioF(), dipingi));
   pennello.restore();
+  if (!caption_.isEmpty() && fondo.alpha() > 0) {  // the line alone stops at the caption
+    const auto sotto = qt(parti.cornice).adjusted(0, 1, 0, 0);
+    pennello.fillRect(didascalia.adjusted(-kStacco, 0, kStacco, 0) & sotto, fondo);
+  }
   pennello.setPen(isEnabled() ? palette().color(QPalette::WindowText) : coloreDisabilitato());
   pennello.drawText(didascalia, Qt::AlignLeft | Qt::AlignVCenter, caption_);
 }
 
-void xpgroupbox::mousePressEvent(QMouseEvent* evento) { evento->accept(); }
-
-void xpgroupbox::mouseReleaseEvent(QMouseEvent* evento) {
-  if (rect().contains(evento->position().toPoint())) Q_EMIT Click();
+void xpgroupbox::mousePressEvent(QMouseEvent* evento) {
+  doppio_ = false;
+  Q_EMIT MouseDown(evento->button(), evento->modifiers(), evento->position().toPoint());
 }
 
-void xpgroupbox::mouseDoubleClickEvent(QMouseEvent*) { Q_EMIT DblClick(); }
+void xpgroupbox::mouseMoveEvent(QMouseEvent* evento) {
+  Q_EMIT MouseMove(evento->buttons(), evento->modifiers(), evento->position().toPoint());
+}
+
+void xpgroupbox::mouseReleaseEvent(QMouseEvent* evento) {
+  const auto dove = evento->position().toPoint();
+  Q_EMIT MouseUp(evento->button(), evento->modifiers(), dove);
+  if (!doppio_ && rect().contains(dove)) Q_EMIT Click();
+}
+
+void xpgroupbox::mouseDoubleClickEvent(QMouseEvent* evento) {
+  doppio_ = true;
+  Q_EMIT MouseDown(evento->button(), evento->modifiers(), evento->position().toPoint());
+  Q_EMIT DblClick();
+}
 
 void xpgroupbox::changeEvent(QEvent* evento) {
   if (evento->type() == QEvent::FontChange || evento->type() == QEvent::StyleChange) disponi();

@@ -29,10 +29,15 @@ class xpgroupbox : public QWidget {
  Q_SIGNALS:
   void Click();
   void DblClick();
+  /// Points are in the control's coordinates.
+  void MouseDown(Qt::MouseButton pulsante, Qt::KeyboardModifiers modificatori, QPoint dove);
+  void MouseMove(Qt::MouseButtons pulsanti, Qt::KeyboardModifiers modificatori, QPoint dove);
+  void MouseUp(Qt::MouseButton pulsante, Qt::KeyboardModifiers modificatori, QPoint dove);
 
  protected:
   void paintEvent(QPaintEvent* evento) override;
   void mousePressEvent(QMouseEvent* evento) override;
+  void mouseMoveEvent(QMouseEvent* evento) override;
   void mouseReleaseEvent(QMouseEvent* evento) override;
   void mouseDoubleClickEvent(QMouseEvent* evento) override;
   void changeEvent(QEvent* evento) override;
@@ -44,6 +49,7 @@ class xpgroupbox : public QWidget {
   QString caption_;
   QColor fondo_{255, 255, 0};
   SerieImmagini immagini_;
+  bool doppio_ = false;  // the press under way is the second of a double click
 };
 
 }  // namespace vaticlo

@@ -96,6 +96,7 @@ void xpradiobutton::keyPressEvent(QKeyEvent* tasto) {
   do {
     posto = (posto + (avanti ? 1 : quante - 1)) % quante;
   } while (opzioni[posto] != this && !(opzioni[posto]->isEnabled() && opzioni[posto]->isVisible()));
+  Q_EMIT KeyDown(tasto->key(), tasto->modifiers());
   opzioni[posto]->setFocus(avanti ? Qt::TabFocusReason : Qt::BacktabFocusReason);
   opzioni[posto]->click();
 }

@@ -5,10 +5,13 @@
 #include <QStyleFactory>
 #include <QTranslator>
 
+#include "desktop/immagini.h"
+
 namespace vaticlo {
 
 void preparaApplicazione(QApplication& applicazione) {
   QApplication::setApplicationName(QStringLiteral("Vaticlo"));
+  QApplication::setWindowIcon(immagine(QStringLiteral("vaticlo")));
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   auto* italiano = new QTranslator(&applicazione);

@@ -1,27 +1,45 @@
 #include "desktop/confine.h"
 
+#include <QApplication>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <cstdlib>
 
+#include "dialogs/messaggio_fatale.h"
+
 namespace vaticlo {
+
+namespace {
+
+QWidget* finestraPrincipale() {
+  for (auto* finestra : QApplication::topLevelWidgets())
+    if (qobject_cast<QMainWindow*>(finestra) != nullptr && finestra->isVisible()) return finestra;
+  return nullptr;
+}
+
+}  // namespace
+
+Confine Confine::nella(std::string finestra) const {
+  Confine altro(*this);
+  altro.finestra_ = std::move(finestra);
+  return altro;
+}
 
 void Confine::esegui(const std::function<void()>& evento) const {
   try {
     evento();
-  } catch (const RuntimeFailure& failure) {
-    fine_(failure);
+  } catch (RuntimeFailure& failure) {
+    fine_(failure.nella(finestra_));
   } catch (const std::exception& eccezione) {
-    fine_(RuntimeFailure(Errore::ErroreInterno, eccezione.what()));
+    fine_(RuntimeFailure(Errore::ErroreInterno, eccezione.what()).nella(finestra_));
   }
 }
 
 void Confine::terminaProgramma(const RuntimeFailure& failure) {
-  QMessageBox::critical(
-      nullptr, QStringLiteral("Vaticlo"),
-      QStringLiteral("Errore di run-time %1: %2.\n\nIl programma termina; ciò che era stato salvato "
-                     "resta.")
-          .arg(failure.numero())
-          .arg(QString::fromUtf8(failure.what())));
+  QMessageBox box(QMessageBox::Critical, QStringLiteral("Vaticlo"),
+                  QString::fromStdString(messaggioFatale(failure)), QMessageBox::Ok, finestraPrincipale());
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
   // No window lives on to meet another event, and nothing that is still open is written any more.
   std::_Exit(EXIT_FAILURE);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "platform/failure.h"
 
@@ -15,12 +16,16 @@ class Confine {
   /// `fine` takes a failure to its end; a test gives its own.
   explicit Confine(Fine fine = &Confine::terminaProgramma) : fine_(std::move(fine)) {}
 
+  /// The same boundary for the events of a window: a failure that crosses it bears the window's caption.
+  [[nodiscard]] Confine nella(std::string finestra) const;
+
   void esegui(const std::function<void()>& evento) const;
 
  private:
   [[noreturn]] static void terminaProgramma(const RuntimeFailure& failure);
 
   Fine fine_;
+  std::string finestra_;
 };
 
 }  // namespace vaticlo

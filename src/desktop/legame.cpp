@@ -1,10 +1,8 @@
 #include "desktop/legame.h"
 
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -14,6 +12,8 @@
 #include "controls/xpcmdbutton.h"
 #include "controls/xpgroupbox.h"
 #include "controls/xpradiobutton.h"
+#include "desktop/area_rapporto.h"
+#include "desktop/con_fuoco.h"
 #include "desktop/immagini.h"
 #include "desktop/selettore_data.h"
 
@@ -23,40 +23,20 @@ namespace {
 
 QString testo(const std::string& utf8) { return QString::fromStdString(utf8); }
 
-/// A list that tells when it is about to show its items.
-class ElencoVista : public QComboBox {
- public:
-  ElencoVista(std::function<void()> apre, QWidget* padre) : QComboBox(padre), apre_(std::move(apre)) {}
-  void showPopup() override {
-    apre_();
-    QComboBox::showPopup();
-  }
-
- private:
-  std::function<void()> apre_;
-};
-
-void disegnaVoci(QComboBox& combo, const Elenco& modello) {
-  const auto& voci = modello.voci();
-  bool uguali = combo.count() == static_cast<int>(voci.size());
-  for (int n = 0; uguali && n < combo.count(); ++n)
-    uguali = combo.itemText(n) == testo(voci[static_cast<std::size_t>(n)].testo);
-  if (uguali) return;
-  combo.clear();
-  for (const auto& voce : voci) combo.addItem(testo(voce.testo));
-}
-
 }  // namespace
 
 Legame::Legame(QWidget* vista, std::shared_ptr<Finestra> finestra, const Confine& confine)
     : QObject(vista),
       vista_(vista),
       finestra_(std::move(finestra)),
-      confine_(confine),
-      validatore_(vista, confine) {}
+      confine_(confine.nella(finestra_->Caption())),
+      validatore_(vista, confine_) {}
 
 Legame::~Legame() {
-  for (auto* modello : seguiti_) modello->osserva({});
+  for (auto* modello : seguiti_) {
+    modello->osserva({});
+    modello->SetFocus = [] {};
+  }
 }
 
 template <class Widget>
@@ -85,11 +65,15 @@ CampoTestoVista* Legame::campo(CampoTesto& modello, const QString& nome) {
   auto* widget = chiamato(new CampoTestoVista(modello, vista_), nome);
   if (modello.Validate) validatore_.prova(widget, [&modello] { return modello.Validate(); });
   segui(modello, [widget] { widget->aggiorna(); });
+  modello.SetFocus = [widget] {
+    widget->setFocus(Qt::OtherFocusReason);
+    widget->selectAll();
+  };
   return widget;
 }
 
 QScrollBar* Legame::barra(BarraScorrimento& modello, const QString& nome) {
-  auto* widget = chiamato(new QScrollBar(Qt::Vertical, vista_), nome);
+  auto* widget = chiamato(new ConFuoco<QScrollBar>(Qt::Vertical, vista_), nome);
   widget->setFocusPolicy(Qt::StrongFocus);
   widget->setSingleStep(modello.SmallChange);
   widget->setPageStep(modello.LargeChange);
@@ -103,43 +87,14 @@ QScrollBar* Legame::barra(BarraScorrimento& modello, const QString& nome) {
   return widget;
 }
 
-QComboBox* Legame::elenco(Elenco& modello, const QString& nome, Tipo tipo) {
-  const auto apre = [this, &modello] {
-    confine_.esegui([&] {
-      if (modello.DropDown) modello.DropDown();
-    });
-  };
-  auto* widget = chiamato(new ElencoVista(apre, vista_), nome);
-  widget->setEditable(tipo == Tipo::Modificabile);
-  widget->setInsertPolicy(QComboBox::NoInsert);
-  widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  segui(modello, [&modello, widget] {
-    const QSignalBlocker silenzio(widget);
-    disegnaVoci(*widget, modello);
-    const auto mostrato = testo(modello.Text());
-    const int indice = modello.ListIndex() >= 0
-                           ? modello.ListIndex()
-                           : widget->findText(mostrato, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (widget->currentIndex() != indice) widget->setCurrentIndex(indice);
-    if (widget->isEditable() && widget->currentText() != mostrato) widget->setEditText(mostrato);
-    if (!widget->isEditable()) widget->setPlaceholderText(mostrato);
-    widget->setEnabled(modello.Enabled());
-    widget->setVisible(modello.Visible());
-  });
-  connect(widget, &QComboBox::activated, this,
-          [this, &modello](int indice) { confine_.esegui([&] { modello.scegli(indice); }); });
-  if (widget->isEditable()) {
-    // A typed name is a text and nothing more: the toolkit neither completes it nor takes it for a choice.
-    widget->setCompleter(nullptr);
-    disconnect(widget->lineEdit(), &QLineEdit::editingFinished, widget, nullptr);
-    connect(widget->lineEdit(), &QLineEdit::textEdited, this,
-            [&modello](const QString& digitato) { modello.Text(digitato.toStdString()); });
-  }
+QComboBox* Legame::elenco(Elenco& modello, const QString& nome, ElencoVista::Tipo tipo) {
+  auto* widget = chiamato(new ElencoVista(modello, tipo, confine_, vista_), nome);
+  segui(modello, [widget] { widget->aggiorna(); });
   return widget;
 }
 
 QRadioButton* Legame::opzione(Opzione& modello, const QString& nome) {
-  auto* widget = chiamato(new QRadioButton(vista_), nome);
+  auto* widget = chiamato(new ConFuoco<QRadioButton>(vista_), nome);
   segui(modello, [&modello, widget] {
     widget->setText(testo(modello.Caption()));
     if (modello.Value()) widget->setChecked(true);
@@ -184,7 +139,7 @@ xpcmdbutton* Legame::pulsante(Pulsante& modello, const QString& nome) {
 }
 
 QToolButton* Legame::pulsanteConImmagine(Pulsante& modello, const QString& nome, const QString& chiave) {
-  auto* widget = chiamato(new QToolButton(vista_), nome);
+  auto* widget = chiamato(new ConFuoco<QToolButton>(vista_), nome);
   widget->setIcon(immagine(chiave));
   widget->setIconSize(QSize(24, 24));
   widget->setFocusPolicy(Qt::StrongFocus);
@@ -240,18 +195,8 @@ xpgroupbox* Legame::riquadroDisegnato(Riquadro& modello, const QString& nome) {
 }
 
 QPlainTextEdit* Legame::area(AreaTesto& modello, const QString& nome) {
-  auto* widget = chiamato(new QPlainTextEdit(vista_), nome);
-  widget->setReadOnly(true);
-  widget->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  widget->setTabChangesFocus(true);
-  widget->setUndoRedoEnabled(false);
-  segui(modello, [&modello, widget, mostrato = std::string()]() mutable {
-    if (modello.Text() != mostrato) {
-      mostrato = modello.Text();
-      widget->setPlainText(testo(mostrato));
-    }
-    widget->setVisible(modello.Visible());
-  });
+  auto* widget = chiamato(new AreaRapporto(modello, vista_), nome);
+  segui(modello, [widget] { widget->aggiorna(); });
   return widget;
 }
 

@@ -6,11 +6,11 @@
 
 #include "desktop/campo_testo.h"
 #include "desktop/confine.h"
+#include "desktop/elenco_vista.h"
 #include "desktop/validatore.h"
 #include "forms/controlli.h"
 #include "forms/finestra.h"
 
-class QComboBox;
 class QGroupBox;
 class QLabel;
 class QPlainTextEdit;
@@ -39,8 +39,8 @@ class Legame : public QObject {
   QLabel* etichetta(Etichetta& modello, const QString& nome);
   CampoTestoVista* campo(CampoTesto& modello, const QString& nome);
   QScrollBar* barra(BarraScorrimento& modello, const QString& nome);
-  enum class Tipo { Modificabile, Chiuso };
-  QComboBox* elenco(Elenco& modello, const QString& nome, Tipo tipo = Tipo::Modificabile);
+  QComboBox* elenco(Elenco& modello, const QString& nome,
+                    ElencoVista::Tipo tipo = ElencoVista::Tipo::Modificabile);
   QRadioButton* opzione(Opzione& modello, const QString& nome);
   xpradiobutton* opzioneDisegnata(Opzione& modello, const QString& caption, const QString& nome);
   xpcmdbutton* pulsante(Pulsante& modello, const QString& nome);
@@ -62,7 +62,7 @@ class Legame : public QObject {
 
   QWidget* vista_;
   std::shared_ptr<Finestra> finestra_;
-  const Confine& confine_;
+  const Confine confine_;  // the one given, with the name of the window
   Validatore validatore_;
   std::vector<Controllo*> seguiti_;
 };

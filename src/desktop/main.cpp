@@ -2,8 +2,10 @@
 #include <QFile>
 #include <QSettings>
 #include <csignal>
+#include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <string_view>
 
 #include "desktop/applicazione.h"
 #include "desktop/confine.h"
@@ -12,8 +14,32 @@
 #include "desktop/vista_splash.h"
 #include "methods/cartella_metodi.h"
 
+namespace {
+
+// What is asked of a program before there is any window: nothing of it needs a screen.
+const char* rispostaSenzaSchermo(int argc, char* argv[]) {
+  for (int n = 1; n < argc; ++n) {
+    const std::string_view parola = argv[n];
+    if (parola == "--version" || parola == "-v") return "vaticlo " VATICLO_VERSION;
+    if (parola == "--help" || parola == "-h")
+      return "Vaticlo: archivio, previsioni e verifiche per chi gioca al Lotto.\n\n"
+             "Uso: vaticlo              apre la finestra\n"
+             "     vaticlo --version    dice la versione\n"
+             "     vaticlo --help       mostra questo testo\n\n"
+             "I dati sono nella cartella del programma. Dentro, F1 apre la guida; senza finestre: "
+             "vaticlo-cli --help";
+  }
+  return nullptr;
+}
+
+}  // namespace
+
 int main(int argc, char* argv[]) {
   using namespace vaticlo;
+  if (const char* risposta = rispostaSenzaSchermo(argc, argv)) {
+    std::puts(risposta);
+    return EXIT_SUCCESS;
+  }
   // A limit on the size of files shows as a write that fails, not as the end of the process.
   std::signal(SIGXFSZ, SIG_IGN);
   QApplication applicazione(argc, argv);

@@ -10,13 +10,14 @@ namespace vaticlo {
 
 QGroupBox* sceltaMetodo(Legame& legame, ControlliMetodo& metodo) {
   auto* riquadro = legame.riquadro(metodo.Frame2, QStringLiteral("Frame2"));
+  riquadro->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   auto* riga = new QHBoxLayout(riquadro);
   riga->setSpacing(12);
   riga->addWidget(legame.opzione(metodo.optSelMetodo[0], QStringLiteral("optSelMetodo_0")));
   riga->addWidget(legame.opzione(metodo.optSelMetodo[1], QStringLiteral("optSelMetodo_1")));
   auto* lista = legame.elenco(metodo.cmbMetodo, QStringLiteral("cmbMetodo"));
   lista->setAccessibleName(riquadro->title());
-  lista->setMinimumContentsLength(14);
+  lista->setMinimumContentsLength(10);
   riga->addWidget(lista, 1);
   return riquadro;
 }
@@ -24,6 +25,7 @@ QGroupBox* sceltaMetodo(Legame& legame, ControlliMetodo& metodo) {
 QGroupBox* riquadroCon(Legame& legame, Riquadro& riquadro, const QString& nome, QWidget* dentro) {
   auto* gruppo = legame.riquadro(riquadro, nome);
   (new QVBoxLayout(gruppo))->addWidget(dentro);
+  gruppo->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);  // as tall as a line
   dentro->setAccessibleName(gruppo->title());
   return gruppo;
 }

@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,10 +12,14 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProgressDialog>
-#include <QTextDocument>
+#include <QThread>
+#include <QTimer>
+#include <QToolTip>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <atomic>
 
+#include "desktop/carta.h"
 #include "platform/orologio.h"
 #include "platform/scaricamento.h"
 
@@ -22,9 +27,17 @@ namespace vaticlo {
 
 namespace {
 
-constexpr int kAttesaAvanzamento = 300;  // milliseconds; what is done sooner shows no box
+constexpr int kDurataSuggerimento = 10'000;  // milliseconds
+constexpr int kAttesaAvanzamento = 300;      // milliseconds; what is done sooner shows no box
 
 QString qt(const std::string& testo) { return QString::fromStdString(testo); }
+
+// A hint below what has the focus, where the user has just pressed.
+void suggerisci(const QString& testo) {
+  const auto* dove = QApplication::focusWidget();
+  const auto punto = dove != nullptr ? dove->mapToGlobal(dove->rect().bottomLeft()) : QCursor::pos();
+  QToolTip::showText(punto, testo, nullptr, {}, kDurataSuggerimento);
+}
 
 }  // namespace
 
@@ -94,18 +107,44 @@ void ServiziDesktop::avanzamento(const std::string& lavoro, int percento) {
 
 void ServiziDesktop::stampa(const std::string& testo) {
   const auto predefinita = QPrinterInfo::defaultPrinter();
-  if (predefinita.isNull()) return;
+  if (predefinita.isNull()) {
+    suggerisci(
+        QStringLiteral("Non c'è una stampante predefinita: non è stato stampato nulla.\n"
+                       "Con il tasto destro sul testo: \"Salva come PDF...\" o \"Salva come testo...\"."));
+    return;
+  }
   QPrinter stampante(predefinita, QPrinter::HighResolution);
   stampante.setDocName(QStringLiteral("Vaticlo"));
-  QTextDocument documento;
-  documento.setPlainText(qt(testo));
-  documento.print(&stampante);
+  stampaSu(stampante, qt(testo));
 }
 
 bool ServiziDesktop::scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) {
+  // The transfer has a thread of its own, so that the screen stays painted; the box over the windows keeps
+  // every other command away until the end.
+  std::atomic<bool> fermato = false;
+  std::atomic<bool> riuscito = false;
+  LimitiScaricamento limiti;
+  limiti.interrotto = [&fermato] { return fermato.load(); };
+  const std::unique_ptr<QThread> lavoro(
+      QThread::create([&] { riuscito = scaricaInFile(indirizzo, destinazione, limiti); }));
   QApplication::setOverrideCursor(Qt::WaitCursor);
-  ridisegna();  // nothing is drawn until the end
-  const bool riuscito = scaricaInFile(indirizzo, destinazione);
+  QEventLoop attesa;
+  QObject::connect(lavoro.get(), &QThread::finished, &attesa, &QEventLoop::quit);
+  QTimer::singleShot(kAttesaAvanzamento, &attesa, &QEventLoop::quit);
+  lavoro->start();
+  attesa.exec(QEventLoop::ExcludeUserInputEvents);
+  if (!lavoro->isFinished()) {
+    QProgressDialog box(QStringLiteral("Scaricamento in corso... Esc lo interrompe."),
+                        QStringLiteral("Interrompi"), 0, 0, padre_);
+    box.setWindowTitle(QApplication::applicationName());
+    box.setWindowModality(Qt::ApplicationModal);
+    box.setMinimumDuration(0);
+    QObject::connect(&box, &QProgressDialog::canceled, &box, [&fermato] { fermato = true; });
+    QObject::connect(lavoro.get(), &QThread::finished, &box, &QDialog::accept);
+    if (!lavoro->isFinished()) box.exec();
+    fermato = true;
+  }
+  lavoro->wait();
   QApplication::restoreOverrideCursor();
   return riuscito;
 }

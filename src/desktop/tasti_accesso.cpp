@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QToolButton>
 
 #include "controls/xpcmdbutton.h"
 
@@ -17,8 +18,9 @@ bool TastiAccesso::eventFilter(QObject* oggetto, QEvent* evento) {
   const bool premuto = evento->type() == QEvent::KeyPress && oggetto->isWidgetType();
   if (!chiesto && !premuto) return QObject::eventFilter(oggetto, evento);
   const auto& tasto = *static_cast<QKeyEvent*>(evento);
-  if (!figliaInAttesa() || (!chiude(tasto, premuto) && !premi(tasto, premuto)))
-    return QObject::eventFilter(oggetto, evento);
+  const bool preso = (premuto && invio(oggetto, tasto)) ||
+                     (figliaInAttesa() && (chiude(tasto, premuto) || premi(tasto, premuto)));
+  if (!preso) return QObject::eventFilter(oggetto, evento);
   evento->accept();
   return true;
 }
@@ -37,24 +39,32 @@ bool TastiAccesso::chiude(const QKeyEvent& tasto, bool davvero) const {
 
 bool TastiAccesso::premi(const QKeyEvent& tasto, bool davvero) const {
   if (tasto.modifiers() != Qt::AltModifier) return false;
-  const auto* figlia = area_->activeSubWindow();
   const QKeySequence cercata(Qt::ALT | static_cast<Qt::Key>(tasto.key()));
-  bool disabilitato = false;
-  for (auto* pulsante : figlia->findChildren<xpcmdbutton*>()) {
-    if (!pulsante->isVisible() || pulsante->shortcut() != cercata) continue;
-    if (!pulsante->isEnabled()) {
-      disabilitato = true;
-      continue;
-    }
-    if (davvero && !tasto.isAutoRepeat()) {
-      pulsante->setFocus(Qt::ShortcutFocusReason);
-      if (pulsante->hasFocus()) pulsante->click();  // a field that fails its test does not let the focus go
-    }
-    return true;
-  }
+  QList<xpcmdbutton*> suoi;
+  for (auto* pulsante : area_->activeSubWindow()->findChildren<xpcmdbutton*>())
+    if (pulsante->isVisible() && pulsante->shortcut() == cercata) suoi << pulsante;
+  if (suoi.isEmpty()) return false;
   // The key of a disabled button is the window's all the same: it must not open another one from the menu
   // bar.
-  return disabilitato;
+  if (!davvero || tasto.isAutoRepeat()) return true;
+  const bool unoSolo = suoi.size() == 1;
+  const auto inattivo = [](const xpcmdbutton* pulsante) { return !pulsante->isEnabled(); };
+  suoi.removeIf(inattivo);
+  if (suoi.isEmpty()) return true;
+  auto* prossimo = suoi[(suoi.indexOf(area_->window()->focusWidget()) + 1) % suoi.size()];
+  prossimo->setFocus(Qt::ShortcutFocusReason);
+  if (unoSolo && prossimo->hasFocus()) prossimo->click();  // a field that fails its test keeps the focus
+  return true;
+}
+
+bool TastiAccesso::invio(QObject* oggetto, const QKeyEvent& tasto) const {
+  const bool suo =
+      qobject_cast<xpcmdbutton*>(oggetto) != nullptr || qobject_cast<QToolButton*>(oggetto) != nullptr;
+  auto* pulsante = qobject_cast<QAbstractButton*>(oggetto);
+  if (!suo || (tasto.key() != Qt::Key_Return && tasto.key() != Qt::Key_Enter)) return false;
+  if (pulsante->window() != area_->window() || !pulsante->isEnabled()) return false;
+  if (!tasto.isAutoRepeat()) pulsante->click();
+  return true;
 }
 
 }  // namespace vaticlo

@@ -8,8 +8,9 @@ class QMdiArea;
 namespace vaticlo {
 
 /// Access keys of the active child window come before those of the menu bar: in a draw window Alt+S is
-/// "&Salva", not "&Statistica". Where two of its buttons share a letter, the first that can be pressed
-/// answers. Ctrl+F4 and Ctrl+W close the active child window.
+/// "&Salva", not "&Statistica". Where buttons share a letter it leads the focus from one to the next and
+/// presses none. Enter presses the button that has the focus. Ctrl+F4 and Ctrl+W close the active child
+/// window.
 class TastiAccesso : public QObject {
  public:
   explicit TastiAccesso(QMdiArea* area);
@@ -23,6 +24,7 @@ class TastiAccesso : public QObject {
   // Whether the key is theirs; with `davvero` they do what it asks for.
   [[nodiscard]] bool chiude(const QKeyEvent& tasto, bool davvero) const;
   [[nodiscard]] bool premi(const QKeyEvent& tasto, bool davvero) const;
+  [[nodiscard]] bool invio(QObject* oggetto, const QKeyEvent& tasto) const;
 
   QMdiArea* area_;
 };

@@ -1,5 +1,6 @@
 #include "desktop/tavola_estrazione.h"
 
+#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -16,6 +17,18 @@ namespace {
 constexpr std::array<const char*, kRuote> kNomiEtichette = {"Label2",  "Label21", "Label20", "Label19",
                                                             "Label18", "Label17", "Label16", "Label15",
                                                             "Label14", "Label12", "Label3"};
+
+/// Leads the wheel over the numbers to the bar that walks the draws.
+class RotellaAllaBarra : public QObject {
+ public:
+  explicit RotellaAllaBarra(QScrollBar* barra) : QObject(barra), barra_(barra) {}
+  bool eventFilter(QObject* /*tavola*/, QEvent* evento) override {
+    return evento->type() == QEvent::Wheel && QCoreApplication::sendEvent(barra_, evento);
+  }
+
+ private:
+  QScrollBar* barra_;
+};
 
 }  // namespace
 
@@ -71,6 +84,7 @@ void aggiungiBarra(Legame& legame, QWidget& tavola, BarraScorrimento& VScroll1, 
   auto* barra = legame.barra(VScroll1, QStringLiteral("VScroll1"));
   barra->setAccessibleName(QStringLiteral("Scorri le estrazioni"));
   barra->setToolTip(QStringLiteral("Scorri le estrazioni: in alto la più vecchia"));
+  tavola.installEventFilter(new RotellaAllaBarra(barra));
   auto* griglia = static_cast<QGridLayout*>(tavola.layout());
   griglia->addWidget(barra, primaRiga, griglia->columnCount(), griglia->rowCount() - primaRiga, 1);
 }

@@ -19,7 +19,7 @@ QWidget* selezione(Legame& legame, frmInsPrev& frm) {
   auto* riga = new QHBoxLayout(widget);
   riga->setContentsMargins(0, 0, 0, 0);
   auto* metodi = legame.elenco(frm.cmbMetodo, QStringLiteral("cmbMetodo"));
-  metodi->setMinimumContentsLength(24);
+  metodi->setMinimumContentsLength(20);
   riga->addWidget(riquadroCon(legame, frm.Frame1, QStringLiteral("Frame1"), metodi));
   auto* previsioni = legame.elenco(frm.cmbPrevisione, QStringLiteral("cmbPrevisione"));
   previsioni->setMinimumContentsLength(32);
@@ -46,9 +46,10 @@ QWidget* previsione(Legame& legame, frmInsPrev& frm) {
   prima->addWidget(riquadroCon(legame, frm.Frame4, QStringLiteral("Frame4"),
                                legame.campo(frm.txtRuote, QStringLiteral("txtRuote"))),
                    3);
-  prima->addWidget(riquadroCon(legame, frm.Frame5, QStringLiteral("Frame5"),
-                               legame.elenco(frm.cmbColpi, QStringLiteral("cmbColpi"), Legame::Tipo::Chiuso)),
-                   2);
+  prima->addWidget(
+      riquadroCon(legame, frm.Frame5, QStringLiteral("Frame5"),
+                  legame.elenco(frm.cmbColpi, QStringLiteral("cmbColpi"), ElencoVista::Tipo::Chiuso)),
+      2);
 
   auto* combinazioni = legame.riquadro(frm.Frame6, QStringLiteral("Frame6"));
   auto* colonna = new QVBoxLayout(combinazioni);
@@ -61,7 +62,8 @@ QWidget* previsione(Legame& legame, frmInsPrev& frm) {
 
   auto* tutto = new QVBoxLayout(gruppo);
   tutto->addLayout(prima);
-  tutto->addWidget(combinazioni, 1);
+  tutto->addWidget(combinazioni);
+  tutto->addStretch(1);
   return gruppo;
 }
 
@@ -81,17 +83,20 @@ QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine) {
   pulsanti->addWidget(legame->pulsante(frm->btnElimina, QStringLiteral("btnElimina")));
   pulsanti->addWidget(legame->pulsante(frm->btnCancella, QStringLiteral("btnCancella")));
 
+  // The buttons stand below the shorter half: the window fits a low screen.
+  auto* conPulsanti = new QVBoxLayout;
+  conPulsanti->addWidget(destra, 1);
+  conPulsanti->addLayout(pulsanti);
   auto* centro = new QHBoxLayout;
   centro->setSpacing(14);
   centro->addWidget(sinistra);
-  centro->addWidget(destra, 1);
+  centro->addLayout(conPulsanti, 1);
 
   auto* tutto = new QVBoxLayout(widget);
   tutto->setContentsMargins(14, 12, 14, 12);
   tutto->setSpacing(10);
   tutto->addWidget(sopra);
   tutto->addLayout(centro, 1);
-  tutto->addLayout(pulsanti);
   widget->setProperty(kPrimoFuoco, QStringLiteral("cmbMetodo"));
   return widget;
 }

@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -25,8 +26,23 @@ namespace {
 
 constexpr int kTwipsPerPixel = 15;
 constexpr int kLatoImmagini = 32;
+constexpr int kBordoInferiore =
+    10;  // of the frame that a window manager draws, whose size is not known before
 
 int pixel(int twips) { return twips / kTwipsPerPixel; }
+
+// A menu takes the pointer from its button, which is not told that it has left.
+void riposaDopoIlMenu(QToolButton* bottone) {
+  QObject::connect(bottone->menu(), &QMenu::aboutToHide, bottone, [bottone] {
+    QTimer::singleShot(0, bottone, [bottone] {
+      if (bottone->rect().contains(bottone->mapFromGlobal(QCursor::pos()))) return;
+      bottone->setAttribute(Qt::WA_UnderMouse, false);
+      QEvent uscita(QEvent::Leave);
+      QApplication::sendEvent(bottone, &uscita);
+      bottone->update();
+    });
+  });
+}
 
 /// A child window that knows its dialog. A press on its frame or background leaves the focus where it is in
 /// it; the toolkit would take it away and give it back.
@@ -72,7 +88,10 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
   setObjectName(QStringLiteral("frmPrincipale"));
   setWindowTitle(QLatin1String(frmPrincipale::kCaption));
   setWindowIcon(immagine(QStringLiteral("vaticlo")));
-  resize(pixel(frmPrincipale::kLarghezza), pixel(frmPrincipale::kAltezza));
+  const QSize cornice(2 * style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth),
+                      style()->pixelMetric(QStyle::PM_TitleBarHeight) + kBordoInferiore);
+  resize(QSize(pixel(frmPrincipale::kLarghezza), pixel(frmPrincipale::kAltezza))
+             .boundedTo(screen()->availableSize() - cornice));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
@@ -116,7 +135,6 @@ void VistaPrincipaleQt::creaBarra() {
   auto* barra = addToolBar(QStringLiteral("Barra degli strumenti"));
   barra->setObjectName(QStringLiteral("Toolbar1"));
   barra->setMovable(false);
-  barra->setContextMenuPolicy(Qt::PreventContextMenu);
   barra->setIconSize(QSize(kLatoImmagini, kLatoImmagini));
   for (const auto& pulsante : tavolaBarra()) {
     const auto toolTip = QString::fromUtf8(pulsante.toolTip);
@@ -142,6 +160,7 @@ void VistaPrincipaleQt::creaBarra() {
       voce(pulsante.statistica, kCaptionStatistica);
       bottone->setMenu(menu);
       bottone->setPopupMode(QToolButton::MenuButtonPopup);
+      riposaDopoIlMenu(bottone);
     }
     barra->addWidget(bottone);
   }
@@ -159,8 +178,8 @@ void VistaPrincipaleQt::mostra(const std::shared_ptr<Finestra>& finestra) {
 
   const auto& misure = finestra->misure();
   const QSize disegno(pixel(misure.larghezza), pixel(misure.altezza));
-  figlia->resize(disegno.expandedTo(figlia->sizeHint()));
-  figlia->move(pixel(misure.sinistra), pixel(misure.sopra));
+  figlia->setGeometry(QRect({pixel(misure.sinistra), pixel(misure.sopra)},
+                            disegno.boundedTo(massima()).expandedTo(figlia->minimumSizeHint())));
   faiPosto(*figlia);
   const QScopedValueRollback mostrando(mostrando_, true);
   figlia->show();
@@ -168,28 +187,34 @@ void VistaPrincipaleQt::mostra(const std::shared_ptr<Finestra>& finestra) {
   (primo != nullptr ? primo : contenuto)->setFocus(Qt::OtherFocusReason);
 }
 
-// A child that does not fit makes the main window grow, as far as the screen allows; then the child moves
-// towards the top left corner, and at last scroll bars appear.
+// The largest area for child windows that the screen has room for.
+QSize VistaPrincipaleQt::massima() const {
+  const auto bordo = frameGeometry().size() - size();
+  const auto intorno = size() - area_->size();
+  const auto schermo = screen()->availableSize() - bordo - intorno;
+  return isMaximized() ? area_->size() : schermo.expandedTo(area_->size());
+}
+
+// A child stands at its place; where it would reach over the edge it moves towards the top left corner. One
+// that is larger than the area makes the main window grow, as far as the screen allows; then scroll bars
+// appear.
 void VistaPrincipaleQt::faiPosto(QMdiSubWindow& figlia) {
-  const auto manca = [&](const QSize& cresciuta) {
-    const auto fuori = figlia.geometry().bottomRight() - QPoint(area_->width() - 1, area_->height() - 1);
-    return QSize(std::max(0, fuori.x() - cresciuta.width()), std::max(0, fuori.y() - cresciuta.height()));
-  };
-  const auto serve = manca(QSize(0, 0));
-  if (serve.isNull()) return;
+  const auto posto = figlia.pos();
+  auto voluta = area_->size();
+  if (figlia.width() > voluta.width()) voluta.setWidth(posto.x() + figlia.width());
+  if (figlia.height() > voluta.height()) voluta.setHeight(posto.y() + figlia.height());
+  voluta = voluta.boundedTo(massima());
+  figlia.move(std::max(0, std::min(posto.x(), voluta.width() - figlia.width())),
+              std::max(0, std::min(posto.y(), voluta.height() - figlia.height())));
+  if (voluta == area_->size() || isMaximized()) return;
+  resize(size() + voluta - area_->size());
   const auto libero = screen()->availableGeometry();
   const auto bordo = frameGeometry().size() - size();
-  const auto voluta =
-      isMaximized() ? size() : (size() + serve).boundedTo(libero.size() - bordo).expandedTo(size());
-  const auto resto = manca(voluta - size());
-  figlia.move(std::max(0, figlia.x() - resto.width()), std::max(0, figlia.y() - resto.height()));
-  if (voluta == size()) return;
-  resize(voluta);
   const QPoint estremo(libero.right() + 1 - width() - bordo.width(),
                        libero.bottom() + 1 - height() - bordo.height());
-  const QPoint posto(std::max(libero.left(), std::min(pos().x(), estremo.x())),
-                     std::max(libero.top(), std::min(pos().y(), estremo.y())));
-  if (isVisible() && posto != pos()) move(posto);
+  const QPoint qui(std::max(libero.left(), std::min(pos().x(), estremo.x())),
+                   std::max(libero.top(), std::min(pos().y(), estremo.y())));
+  if (isVisible() && qui != pos()) move(qui);
 }
 
 void VistaPrincipaleQt::portaSu(Finestra& finestra) {
@@ -221,6 +246,7 @@ void VistaPrincipaleQt::abilitaComandi(bool abilitati) {
 
 void VistaPrincipaleQt::mostraGuida(const std::filesystem::path& pagina) {
   if (!guida_) guida_ = new VistaGuida(pagina, this);
+  guida_->setWindowState(guida_->windowState() & ~Qt::WindowMinimized);
   guida_->show();
   guida_->raise();
   guida_->activateWindow();

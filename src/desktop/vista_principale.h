@@ -19,6 +19,7 @@ class VistaPrincipaleQt : public QMainWindow, private VistaPrincipale {
   ~VistaPrincipaleQt() override;
 
  protected:
+  QMenu* createPopupMenu() override { return nullptr; }  // none that could hide the toolbar
   void closeEvent(QCloseEvent* evento) override;
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
@@ -32,6 +33,7 @@ class VistaPrincipaleQt : public QMainWindow, private VistaPrincipale {
 
   void creaMenu();
   void creaBarra();
+  [[nodiscard]] QSize massima() const;
   void faiPosto(QMdiSubWindow& figlia);
   [[nodiscard]] QMdiSubWindow* figlia(const Finestra& finestra) const;
   [[nodiscard]] std::shared_ptr<Finestra> finestraDi(const QObject* figlia) const;

@@ -39,8 +39,8 @@ QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confi
   auto* widget = new QWidget;
   auto* legame = new Legame(widget, frm, confine);
 
-  auto* sopra = new QHBoxLayout;
-  sopra->addWidget(sceltaMetodo(*legame, frm->metodo), 1);
+  auto* sopra = new QVBoxLayout;  // side by side they would be wider than the window
+  sopra->addWidget(sceltaMetodo(*legame, frm->metodo));
   if (const auto vincenti = std::dynamic_pointer_cast<frmVinc>(frm))
     sopra->addWidget(ultimeEstrazioni(*legame, vincenti, confine));
 

@@ -21,8 +21,13 @@ VistaSplash::VistaSplash(std::function<void()> apriPrincipale)
   if (const auto* schermo = QGuiApplication::primaryScreen())
     move(schermo->availableGeometry().center() - rect().center());
   timer1_.setSingleShot(true);
+  timer1_.setTimerType(Qt::PreciseTimer);
   timer1_.setInterval(kIntervallo);
   connect(&timer1_, &QTimer::timeout, this, &VistaSplash::avanti);
+}
+
+void VistaSplash::showEvent(QShowEvent* evento) {
+  QWidget::showEvent(evento);
   timer1_.start();
 }
 

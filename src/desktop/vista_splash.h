@@ -16,6 +16,7 @@ class VistaSplash : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* evento) override;
+  void showEvent(QShowEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
   void closeEvent(QCloseEvent* evento) override;
 

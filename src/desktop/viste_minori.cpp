@@ -54,7 +54,7 @@ QWidget* vista(const std::shared_ptr<frmGestioneMetodi>& frm, const Confine& con
   tutto->setSpacing(10);
   tutto->addWidget(
       riquadroCon(*legame, frm->Frame1, QStringLiteral("Frame1"),
-                  legame->elenco(frm->cmbMetodo, QStringLiteral("cmbMetodo"), Legame::Tipo::Chiuso)));
+                  legame->elenco(frm->cmbMetodo, QStringLiteral("cmbMetodo"), ElencoVista::Tipo::Chiuso)));
   tutto->addWidget(riquadroCon(*legame, frm->Frame2, QStringLiteral("Frame2"),
                                legame->campo(frm->txtNome, QStringLiteral("txtNome"))));
   tutto->addStretch(1);

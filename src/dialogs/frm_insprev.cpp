@@ -4,6 +4,7 @@
 
 #include "forms/controlli_metodo.h"
 #include "methods/cartella_metodi.h"
+#include "methods/spiegazioni.h"
 #include "platform/blocco.h"
 #include "platform/failure.h"
 #include "platform/testo.h"
@@ -28,7 +29,10 @@ std::string voceDiElenco(const FileMetodo& metodo, int slot) {
 
 frmInsPrev::frmInsPrev(Programma& programma, Cornice& cornice) : Finestra(cornice), programma_(programma) {
   offriMetodi(cmbMetodo, programma.cartella);
-  for (auto& campo : estrazione.txtestr) campo.Locked = true;
+  for (auto& campo : estrazione.txtestr) {
+    campo.Locked = true;
+    campo.BackColor(kGrigio);
+  }
   txtNum.esempio = "Es. 899.11.22.33";
   txtRuote.esempio = "Es.:Ba-Ca-Tutte";
   txtAmbate.esempio = "Es.:21;36";
@@ -36,6 +40,7 @@ frmInsPrev::frmInsPrev(Programma& programma, Cornice& cornice) : Finestra(cornic
   txtSup.esempio = "Es.:15-50-66-71;25-12-10";
   estrazione.VScroll1.Change = [this] { VScroll1_Change(); };
   cmbMetodo.Click = [this] { cmbMetodo_Click(); };
+  cmbMetodo.Change = [this] { cmbMetodo_Change(); };
   cmbPrevisione.Click = [this] { cmbPrevisione_Click(); };
   btnElabora.Click = [this] { btnElabora_Click(); };
   btnElimina.Click = [this] { btnElimina_Click(); };
@@ -43,18 +48,32 @@ frmInsPrev::frmInsPrev(Programma& programma, Cornice& cornice) : Finestra(cornic
 }
 
 void frmInsPrev::Form_Load() {
-  auto& g = programma_.globals;
+  modifica_ = programma_.globals.PrevisioneInModifica;
+  Caption(modifica_ ? "Modifica Previsione" : "Inserisci Previsione");
+  Frame10.Visible(modifica_);
+  btnElimina.Visible(modifica_);
   cornice().chiudiAltre(*this);
   prendiMisure({8970, 12930, 1000, 2000});
-  g.EstrazioneCorrente = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
-  estrazione.VScroll1.Max(g.EstrazioneCorrente);
-  estrazione.VScroll1.Value(estrazione.VScroll1.Max());
-  visualizza(g.EstrazioneCorrente);
+  mostraUltima();
   for (int colpi = 1; colpi <= kColpiOfferti; ++colpi) cmbColpi.AddItem(std::to_string(colpi));
   cmbColpi.Text(std::to_string(kColpiIniziali));
-  Caption(g.PrevisioneInModifica ? "Modifica Previsione" : "Inserisci Previsione");
-  Frame10.Visible(g.PrevisioneInModifica);
-  btnElimina.Visible(g.PrevisioneInModifica);
+}
+
+void frmInsPrev::archivioNuovo() {
+  if (modifica_) {
+    btnCancella_Click();  // the draw of the prediction shown may be another one now
+    return;
+  }
+  mostraUltima();
+  VScroll1_Change();
+}
+
+void frmInsPrev::mostraUltima() {
+  auto& corrente = programma_.globals.EstrazioneCorrente;
+  corrente = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
+  estrazione.VScroll1.Max(corrente);
+  estrazione.VScroll1.Value(estrazione.VScroll1.Max());
+  visualizza(corrente);
 }
 
 void frmInsPrev::VScroll1_Change() {
@@ -63,32 +82,50 @@ void frmInsPrev::VScroll1_Change() {
 }
 
 void frmInsPrev::cmbMetodo_Click() {
-  if (!programma_.globals.PrevisioneInModifica) return;
+  if (!modifica_) return;
   cmbPrevisione.Clear();
   if (!esisteMetodo(programma_.cartella, cmbMetodo.Text())) {
     rifiuta("Non esiste il file del metodo selezionato!", Icona::Nessuna);
     return;
   }
   const auto metodo = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
-  const int elencate = ContaElencate(metodo);
-  for (int slot = 1; slot <= elencate; ++slot) cmbPrevisione.AddItem(voceDiElenco(metodo, slot), slot);
+  try {
+    const int elencate = ContaElencate(metodo);
+    for (int slot = 1; slot <= elencate; ++slot)
+      cmbPrevisione.AddItem(voceDiElenco(metodo, slot), slot);
+  } catch (RuntimeFailure& failure) {
+    failure.spiega(dieciPrevisioni(cmbMetodo.Text()));
+    throw;
+  }
   txtRuote.Text("");
   txtAmbate.Text("");
   txtAmbi.Text("");
   txtSup.Text("");
 }
 
+// The predictions listed are those of another method than the one typed.
+void frmInsPrev::cmbMetodo_Change() { cmbPrevisione.Clear(); }
+
 void frmInsPrev::cmbPrevisione_Click() {
   const auto metodo = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
   const int slot = cmbPrevisione.ItemDataScelta();
   visualizza(metodo.EstrazioneCalcolo(slot));  // the scroll bar stays where it is: meant
-  const auto testi = leggiTesti(metodo, slot);
+  const auto testi = testiDi(metodo, slot);
   txtNum.Text(testi.numero);
   txtRuote.Text(testi.ruote);
   cmbColpi.Text(testi.colpi);
   txtAmbate.Text(testi.ambate);
   txtAmbi.Text(testi.ambi);
   txtSup.Text(testi.sup);
+}
+
+TestiPrevisione frmInsPrev::testiDi(const FileMetodo& metodo, int slot) const {
+  try {
+    return leggiTesti(metodo, slot);
+  } catch (RuntimeFailure& failure) {
+    failure.spiega(previsioneIlleggibile(cmbMetodo.Text(), slot));
+    throw;
+  }
 }
 
 void frmInsPrev::btnElimina_Click() {

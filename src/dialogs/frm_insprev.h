@@ -9,18 +9,21 @@
 namespace vaticlo {
 
 /// The prediction editor, in two variants: to create a prediction, or to modify and delete the stored ones.
-/// Which one it is, PrevisioneInModifica says when it opens.
+/// Which one it is, PrevisioneInModifica says when it opens, and so it stays.
 class frmInsPrev : public Finestra {
  public:
   frmInsPrev(Programma& programma, Cornice& cornice);
 
   void Form_Load() override;
+  void archivioNuovo() override;
   void VScroll1_Change();
   void cmbMetodo_Click();
+  void cmbMetodo_Change();
   void cmbPrevisione_Click();
   void btnElabora_Click();
   void btnElimina_Click();
   void btnCancella_Click();
+  [[nodiscard]] bool modifica() const { return modifica_; }
 
   Riquadro Frame1{"Seleziona Metodo"}, Frame2{"Estrazione di Calcolo"}, Frame3{"Previsione da Salvare"},
       Frame4{"Ruote di gioco"}, Frame5{"Colpi di gioco"}, Frame6{"Combinazioni da giocare"}, Frame7{"Ambate"},
@@ -35,6 +38,8 @@ class frmInsPrev : public Finestra {
   Pulsante btnElimina{"&Elimina", "Elimina la previsione"};
 
  private:
+  void mostraUltima();
+  [[nodiscard]] TestiPrevisione testiDi(const FileMetodo& metodo, int slot) const;
   void visualizza(int n);
   /// The save up to the writing of the file. False when it was refused; the user has been told.
   [[nodiscard]] bool salva();
@@ -43,6 +48,7 @@ class frmInsPrev : public Finestra {
   bool rifiuta(const std::string& testo, Icona icona = Icona::Esclamazione);
 
   Programma& programma_;
+  bool modifica_ = false;
 };
 
 }  // namespace vaticlo

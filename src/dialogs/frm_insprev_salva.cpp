@@ -22,7 +22,7 @@ bool frmInsPrev::salva() {
     const BloccoCartella blocco(programma_.cartella.radice());
     auto metodo = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
     int slot = 0;
-    if (programma_.globals.PrevisioneInModifica) {
+    if (modifica_) {
       slot = cmbPrevisione.ItemDataScelta();
       SvuotaSlot(metodo, slot);
     } else {

@@ -13,7 +13,10 @@ frmMetodo::frmMetodo(Programma& programma, Cornice& cornice)
     campo.Locked = true;
     campo.BackColor(kGrigio);
   }
-  for (auto* campo : {&txtgiocabili, &txtvincenti, &txtingioco}) campo->Locked = true;
+  for (auto* campo : {&txtgiocabili, &txtvincenti, &txtingioco}) {
+    campo->Locked = true;
+    campo->BackColor(kGrigio);
+  }
   for (int indice : {0, 1})
     metodo.optSelMetodo[static_cast<std::size_t>(indice)].Click = [this, indice] {
       optSelMetodo_Click(indice);
@@ -26,9 +29,18 @@ frmMetodo::frmMetodo(Programma& programma, Cornice& cornice)
 }
 
 void frmMetodo::Form_Load() {
-  auto& g = programma_.globals;
   cornice().chiudiAltre(*this);
   prendiMisure({6960, 12660, 200, 630});
+  mostraUltima();
+}
+
+void frmMetodo::archivioNuovo() {
+  mostraUltima();
+  if (programma_.globals.UltimaEstrazione > 0) VScroll1_Change();
+}
+
+void frmMetodo::mostraUltima() {
+  auto& g = programma_.globals;
   g.apriSullUltima(ApriArchivio(programma_.cartella).PrimoIndiceLibero());
   estrazione.VScroll1.Max(g.EstrazioneCorrente);
   estrazione.VScroll1.Value(estrazione.VScroll1.Max());
@@ -58,8 +70,10 @@ void frmMetodo::btnTrova_Click() {
 }
 
 void frmMetodo::btnStampa_Click() {
-  if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Genere::Domanda}) == Risposta::Si)
-    programma_.servizi.stampa(RichTextBox1.Text());
+  if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Genere::Domanda}) != Risposta::Si)
+    return;
+  RichTextBox1.SelLength(0);
+  programma_.servizi.stampa(RichTextBox1.Text());
 }
 
 void frmMetodo::btnAnnulla_Click() { cornice().chiudi(*this); }

@@ -13,6 +13,7 @@ class frmMetodo : public Finestra {
   frmMetodo(Programma& programma, Cornice& cornice);
 
   void Form_Load() override;
+  void archivioNuovo() override;
   void VScroll1_Change();
   void optSelMetodo_Click(int indice);
   void cmbMetodo_Click();
@@ -33,6 +34,7 @@ class frmMetodo : public Finestra {
 
  private:
   void visualizza(int n);
+  void mostraUltima();
   void verifica();
 
   Programma& programma_;

@@ -12,6 +12,7 @@ class frmModifica : public Finestra {
   frmModifica(Programma& programma, Cornice& cornice);
 
   void Form_Load() override;
+  void archivioNuovo() override { btnAnnulla_Click(); }
   void Form_Activate() override;
   void VScroll1_Change();
   void btnSalva_Click();

@@ -63,8 +63,9 @@ void frmPrincipale::apriNuova(const std::shared_ptr<Finestra>& finestra) {
   finestre_.push_back(finestra);
   try {
     finestra->Form_Load();
-  } catch (const RuntimeFailure&) {
+  } catch (RuntimeFailure& failure) {
     std::erase(finestre_, finestra);
+    failure.nella(finestra->Caption());
     throw;
   }
   if (vista_ != nullptr) vista_->mostra(finestra);
@@ -85,7 +86,7 @@ void frmPrincipale::comando(Comando comando) {
       apri<frmModifica>();
       break;
     case Comando::Aggiorna:
-      aggiornaArchivio(programma_);
+      if (aggiornaArchivio(programma_)) archivioNuovo();
       break;
     case Comando::Vaticla:
       apri<frmMetodo>();
@@ -101,12 +102,10 @@ void frmPrincipale::comando(Comando comando) {
       apri<frmGestioneMetodi>();
       break;
     case Comando::CreaPrevisione:
-      g.PrevisioneInModifica = false;
-      apri<frmInsPrev>();
+      apriEditor(false);
       break;
     case Comando::ModificaPrevisione:
-      g.PrevisioneInModifica = true;
-      apri<frmInsPrev>();
+      apriEditor(true);
       break;
     case Comando::InGioco:
       apri<frmPrev>();
@@ -118,7 +117,7 @@ void frmPrincipale::comando(Comando comando) {
       apri<frmSomdif>();
       break;
     case Comando::Importa:
-      importaEstrazioniDaFile(programma_);
+      if (importaEstrazioniDaFile(programma_)) archivioNuovo();
       break;
     case Comando::PaginaEstrazioni:
       programma_.servizi.apriPagina(kPaginaEstrazioni);
@@ -130,9 +129,17 @@ void frmPrincipale::comando(Comando comando) {
       apriGuida();
       break;
     case Comando::Informazioni:
+      if (auto* info = aperta<frmInfo>()) chiudiAltre(*info);
       apri<frmInfo>();
       break;
   }
+}
+
+void frmPrincipale::apriEditor(bool modifica) {
+  programma_.globals.PrevisioneInModifica = modifica;
+  if (auto* editor = aperta<frmInsPrev>(); editor != nullptr && editor->modifica() != modifica)
+    chiudi(*editor);
+  apri<frmInsPrev>();
 }
 
 void frmPrincipale::Toolbar1_ButtonClick(std::string_view chiave) {
@@ -178,8 +185,13 @@ void frmPrincipale::attivata(Finestra& finestra) {
 
 void frmPrincipale::Form_Unload() {
   std::error_code codice;
+  if (std::filesystem::is_directory(programma_.cartella.file(kFileEsiti), codice)) return;
   std::filesystem::remove(programma_.cartella.file(kFileEsiti), codice);
-  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, "Esiti.txt");
+  if (codice)
+    throw RuntimeFailure(Errore::AccessoAlFile, "Esiti.txt")
+        .spiega({.fatto = "Il rapporto dell'ultima verifica, Esiti.txt, non si lascia cancellare.",
+                 .rimedio = "Cancellatelo a mano dalla cartella del programma.",
+                 .capitolo = "I file e le copie"});
 }
 
 bool frmPrincipale::occupata() const {
@@ -210,7 +222,10 @@ void frmPrincipale::riapri(Finestra& finestra) {
   const auto rifai = [this, &finestra]() -> std::shared_ptr<Finestra> {
     if (dynamic_cast<frmInserisci*>(&finestra) != nullptr) return nuova<frmInserisci>();
     if (dynamic_cast<frmModifica*>(&finestra) != nullptr) return nuova<frmModifica>();
-    if (dynamic_cast<frmInsPrev*>(&finestra) != nullptr) return nuova<frmInsPrev>();
+    if (const auto* editor = dynamic_cast<frmInsPrev*>(&finestra)) {
+      programma_.globals.PrevisioneInModifica = editor->modifica();
+      return nuova<frmInsPrev>();
+    }
     return nullptr;
   };
   const auto nuovaFinestra = rifai();
@@ -224,6 +239,11 @@ void frmPrincipale::chiudiTutte(const Finestra* tranne) {
   const auto aperte = finestre_;
   for (const auto& finestra : aperte)
     if (finestra.get() != tranne) chiudi(*finestra);
+}
+
+void frmPrincipale::archivioNuovo() {
+  const auto aperte = finestre_;
+  for (const auto& finestra : aperte) finestra->archivioNuovo();
 }
 
 void frmPrincipale::creaMetodo() {

@@ -74,8 +74,10 @@ class frmPrincipale : public Cornice {
   template <class F>
   [[nodiscard]] std::shared_ptr<Finestra> nuova();
   void apriNuova(const std::shared_ptr<Finestra>& finestra);
+  void apriEditor(bool modifica);
   void chiudiTutte(const Finestra* tranne = nullptr);
   void creaMetodo();
+  void archivioNuovo();
   void apriGuida();
 
   Programma& programma_;

@@ -22,6 +22,15 @@ frmSomdif::frmSomdif(Programma& programma, Cornice& cornice) : Finestra(cornice)
 void frmSomdif::Form_Load() {
   // The one window of the archive that leaves the other child windows open.
   prendiMisure({6630, 11655, 500, 50});
+  mostraUltima();
+}
+
+void frmSomdif::archivioNuovo() {
+  mostraUltima();
+  if (programma_.globals.UltimaEstrazione > 0) VScroll1_Change();
+}
+
+void frmSomdif::mostraUltima() {
   auto& g = programma_.globals;
   g.EstrazioneSomdif = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
   g.UltimaEstrazione = g.EstrazioneSomdif - 1;

@@ -15,6 +15,7 @@ class frmSomdif : public Finestra {
   frmSomdif(Programma& programma, Cornice& cornice);
 
   void Form_Load() override;
+  void archivioNuovo() override;
   void VScroll1_Change();
   void opzione_Click(TipoSomDif tipo);
   void btnTrova_Click();
@@ -63,6 +64,7 @@ class frmSomdif : public Finestra {
     frmSomdif& frm_;
   };
 
+  void mostraUltima();
   void tuttoGrigio();
 
   Programma& programma_;

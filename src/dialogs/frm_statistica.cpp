@@ -10,7 +10,7 @@ namespace vaticlo {
 
 namespace {
 
-// The first draw offered; nothing checks that its number goes with the date beside it.
+// The first draw offered, until the date beside it gives its own.
 constexpr const char* kInizioOfferto = "6877";
 constexpr Data kDataInizioOfferta{std::chrono::year{2000}, std::chrono::January, std::chrono::day{3}};
 
@@ -44,22 +44,36 @@ frmStatistica::frmStatistica(Programma& programma, Cornice& cornice)
 }
 
 void frmStatistica::Form_Load() {
-  auto& g = programma_.globals;
   prgbar.Visible(false);
   cornice().chiudiAltre(*this);
   btnVincite.Enabled(false);
   btnPrev.Enabled(false);
   prendiMisure({7785, 10395, 100, 500});
-  g.apriSullUltima(ApriArchivio(programma_.cartella).PrimoIndiceLibero());
-  g.UltimaEstrazione16 = static_cast<std::int16_t>(g.UltimaEstrazione);
+  prendiUltima();
   txtestr[0].mostra(kInizioOfferto);
-  txtestr[1].mostra(std::to_string(g.UltimaEstrazione));
+  txtestr[1].mostra(std::to_string(programma_.globals.UltimaEstrazione));
   btnStop.Enabled(false);
   const auto oggi = programma_.servizi.oggi();
   DTInizio.MaxDate(oggi);
   DTInizio.Value(kDataInizioOfferta);
   DTFine.MaxDate(oggi);
   DTFine.Value(oggi);
+  // A picker stands on today until it is given a value; the event follows a change.
+  if (oggi != kDataInizioOfferta) DTInizio_Change();
+}
+
+void frmStatistica::archivioNuovo() {
+  auto& g = programma_.globals;
+  const bool finoAllUltima = txtestr[1].Text() == std::to_string(g.UltimaEstrazione);
+  prendiUltima();
+  if (finoAllUltima) txtestr[1].mostra(std::to_string(g.UltimaEstrazione));
+  DTInizio_Change();
+}
+
+void frmStatistica::prendiUltima() {
+  auto& g = programma_.globals;
+  g.apriSullUltima(ApriArchivio(programma_.cartella).PrimoIndiceLibero());
+  g.UltimaEstrazione16 = static_cast<std::int16_t>(g.UltimaEstrazione);
 }
 
 void frmStatistica::DTInizio_Change() { cercaNumero(DTInizio, txtestr[0]); }
@@ -105,7 +119,21 @@ void frmStatistica::btnElabora_Click() {
   comandiACorsaFerma();
 }
 
+bool frmStatistica::rifiutaNumero(CampoTesto& campo, const char* data) {
+  try {
+    static_cast<void>(inIntero16(campo.Text()));
+    return false;
+  } catch (const RuntimeFailure&) {
+    programma_.servizi.mostra({std::string("\"Es.N.\" della data di ") + data +
+                                   " deve contenere il numero intero di un'estrazione!",
+                               "Attenzione", Genere::Rifiuto, Icona::Esclamazione});
+    campo.SetFocus();
+    return true;
+  }
+}
+
 bool frmStatistica::rifiutaIntervallo() {
+  if (rifiutaNumero(txtestr[0], "inizio") || rifiutaNumero(txtestr[1], "fine")) return true;
   const auto a = inIntero16(txtestr[0].Text()), b = inIntero16(txtestr[1].Text());
   if (a > b || a == b) {
     programma_.servizi.mostra({std::string("L'estrazione di inzio non può essere ") +
@@ -144,8 +172,10 @@ void frmStatistica::apriRisultati(bool vincite) {
 }
 
 void frmStatistica::btnStampa_Click() {
-  if (programma_.servizi.mostra({"Stampo la statistica?", "Ambolino", Genere::Domanda}) == Risposta::Si)
-    programma_.servizi.stampa(RichTextBox1.Text());
+  if (programma_.servizi.mostra({"Stampo la statistica?", "Ambolino", Genere::Domanda}) != Risposta::Si)
+    return;
+  RichTextBox1.SelLength(0);
+  programma_.servizi.stampa(RichTextBox1.Text());
 }
 
 void frmStatistica::btnCancella_Click() { cornice().chiudi(*this); }

@@ -16,6 +16,7 @@ class frmStatistica : public Finestra, private PannelloCorsa {
   frmStatistica(Programma& programma, Cornice& cornice);
 
   void Form_Load() override;
+  void archivioNuovo() override;
   [[nodiscard]] bool occupata() const override { return btnStop.Enabled(); }
   void interrompi() override { btnStop_Click(); }
   void DTInizio_Change();
@@ -47,6 +48,8 @@ class frmStatistica : public Finestra, private PannelloCorsa {
 
  private:
   void cercaNumero(const SelettoreData& selettore, CampoTesto& campo);
+  void prendiUltima();
+  [[nodiscard]] bool rifiutaNumero(CampoTesto& campo, const char* data);
   [[nodiscard]] bool rifiutaIntervallo();
   void mostraTotali();
   void apriRisultati(bool vincite);

@@ -1,9 +1,25 @@
 #include "dialogs/ricerca_estrazione.h"
 
 #include "platform/conversione.h"
+#include "platform/failure.h"
 #include "platform/testo.h"
 
 namespace vaticlo {
+
+namespace {
+
+int numeroCercato(const std::string& risposta) {
+  try {
+    return inIntero16(risposta);
+  } catch (RuntimeFailure& failure) {
+    failure.spiega({.fatto = "Il numero cercato, " + risposta + ", è troppo grande.",
+                    .rimedio = "Cercate un'estrazione con un numero che c'è.",
+                    .capitolo = "La ricerca di un'estrazione"});
+    throw;
+  }
+}
+
+}  // namespace
 
 void cercaEstrazione(Programma& programma, BarraScorrimento& VScroll1, SchedaEstrazione& frm,
                      const std::function<void(int)>& mostra) {
@@ -16,7 +32,7 @@ void cercaEstrazione(Programma& programma, BarraScorrimento& VScroll1, SchedaEst
                      "Cerca Estrazione");
 
   if (numeroDaTesto(risposta)) {
-    const int x = inIntero16(risposta);
+    const int x = numeroCercato(risposta);
     if (x > 1 && x < VScroll1.Max()) {
       VScroll1.Value(x + 1);
       mostra(x);

@@ -62,6 +62,11 @@ void Elenco::Text(std::string testo) {
   cambiato();
 }
 
+void Elenco::digita(std::string testo) {
+  Text(std::move(testo));
+  if (Change) Change();
+}
+
 int Elenco::ItemDataScelta() const {
   if (indice_ < 0) throw RuntimeFailure(Errore::Indice);
   return voci_[static_cast<std::size_t>(indice_)].ItemData;

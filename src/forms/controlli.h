@@ -22,6 +22,9 @@ class Controllo {
   /// The one view of the control, told after every change.
   void osserva(std::function<void()> vista) { vista_ = std::move(vista); }
 
+  std::function<void()> SetFocus = [] {
+  };  ///< leads the focus to the control; the view's, nothing without one
+
  protected:
   void cambiato() const {
     if (vista_) vista_();
@@ -89,6 +92,7 @@ class CampoTesto : public Controllo {
 class AreaTesto : public Controllo {
  public:
   Proprieta<std::string> Text{*this, ""};
+  Proprieta<int> SelLength{*this, 0};  ///< how much of it the user has selected; 0 reduces it to nothing
 };
 
 class Pulsante : public Controllo {
@@ -140,13 +144,17 @@ class Elenco : public Controllo {
   /// The user picks an item: Click follows in any case.
   void scegli(int indice);
   [[nodiscard]] const std::string& Text() const { return testo_; }
-  /// A text typed into the field: no item is chosen then, and no event follows.
+  /// A text for the field: no item is chosen then, and no event follows.
   void Text(std::string testo);
+  /// The user types into the field: Change follows.
+  void digita(std::string testo);
   /// The item data of the chosen item. Failure 9 when none is chosen.
   [[nodiscard]] int ItemDataScelta() const;
 
   std::function<void()> Click;
-  std::function<void()> DropDown;  ///< runs before the items are shown
+  std::function<void()> Change;       ///< the user has typed
+  std::function<void()> DropDown;     ///< runs before the items are shown or walked
+  std::function<std::string()> Nota;  ///< what there is to say about the text, shown as a hint; often nothing
 
  private:
   std::vector<Voce> voci_;

@@ -1,10 +1,18 @@
 #include "forms/controlli_metodo.h"
 
+#include "platform/testo.h"
+#include "methods/cartella_metodi.h"
+
 namespace vaticlo {
 
 void offriMetodi(Elenco& elenco, const CartellaProgramma& cartella) {
   elenco.DropDown = [&elenco, &cartella] { elenco.riempi(metodiOfferti(cartella)); };
   elenco.DropDown();
+  elenco.Nota = [&elenco, &cartella]() -> std::string {
+    const auto nome = senzaBlanchi(elenco.Text());
+    if (nome.empty() || esisteMetodo(cartella, elenco.Text())) return {};
+    return "Non c'è nessun metodo di nome \"" + std::string(nome) + "\"";
+  };
 }
 
 ControlliMetodo::ControlliMetodo(const CartellaProgramma& cartella) {
@@ -27,8 +35,9 @@ void ControlliMetodo::accendi(int indice) {
 }
 
 void ControlliMetodo::optSelMetodo_Click(int indice) {
+  const bool giaScelto = optSelMetodo[1].Value();
   accendi(indice);
-  if (indice != 0) cmbMetodo.ListIndex(0);
+  if (indice != 0 && !giaScelto) cmbMetodo.ListIndex(0);
 }
 
 }  // namespace vaticlo

@@ -7,7 +7,8 @@
 
 namespace vaticlo {
 
-/// Offers the methods of the folder in a list, read anew each time it drops down. The folder outlives it.
+/// Offers the methods of the folder in a list, read anew each time it drops down or is walked; a name that no
+/// method has is remarked on. The folder outlives it.
 void offriMetodi(Elenco& elenco, const CartellaProgramma& cartella);
 
 /// The controls that choose between all methods and one: "Tutti" is on and the list disabled when a dialog
@@ -26,7 +27,7 @@ class ControlliMetodo {
   [[nodiscard]] SceltaMetodo scelta() const { return {optSelMetodo[0].Value(), cmbMetodo.Text()}; }
 
   /// An option was clicked: 1 enables the list and chooses its first item (the list's own event follows when
-  /// that is a change), 0 disables it.
+  /// that is a change), 0 disables it. Where 1 is on already the name in the list stays.
   void optSelMetodo_Click(int indice);
 
  private:

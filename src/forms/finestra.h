@@ -40,6 +40,9 @@ class Finestra {
   virtual void Form_Load() = 0;
   /// Runs each time the window becomes the active one.
   virtual void Form_Activate() {}
+  /// The archive was replaced as a whole. A window that could write one of the old draws closes, one that
+  /// works with the draws takes the new last one.
+  virtual void archivioNuovo() {}
   /// Long work is under way inside one of its events: it can't be closed and no other window opened.
   [[nodiscard]] virtual bool occupata() const { return false; }
   /// Asks such work to end soon.

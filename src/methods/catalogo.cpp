@@ -14,7 +14,10 @@ std::vector<std::string> CaricaElencoMetodi(const CartellaProgramma& cartella, c
   for (auto& nome : elenco) {
     const auto fine = nome.find(".dat");
     if (fine == std::string::npos && senzaDat == NomeSenzaDat::Failure)
-      throw RuntimeFailure(Errore::ArgomentoNonValido, nome);
+      throw RuntimeFailure(Errore::ArgomentoNonValido, nome)
+          .spiega({.fatto = "Nella cartella Metodi c'è un file che non è un metodo: " + nome,
+                   .rimedio = "Toglietelo dalla cartella.",
+                   .capitolo = "Se il programma si chiude con un errore"});
     nome.resize(fine == std::string::npos ? 0 : fine);
   }
   return elenco;

@@ -1,5 +1,6 @@
 #include "methods/scansione.h"
 
+#include "methods/spiegazioni.h"
 #include "methods/testi_previsione.h"
 #include "platform/conversione.h"
 
@@ -36,21 +37,35 @@ void ScansionePrevisioni::scorriMetodi(const std::filesystem::path& percorso) {
   int fatti = 0;
   for (const auto& nome : g_.ElencoMetodi) {
     const auto metodo = LeggiMetodo(programma_.cartella, nome);
-    const int previsioni = ContaPrevisioni(metodo);
-    for (int slot = 1; slot <= previsioni; ++slot) {
-      const int calcolo = metodo.EstrazioneCalcolo(slot);
-      // A period that ends with the last draw is over, won or not. It differs by one draw from the check:
-      // meant.
-      if (calcolo + metodo(slot, kCampoColpi, 1) <= g_.UltimaEstrazione) continue;
-      g_.mostra(calcolo);
-      decodificatore_.DecodificaPrevisione(metodo, slot, g_.previsione);
-      RiportaPrevisione(rapporto, nome);
+    int slot = 0;
+    try {
+      const int previsioni = ContaPrevisioni(metodo);
+      for (slot = 1; slot <= previsioni; ++slot) scorriPrevisione(rapporto, metodo, nome, slot);
+    } catch (RuntimeFailure& failure) {
+      if (failure.errore() == Errore::Indice) failure.spiega(spiegazione(nome, slot));
+      throw;
     }
     frm_.prgbar_Value(++fatti);
     programma_.servizi.ridisegna();
   }
   rapporto.chiudi();
   frm_.mostraRapporto(g_.ContaGiocabili >= 1);
+}
+
+void ScansionePrevisioni::scorriPrevisione(FileRapporto& rapporto, const FileMetodo& metodo,
+                                           const std::string& nome, int slot) {
+  const int calcolo = metodo.EstrazioneCalcolo(slot);
+  // Meant: a period that ends with the last draw is over, won or not. It differs by one draw from the check.
+  if (calcolo + metodo(slot, kCampoColpi, 1) <= g_.UltimaEstrazione) return;
+  g_.mostra(calcolo);
+  decodificatore_.DecodificaPrevisione(metodo, slot, g_.previsione);
+  RiportaPrevisione(rapporto, nome);
+}
+
+Spiegazione ScansionePrevisioni::spiegazione(const std::string& metodo, int slot) const {
+  if (slot == 0) return dieciPrevisioni(metodo);
+  const bool tutteSola = g_.previsione.Tutte && g_.previsione.Ruote.empty();
+  return tutteSola ? ruotaTutteSola(metodo, slot) : previsioneIlleggibile(metodo, slot);
 }
 
 void ScansionePrevisioni::RiportaPrevisione(FileRapporto& rapporto, const std::string& metodo) {

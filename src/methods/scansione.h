@@ -9,6 +9,7 @@
 #include "methods/catalogo.h"
 #include "methods/decodifica.h"
 #include "methods/giudizio.h"
+#include "platform/failure.h"
 #include "platform/rapporto.h"
 #include "program/programma.h"
 
@@ -45,6 +46,9 @@ class ScansionePrevisioni : private EsitoColpo {
 
  private:
   void scorriMetodi(const std::filesystem::path& rapporto);
+  void scorriPrevisione(FileRapporto& rapporto, const FileMetodo& metodo, const std::string& nome, int slot);
+  /// What the user is told of a slot that ended the scan; slot 0: the slots could not be counted.
+  [[nodiscard]] Spiegazione spiegazione(const std::string& metodo, int slot) const;
   void RiportaPrevisione(FileRapporto& rapporto, const std::string& metodo);
   /// The draw of the first colpo with a hit; later colpi are not looked at.
   [[nodiscard]] std::optional<int> ControllaColpi(int colpi);

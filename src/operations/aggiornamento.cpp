@@ -6,13 +6,14 @@ namespace vaticlo {
 
 std::string indirizzoArchivio() { return VATICLO_SERVER_ARCHIVIO; }
 
-void aggiornaArchivio(Programma& programma, const std::string& indirizzo) {
+bool aggiornaArchivio(Programma& programma, const std::string& indirizzo) {
   const bool riuscito = programma.servizi.scarica(indirizzo, programma.cartella.file(kFileArchivio));
   if (riuscito)
     programma.servizi.mostra({"Aggiornamento avvenuto"});
   else
     programma.servizi.mostra(
         {.testo = "Errore: Non è possibile effettuare l'aggiornamento", .genere = Genere::Rifiuto});
+  return riuscito;
 }
 
 }  // namespace vaticlo

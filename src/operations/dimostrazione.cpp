@@ -19,7 +19,8 @@ using std::chrono::days;
 using std::chrono::sys_days;
 
 constexpr int kEstrazioni = 360;
-constexpr Data kPrima{std::chrono::year{2024}, std::chrono::January, std::chrono::day{2}};
+// Before the first day that the statistics offer.
+constexpr Data kPrima{std::chrono::year{1999}, std::chrono::December, std::chrono::day{31}};
 constexpr unsigned kSeme = 90;
 
 // Tuesday, Thursday, Friday and Saturday.

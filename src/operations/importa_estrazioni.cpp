@@ -45,21 +45,22 @@ ArchivioEstrazioni leggiEstrazioni(const fs::path& file, const std::function<voi
   return importaEstrazioni(testoFornito(file), avanzamento);
 }
 
-void importaEstrazioniDaFile(Programma& programma) {
+bool importaEstrazioniDaFile(Programma& programma) {
   auto& servizi = programma.servizi;
   const auto file = servizi.scegliFile(kTitolo);
-  if (file.empty()) return;
+  if (file.empty()) return false;
   const auto nuovo = importa(servizi, file);
-  if (!nuovo) return;
+  if (!nuovo) return false;
   if (!scrivi(programma.cartella, *nuovo, false)) {
     const auto risposta =
         servizi.mostra({"L'archivio contiene già delle estrazioni. Sostituirle tutte con quelle del file (" +
                             riassunto(*nuovo) + ")?",
                         kTitolo, Genere::Domanda, Icona::Esclamazione, Risposta::No});
-    if (risposta != Risposta::Si) return;
+    if (risposta != Risposta::Si) return false;
     scrivi(programma.cartella, *nuovo, true);
   }
   servizi.mostra({"Importate " + riassunto(*nuovo), kTitolo});
+  return true;
 }
 
 }  // namespace vaticlo

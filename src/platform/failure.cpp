@@ -47,4 +47,14 @@ RuntimeFailure::RuntimeFailure(Errore errore) : errore_(errore), testo_(descrizi
 RuntimeFailure::RuntimeFailure(Errore errore, const std::string& dettaglio)
     : errore_(errore), testo_(descrizione(errore) + ": " + dettaglio) {}
 
+RuntimeFailure& RuntimeFailure::spiega(Spiegazione spiegazione) {
+  if (spiegazione_.fatto.empty()) spiegazione_ = std::move(spiegazione);
+  return *this;
+}
+
+RuntimeFailure& RuntimeFailure::nella(const std::string& finestra) {
+  if (finestra_.empty()) finestra_ = finestra;
+  return *this;
+}
+
 }  // namespace vaticlo

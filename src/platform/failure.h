@@ -29,6 +29,12 @@ enum class Errore {
 /// The Italian text of a failure.
 [[nodiscard]] std::string descrizione(Errore errore);
 
+/// What a failure means to the user: what happened, what to do about it, and the heading of the guide under
+/// which more is said. Each may be empty.
+struct Spiegazione {
+  std::string fatto, rimedio, capitolo;
+};
+
 /// A run-time failure. It is caught only where the behaviour asks for it; anywhere else it ends the program
 /// with its number and its text.
 class RuntimeFailure : public std::exception {
@@ -37,13 +43,20 @@ class RuntimeFailure : public std::exception {
   /// `dettaglio` (a file's name, say) is shown behind the text of the failure.
   RuntimeFailure(Errore errore, const std::string& dettaglio);
 
+  /// Adds what is known on the way up. The innermost one to speak is heard: later calls change nothing.
+  RuntimeFailure& spiega(Spiegazione spiegazione);
+  RuntimeFailure& nella(const std::string& finestra);
+  [[nodiscard]] const Spiegazione& spiegazione() const { return spiegazione_; }
+  [[nodiscard]] const std::string& finestra() const { return finestra_; }  ///< the caption of a window
+
   [[nodiscard]] Errore errore() const { return errore_; }
   [[nodiscard]] int numero() const { return static_cast<int>(errore_); }
   [[nodiscard]] const char* what() const noexcept override { return testo_.c_str(); }
 
  private:
   Errore errore_;
-  std::string testo_;
+  std::string testo_, finestra_;
+  Spiegazione spiegazione_;
 };
 
 }  // namespace vaticlo

@@ -69,6 +69,11 @@ std::size_t raccogli(const char* dati, std::size_t uno, std::size_t quanti, void
   return uno * quanti;
 }
 
+int prosegui(void* limiti, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
+  const auto& interrotto = static_cast<const LimitiScaricamento*>(limiti)->interrotto;
+  return interrotto && interrotto() ? 1 : 0;
+}
+
 std::optional<std::string> scarica(const std::string& indirizzo, const LimitiScaricamento& limiti) {
   const LibreriaCurl curl;
   if (!curl.pronta()) return std::nullopt;
@@ -96,6 +101,9 @@ std::optional<std::string> scarica(const std::string& indirizzo, const LimitiSca
   opzione(CURLOPT_HEADERDATA, &raccolta);
   opzione(CURLOPT_WRITEFUNCTION, &raccogli);
   opzione(CURLOPT_WRITEDATA, &raccolta);
+  opzione(CURLOPT_NOPROGRESS, 0L);
+  opzione(CURLOPT_XFERINFOFUNCTION, &prosegui);
+  opzione(CURLOPT_XFERINFODATA, &limiti);
   if (!accettate || curl.perform(richiesta.get()) != CURLE_OK) return std::nullopt;
   long stato = 0;
   curl.getinfo(richiesta.get(), CURLINFO_RESPONSE_CODE, &stato);

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <string>
 
 namespace vaticlo {
@@ -13,6 +14,7 @@ struct LimitiScaricamento {
   std::chrono::seconds collegamento{20};        ///< until the server is reached
   std::chrono::seconds silenzio{30};            ///< with next to nothing arriving
   std::chrono::seconds tutto{std::chrono::minutes{5}};
+  std::function<bool()> interrotto = {};  ///< asked several times a second; true gives up
 };
 
 /// Fetches `indirizzo` (http or https, a few redirections followed) into memory and then writes

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -129,6 +130,61 @@ class ControlsGuiTest : public QObject {
     QTest::keyClick(somma, Qt::Key_C, Qt::AltModifier);
     QTest::mouseClick(altrove, Qt::LeftButton);
     QCOMPARE(valori(), QList<bool>({true, false, true}));
+  }
+
+  void whatTheMouseAndTheKeysDoIsToldInOrder() {
+    Finestra f;
+    auto* opzione = new xpradiobutton("Opzione", &f);
+    auto* riquadro = new xpgroupbox("Riquadro", &f);
+    opzione->setGeometry(10, 60, 200, 30);
+    riquadro->setGeometry(10, 100, 200, 100);
+    opzione->show();
+    riquadro->show();
+    QStringList detti;
+    const auto annota = [&](auto* controllo, auto segnale, const char* nome) {
+      connect(controllo, segnale, this, [&detti, nome] { detti << nome; });
+    };
+    const auto delMouse = [&]<class C>(C* controllo) {
+      annota(controllo, &C::MouseDown, "down");
+      annota(controllo, &C::MouseMove, "move");
+      annota(controllo, &C::MouseUp, "up");
+      annota(controllo, &C::Click, "click");
+    };
+    delMouse(f.pulsante);
+    delMouse(opzione);
+    delMouse(riquadro);
+    annota(riquadro, &xpgroupbox::DblClick, "double");
+    for (auto* controllo : {static_cast<QWidget*>(f.pulsante), static_cast<QWidget*>(opzione)}) {
+      annota(static_cast<ControlloDisegnato*>(controllo), &ControlloDisegnato::KeyDown, "keydown");
+      annota(static_cast<ControlloDisegnato*>(controllo), &ControlloDisegnato::KeyPress, "keypress");
+      annota(static_cast<ControlloDisegnato*>(controllo), &ControlloDisegnato::KeyUp, "keyup");
+      detti.clear();
+      QMouseEvent mossa(QEvent::MouseMove, kDentro, controllo->mapToGlobal(kDentro), Qt::NoButton,
+                        Qt::NoButton, Qt::NoModifier);
+      QApplication::sendEvent(controllo, &mossa);
+      QTest::mouseClick(controllo, Qt::LeftButton, {}, kDentro);
+      QTest::keyClick(controllo, Qt::Key_A);
+      QTest::keyClick(controllo, Qt::Key_Shift);
+      QCOMPARE(detti.join(' '), QString("move down up click keydown keypress keyup keydown keyup"));
+    }
+    detti.clear();
+    QTest::mouseClick(riquadro, Qt::LeftButton, {}, kDentro);
+    QTest::mouseDClick(riquadro, Qt::LeftButton, {}, kDentro);
+    QTest::mouseRelease(riquadro, Qt::LeftButton, {}, kDentro);
+    QCOMPARE(detti.join(' '), QString("down up click down double up"));
+  }
+
+  void theBackColourOfAGroupBoxFillsTheStripBehindItsCaption() {
+    Finestra f;
+    auto* riquadro = new xpgroupbox("Riquadro", &f);
+    riquadro->setGeometry(10, 100, 200, 100);
+    riquadro->setBackColor(QColor(0, 200, 0));
+    riquadro->show();
+    const auto immagine = riquadro->grab().toImage();
+    const int linea = riquadro->fontMetrics().height() / 2;
+    QCOMPARE(immagine.pixelColor(12, linea + 4), QColor(0, 200, 0));  // beside the first letter
+    QVERIFY(immagine.pixelColor(12, linea - 3) != QColor(0, 200, 0));
+    QCOMPARE(immagine.pixelColor(100, 60), QColor(0, 200, 0));
   }
 
   void assistiveToolsReadNameRoleAndState() {

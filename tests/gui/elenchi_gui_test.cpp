@@ -1,9 +1,13 @@
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTextBrowser>
+#include <QWheelEvent>
 
 #include "gui/finestra_prova.h"
 
@@ -66,6 +70,69 @@ class ElenchiGuiTest : public QObject {
     for (const auto tasto : {Qt::Key_Up, Qt::Key_Return})
       QTest::keyClick(v.usa<QComboBox>("cmbMetodo").view(), tasto);
     QCOMPARE(v.testo("cmbMetodo") + ": " + v.elenco(), QString("Nuovo: Non ci sono previsioni in gioco"));
+  }
+
+  void aListRewritesNothingThatIsTypedAndOffersWhatBeginsLikeIt() {
+    Elenchi v;
+    v.scegli("mnuGestione21");
+    auto& lista = v.usa<QComboBox>("cmbMetodo");
+    QTRY_COMPARE(v.fuoco(), QString("cmbMetodo"));
+    v.premi(Qt::Key_Down, {}, 2);
+    // What is typed behind Home or otherwise, and the text then.
+    for (const auto& [tasti, testo] : {std::pair{QList{Qt::Key_Home, Qt::Key_A, Qt::Key_B}, "abMetodo 2"},
+                                       {QList{Qt::Key_Delete, Qt::Key_X}, "abxetodo 2"},
+                                       {QList{Qt::Key_End, Qt::Key_Left, Qt::Key_Backspace}, "abxetodo2"}}) {
+      for (const auto tasto : tasti) {
+        if (tasto >= Qt::Key_A && tasto <= Qt::Key_Z)
+          v.scrivi(QChar(tasto).toLower());
+        else
+          v.premi(tasto);
+      }
+      QCOMPARE(v.testo("cmbMetodo"), QString(testo));
+    }
+    lista.lineEdit()->selectAll();
+    v.scrivi("ZE");  // is offered "Zeta", and stays as it is unless that is taken
+    auto* offerti = lista.findChild<QListWidget*>("suggerimenti");
+    QVERIFY(offerti && offerti->isVisible() && offerti->count() == 1);
+    v.premi(Qt::Key_Tab);
+    QCOMPARE(v.testo("cmbMetodo"), QString("ZE"));
+    QVERIFY(lista.findChild<QListWidget*>("suggerimenti") == nullptr);
+    lista.setFocus();
+    lista.lineEdit()->selectAll();
+    v.scrivi("ze");
+    v.premi(Qt::Key_Down);
+    v.premi(Qt::Key_Return);
+    QCOMPARE(v.testo("cmbMetodo"), QString("Zeta"));
+    v.p.scrivi("Metodi/Yps.dat", "");  // made while the window is open
+    v.premi(Qt::Key_Up);
+    QCOMPARE(v.testo("cmbMetodo"), QString("Yps"));
+    const auto suggerito = [&] {
+      QHelpEvent evento(QEvent::ToolTip, QPoint(3, 3), lista.mapToGlobal(QPoint(3, 3)));
+      QApplication::sendEvent(&lista, &evento);
+      return lista.toolTip();
+    };
+    QCOMPARE(suggerito(), QString());
+    v.scrivi("x");
+    QVERIFY(suggerito().contains("nessun metodo"));
+    v.p.scrivi("Metodi/" + std::string(200, 'z') + ".dat", "");
+    v.premi(Qt::Key_Backspace);
+    v.premi(Qt::Key_Down, {}, 2);
+    QCOMPARE(suggerito(), QString(200, 'z'));
+  }
+
+  void theWheelOverTheNumbersMovesTheDrawAndTheyLookReadOnly() {
+    Elenchi v;
+    for (const char* voce : {"mnu1Modifica", "mnuMetodi", "mnuGestione21", "mnuUtility3"}) {
+      v.scegli(voce);
+      auto& campo = v.visibile("txtestr_7");
+      QWheelEvent giro(QPointF(4, 4), campo.mapToGlobal(QPointF(4, 4)), {}, QPoint(0, 120), Qt::NoButton, {},
+                       Qt::NoScrollPhase, false);
+      QSpontaneKeyEvent::setSpontaneous(&giro);  // as from the window system: it goes on to whoever takes it
+      qApp->notify(&campo, &giro);
+      QCOMPARE(v.testo("lblnestr"), QString::number(110 - QApplication::wheelScrollLines()));
+      const auto normale = QApplication::palette().color(QPalette::Base);
+      QCOMPARE(campo.palette().color(QPalette::Base) == normale, QString(voce) == "mnu1Modifica");
+    }
   }
 
   void theWinnersFollowTheArrowsFromOneToFive() {
@@ -151,6 +218,9 @@ class ElenchiGuiTest : public QObject {
     QPointer<QTextBrowser> guida = v.finestra.findChild<QTextBrowser*>("guida");
     QVERIFY(guida && guida->isVisible());
     QCOMPARE(guida->toPlainText(), QString("Città"));
+    guida->showMinimized();
+    v.scegli("mnuInformazioni1");
+    QVERIFY(guida && !guida->isMinimized());
     QTest::keyClick(guida, Qt::Key_Escape);
     QTRY_VERIFY(!guida);
     QCOMPARE(v.aperte(), QStringList("Modifica Estrazione"));

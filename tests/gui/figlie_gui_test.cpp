@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMenu>
+#include <QScreen>
 #include <QToolButton>
 
 #include "gui/finestra_prova.h"
@@ -19,8 +20,7 @@ class FiglieGuiTest : public QObject {
     for (const auto& [voce, aperta] : {std::pair{"mnu1Inserisci", "Inserimento Estrazioni"},
                                        {"mnu1Modifica", "Modifica Estrazione"},
                                        {"mnuGestione21", "Inserisci Previsione"},
-                                       {"mnuMetodi", "Vaticla"},
-                                       {"mnuInformazioni2", "Informazione su"}}) {
+                                       {"mnuMetodi", "Vaticla"}}) {
       v.scegli(voce);
       QCOMPARE(v.aperte(), QStringList(aperta));
       const auto* prima = &v.figlia();
@@ -34,11 +34,44 @@ class FiglieGuiTest : public QObject {
     QCOMPARE(v.aperte(), QStringList("Somma/Distanza Estratti"));
     v.finestra.findChild<QToolButton*>("Info")->click();
     QCOMPARE(v.aperte(), QStringList("Informazione su"));
-    QCOMPARE(v.figlia().geometry(), QRect(233, 60, 409, 331));
     QCOMPARE(v.testo("Label1"), QString("Vaticlo"));
-    v.scegli("mnuUtility2");  // needs more height, and the main window grows
-    QVERIFY(v.finestra.height() > 600);
-    QVERIFY(v.finestra.findChild<QMdiArea*>()->viewport()->rect().contains(v.figlia().geometry()));
+  }
+
+  void everyWindowHasItsSizeAndItsPlaceAndGrowsWithNoMethodsName() {
+    PrincipaleProva v;
+    archivioDi(3).scrivi(v.p);
+    v.p.scrivi("Metodi/" + std::string(200, 'm') + ".dat", "");
+    v.finestra.resize(1100, 800);
+    for (const auto& [voce, attesa] : {std::pair{"mnu1Inserisci", QRect(116, 33, 502, 365)},
+                                       {"mnu1Modifica", QRect(103, 33, 529, 365)},
+                                       {"mnuMetodi", QRect(42, 13, 844, 464)},
+                                       {"mnu1metodo1", QRect(33, 6, 693, 519)},
+                                       {"mnuGestione21", QRect(133, 66, 862, 598)},
+                                       {"mnuGestione22", QRect(133, 66, 862, 598)},
+                                       {"mnuUtility1", QRect(200, 66, 509, 475)},
+                                       {"mnuUtility2", QRect(200, 66, 509, 475)},
+                                       {"mnuUtility3", QRect(3, 33, 777, 442)},
+                                       {"mnuInformazioni2", QRect(233, 60, 409, 331)}}) {
+      v.scegli(voce);
+      QCOMPARE(v.figlia().geometry(), attesa);
+      QCOMPARE(v.finestra.size(), QSize(1100, 800));
+    }
+  }
+
+  void aChildMovesIntoViewAndOneThatIsTooLargeMakesTheMainWindowGrow() {
+    PrincipaleProva v;
+    archivioDi(3).scrivi(v.p);
+    const auto dentro = [&] {
+      return v.finestra.findChild<QMdiArea*>()->viewport()->rect().contains(v.figlia().geometry());
+    };
+    const auto prima = v.finestra.size();
+    QVERIFY(prima.height() == 600 && prima.width() <= 800);
+    for (const char* voce : {"mnu1Inserisci", "mnuUtility1", "mnuUtility2", "mnu1metodo1"}) {
+      v.scegli(voce);
+      QVERIFY2(dentro() && v.finestra.size() == prima, voce);
+    }
+    v.scegli("mnuGestione21");
+    QVERIFY(dentro() || v.finestra.width() > 800);
   }
 
   void whatIsBeingTypedGoesOnWhenAnotherWindowWasOnTop() {
@@ -58,14 +91,24 @@ class FiglieGuiTest : public QObject {
   void accessKeysOfTheActiveWindowComeBeforeTheMenu() {
     PrincipaleProva v;
     v.p.servizi.risposta = Risposta::No;
-    for (const auto& [voce, domanda] :
-         {std::pair{"mnu1Inserisci", "[Attenzione] Sei sicuro di voler salvare l'estrazione"},
-          {"mnu1Modifica", "[Attenzione] Sei sicuro di voler modificare l'estrazione corrente"}}) {
+    v.scegli("mnu1Inserisci");
+    v.scrivi("12");
+    v.premi(Qt::Key_S, Qt::AltModifier);
+    QCOMPARE(v.detti(), QStringList("[Attenzione] Sei sicuro di voler salvare l'estrazione"));
+    for (const auto& [voce, lettera, primo, secondo] :
+         {std::tuple{"mnu1Modifica", Qt::Key_S, "btnSalva", "btnAnnulla"},
+          {"mnuGestione22", Qt::Key_E, "btnElimina", "btnCancella"},
+          {"mnu1metodo1", Qt::Key_E, "btnCancella",
+           "btnElabora"}}) {  // it opens with the focus on btnElabora
       v.scegli(voce);
-      v.scrivi("12");
-      v.premi(Qt::Key_S, Qt::AltModifier);
-      QCOMPARE(v.detti(), QStringList(domanda));
+      for (const char* nome : {primo, secondo, primo}) {
+        v.premi(lettera, Qt::AltModifier);
+        QCOMPARE(v.fuoco(), QString(nome));
+      }
+      QVERIFY(v.detti().isEmpty() && v.aperte().size() == 1);
     }
+    v.premi(Qt::Key_Return);  // presses what has the focus
+    QCOMPARE(v.aperte(), QStringList());
     v.premi(Qt::Key_V, Qt::AltModifier);  // no button of the window has it
     QCOMPARE(v.aperte(), QStringList("Vaticla"));
     v.premi(Qt::Key_S, Qt::AltModifier);

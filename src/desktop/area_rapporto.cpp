@@ -1,0 +1,143 @@
+#include "desktop/area_rapporto.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QDir>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <memory>
+
+#include "desktop/carta.h"
+
+namespace vaticlo {
+
+AreaRapporto::AreaRapporto(AreaTesto& modello, QWidget* padre)
+    : QPlainTextEdit(padre), modello_(modello), ricerca_(new QLineEdit(this)) {
+  setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setTabChangesFocus(true);
+  setUndoRedoEnabled(false);
+  setLineWrapMode(QPlainTextEdit::NoWrap);
+
+  const auto voce = [this](const char* nome, const char* caption, auto fai) {
+    auto* azione = new QAction(QString::fromUtf8(caption), this);
+    azione->setObjectName(QLatin1String(nome));
+    connect(azione, &QAction::triggered, this, fai);
+    addAction(azione);
+    return azione;
+  };
+  auto* trova = voce("trova", "Trova...", [this] { apriRicerca(); });
+  trova->setShortcut(QKeySequence::Find);
+  trova->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  voce("salvaPdf", "Salva come PDF...",
+       [this] { salva(QStringLiteral("Salva come PDF"), QStringLiteral("pdf"), salvaPdf); });
+  voce("salvaTesto", "Salva come testo...",
+       [this] { salva(QStringLiteral("Salva come testo"), QStringLiteral("txt"), salvaTesto); });
+
+  ricerca_->setObjectName(QStringLiteral("cercaNelTesto"));
+  ricerca_->setPlaceholderText(
+      QStringLiteral("Trova: Invio il prossimo, Maiusc+Invio il precedente, Esc chiude"));
+  ricerca_->setClearButtonEnabled(true);
+  ricerca_->installEventFilter(this);
+  ricerca_->hide();
+  connect(ricerca_, &QLineEdit::textEdited, this, [this] { cerca({}, true); });
+  connect(this, &QPlainTextEdit::selectionChanged, this,
+          [this] { modello_.SelLength(static_cast<int>(textCursor().selectedText().size())); });
+}
+
+void AreaRapporto::aggiorna() {
+  if (modello_.Text() != mostrato_) {
+    mostrato_ = modello_.Text();
+    setPlainText(QString::fromStdString(mostrato_));
+  }
+  if (modello_.SelLength() == 0 && textCursor().hasSelection()) {
+    auto cursore = textCursor();
+    cursore.clearSelection();
+    setTextCursor(cursore);
+  }
+  setVisible(modello_.Visible());
+}
+
+void AreaRapporto::contextMenuEvent(QContextMenuEvent* evento) {
+  const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+  menu->addSeparator();
+  menu->addActions(actions());
+  menu->exec(evento->globalPos());
+}
+
+void AreaRapporto::salva(const QString& titolo, const QString& suffisso, Salva come) {
+  QFileDialog scelta(window(), titolo, QDir::homePath(),
+                     titolo.mid(11) + QStringLiteral(" (*.%1)").arg(suffisso));
+  scelta.setAcceptMode(QFileDialog::AcceptSave);
+  scelta.setDefaultSuffix(suffisso);
+  scelta.selectFile(accessibleName() + u'.' + suffisso);
+  if (scelta.exec() != QDialog::Accepted) return;
+  const auto file = scelta.selectedFiles().value(0);
+  if (!come(file, toPlainText()))
+    QMessageBox::warning(window(), titolo,
+                         QStringLiteral("Il file \"%1\" non si lascia scrivere!").arg(file));
+}
+
+void AreaRapporto::apriRicerca() {
+  setViewportMargins(0, 0, 0, ricerca_->sizeHint().height());
+  ricerca_->show();
+  ricerca_->setFocus(Qt::ShortcutFocusReason);
+  ricerca_->selectAll();
+}
+
+void AreaRapporto::chiudiRicerca() {
+  ricerca_->hide();
+  setViewportMargins({});
+  setFocus(Qt::OtherFocusReason);
+}
+
+// From the selection on, itself included with `dalla`; behind the end the search starts again.
+void AreaRapporto::cerca(QTextDocument::FindFlags verso, bool dalla) {
+  if (dalla) {
+    auto cursore = textCursor();
+    cursore.setPosition(cursore.selectionStart());
+    setTextCursor(cursore);
+  }
+  const auto cercato = ricerca_->text();
+  bool trovato = cercato.isEmpty() || find(cercato, verso);
+  if (!trovato) {
+    const auto prima = textCursor();
+    moveCursor(verso.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
+    trovato = find(cercato, verso);
+    if (!trovato) setTextCursor(prima);
+  }
+  auto colori = QPalette();
+  if (!trovato) colori.setColor(QPalette::Text, QColor(0xC0, 0x28, 0x28));
+  ricerca_->setPalette(colori);
+}
+
+void AreaRapporto::resizeEvent(QResizeEvent* evento) {
+  QPlainTextEdit::resizeEvent(evento);
+  const auto dentro = contentsRect();
+  const int alta = ricerca_->sizeHint().height();
+  ricerca_->setGeometry(dentro.left(), dentro.bottom() + 1 - alta, dentro.width(), alta);
+}
+
+bool AreaRapporto::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (oggetto == ricerca_ && evento->type() == QEvent::KeyPress) {
+    const auto& tasto = *static_cast<QKeyEvent*>(evento);
+    const bool indietro = tasto.modifiers().testFlag(Qt::ShiftModifier);
+    switch (tasto.key()) {
+      case Qt::Key_Return:
+      case Qt::Key_Enter:
+        cerca(indietro ? QTextDocument::FindBackward : QTextDocument::FindFlags(), false);
+        return true;
+      case Qt::Key_Escape:
+        chiudiRicerca();
+        return true;
+      default:
+        break;
+    }
+  }
+  return QPlainTextEdit::eventFilter(oggetto, evento);
+}
+
+}  // namespace vaticlo

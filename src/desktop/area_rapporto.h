@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "forms/controlli.h"
+
+class QLineEdit;
+
+namespace vaticlo {
+
+/// The pane that shows a report. It breaks no line; its text can be selected, copied, searched (Ctrl+F), and
+/// saved by its context menu.
+class AreaRapporto : public QPlainTextEdit {
+ public:
+  AreaRapporto(AreaTesto& modello, QWidget* padre);
+
+  /// Draws the model as it is now.
+  void aggiorna();
+
+ protected:
+  void contextMenuEvent(QContextMenuEvent* evento) override;
+  void resizeEvent(QResizeEvent* evento) override;
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+ private:
+  using Salva = bool (*)(const QString& file, const QString& testo);
+  void salva(const QString& titolo, const QString& suffisso, Salva come);
+  void apriRicerca();
+  void chiudiRicerca();
+  void cerca(QTextDocument::FindFlags verso, bool dalla);
+
+  AreaTesto& modello_;
+  std::string mostrato_;
+  QLineEdit* ricerca_;
+};
+
+}  // namespace vaticlo

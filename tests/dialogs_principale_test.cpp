@@ -1,0 +1,120 @@
+#include "dialogs/frm_inserisci.h"
+#include "dialogs/frm_insprev.h"
+#include "dialogs/frm_metodo.h"
+#include "dialogs/frm_principale.h"
+#include "dialogs/frm_statistica.h"
+#include "sostegno/logica.h"
+
+namespace vaticlo::prova {
+namespace {
+
+struct Principale : testing::Test {
+  [[nodiscard]] std::string aperte() const {
+    std::string captions;
+    for (const auto& finestra : principale.finestre()) captions += finestra->Caption() + "|";
+    return captions;
+  }
+  /// The update fetches an archive of that many draws.
+  void aggiorna(int estrazioni) {
+    archivioDi(estrazioni, "3 Ba 7").scrivi(p);
+    principale.comando(Comando::Aggiorna);
+  }
+  ProgrammaProva p;
+  frmPrincipale principale{p.programma};
+};
+
+TEST_F(Principale, TwentyDropDownKeysChooseAMethodAndAWindowAndNoOthersDo) {
+  archivioDi(3).scrivi(p);
+  for (const std::string cifra : {"", "1", "2", "3", "4", "5", "6", "7", "8", "9"})
+    for (const auto& [chiave, aperta] : {std::pair{"NumPrev", "Vaticla|"}, {"NumStat", "Statistica|"}}) {
+      p.globals().MetodoScelto = 0;
+      principale.Toolbar1_ButtonMenuClick(chiave + cifra);
+      EXPECT_EQ(p.globals().MetodoScelto, cifra.empty() ? 1 : std::stoi(cifra) + 1) << chiave << cifra;
+      EXPECT_EQ(aperte(), aperta) << chiave << cifra;
+    }
+  principale.comando(Comando::InserisciEstrazione);
+  for (const char* chiave : {"NumPrev0", "NumStat10", "NumPrevA", "NumStat ", "Num2", "Sirvan2", ""}) {
+    principale.Toolbar1_ButtonMenuClick(chiave);
+    principale.Toolbar1_ButtonClick(chiave);
+    EXPECT_EQ(aperte(), "Inserimento Estrazioni|") << chiave;
+    EXPECT_EQ(p.globals().MetodoScelto, 10) << chiave;
+  }
+}
+
+TEST_F(Principale, TheAboutWindowClosesTheOthersWhicheverWayItIsAskedFor) {
+  for (const bool giaAperta : {false, true})
+    for (const bool dallaBarra : {false, true}) {
+      if (giaAperta) principale.comando(Comando::Informazioni);
+      principale.comando(Comando::Somdif);
+      dallaBarra ? principale.Toolbar1_ButtonClick("Info") : principale.comando(Comando::Informazioni);
+      EXPECT_EQ(aperte(), "Informazione su|") << giaAperta << dallaBarra;
+    }
+}
+
+TEST_F(Principale, TheEditorKeepsItsVariantUntilTheMenuAsksForTheOther) {
+  archivioDi(150).scrivi(p);
+  const SlotProva slot = {.estrazione = 101, .ruote = {1}, .ambate = {7}};
+  scriviMetodoProva(p, "Metodo 1", {slot});
+  principale.comando(Comando::ModificaPrevisione);
+  const auto editor = [&] { return principale.aperta<frmInsPrev>(); };
+  editor()->cmbMetodo.scegli(0);
+  editor()->cmbPrevisione.scegli(0);
+  p.globals().PrevisioneInModifica = false;  // whoever sets it, the window is what it was opened as
+  editor()->btnElabora_Click();
+  EXPECT_EQ(LeggiMetodo(p.cartella(), "Metodo 1").EstrazioneCalcolo(2), 0) << "no second prediction";
+  EXPECT_EQ(aperte(), "Modifica Previsione|") << "the window that follows a save";
+  const auto* prima = editor();
+  principale.comando(Comando::ModificaPrevisione);
+  EXPECT_EQ(editor(), prima);
+  principale.comando(Comando::CreaPrevisione);
+  EXPECT_EQ(aperte(), "Inserisci Previsione|");
+  EXPECT_FALSE(editor()->Frame10.Visible());
+}
+
+TEST_F(Principale, WithANewArchiveDrawWindowsCloseAndTheOthersTakeItsLastDraw) {
+  scriviMetodoProva(p, "M", {{.estrazione = 2, .ruote = {1}, .colpi = 3, .ambate = {7}}});
+  for (const auto comando :
+       {Comando::InserisciEstrazione, Comando::ModificaEstrazione, Comando::ModificaPrevisione}) {
+    archivioDi(2).scrivi(p);
+    principale.comando(comando);
+    aggiorna(4);
+    EXPECT_EQ(aperte(), "");
+  }
+  archivioDi(2).scrivi(p);
+  principale.comando(Comando::Vaticla);
+  auto& vaticla = *principale.aperta<frmMetodo>();
+  EXPECT_EQ(vaticla.txtingioco.Text() + vaticla.txtvincenti.Text(), "10");
+  aggiorna(2);  // as many draws as before, one of them another one
+  vaticla.estrazione.VScroll1.Value(3);
+  aggiorna(4);
+  EXPECT_EQ(vaticla.estrazione.lblnestr.Caption(), "4");
+  vaticla.estrazione.VScroll1.Value(3);
+  EXPECT_EQ(vaticla.txtingioco.Text() + vaticla.txtvincenti.Text(), "01");
+  principale.comando(Comando::Statistica);
+  aggiorna(6);
+  auto& statistica = *principale.aperta<frmStatistica>();
+  EXPECT_EQ(statistica.txtestr[1].Text(), "6");
+  statistica.txtestr[0].Text("2");
+  statistica.txtestr[1].Text("9");
+  aggiorna(8);
+  EXPECT_EQ(statistica.txtestr[1].Text(), "9") << "typed by the user";
+  statistica.txtestr[0].Text("2");
+  statistica.btnElabora_Click();
+  EXPECT_EQ(statistica.txtestr[1].Text(), "8");
+}
+
+TEST_F(Principale, ClosingDeletesTheReportOfTheCheckAloneAndNoFolderOfItsName) {
+  p.scrivi("Esiti.txt", "esiti");
+  p.scrivi("Stat.txt", "totali");
+  principale.Form_Unload();
+  EXPECT_FALSE(p.esiste("Esiti.txt"));
+  EXPECT_EQ(p.contenuto("Stat.txt"), "totali");
+  std::filesystem::create_directories(p.radice / "Esiti.txt/dentro");
+  principale.Form_Unload();
+  std::filesystem::remove(p.radice / "Esiti.txt/dentro");
+  principale.Form_Unload();
+  EXPECT_TRUE(p.esiste("Esiti.txt"));
+}
+
+}  // namespace
+}  // namespace vaticlo::prova

@@ -1,0 +1,145 @@
+#include <QContextMenuEvent>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QProgressDialog>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolTip>
+#include <thread>
+
+#include "desktop/carta.h"
+#include "desktop/servizi_desktop.h"
+#include "gui/finestra_prova.h"
+#include "sostegno/server_prova.h"
+
+using namespace vaticlo;
+using namespace vaticlo::prova;
+
+namespace {
+
+/// The check on a draw whose one prediction has a list of bets longer than any pane.
+struct Rapporto : PrincipaleProva {
+  Rapporto() {
+    archivioDi(150).scrivi(p);
+    std::vector<int> ambi;
+    for (int n = 1; n < 55; ++n) ambi.insert(ambi.end(), {n, n + 1, 99});
+    scriviMetodoProva(p, "Mio", {{.estrazione = 149, .ruote = {1}, .colpi = 5, .ambi = ambi}});
+    scegli("mnuMetodi");
+    premi(Qt::Key_Up);
+    area = &usa<QPlainTextEdit>("RichTextBox1");
+    area->setFocus();
+  }
+  [[nodiscard]] QString scelto() const { return area->textCursor().selectedText(); }
+  QPlainTextEdit* area;
+};
+
+QByteArray contenuto(const QString& file) {
+  QFile letto(file);
+  return letto.open(QIODevice::ReadOnly) ? letto.readAll() : QByteArray();
+}
+
+}  // namespace
+
+class RapportiGuiTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void aPaneBreaksNoLineAndIsCopiedAndSearchedByKeys() {
+    Rapporto v;
+    QVERIFY(v.area->horizontalScrollBar()->isVisible());
+    QCOMPARE(v.area->document()->lineCount(), v.testo("RichTextBox1").count('\n') + 1);
+    v.premi(Qt::Key_A, Qt::ControlModifier);
+    QVERIFY(v.scelto().contains("54-55"));
+    v.clicca("btnStampa");  // the selection is reduced to nothing, and the whole text printed
+    QCOMPARE(v.detti(), QStringList("[Ambolino] Stampo la previsione?"));
+    QCOMPARE(v.scelto(), QString());
+    QCOMPARE(QString::fromStdString(v.p.servizi.stampati.at(0)), v.testo("RichTextBox1"));
+    v.area->setFocus();
+    v.premi(Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(v.fuoco(), QString("cercaNelTesto"));
+    v.scrivi("GIO");
+    QList<int> posti;
+    for (const auto modificatori : {Qt::NoModifier, Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier}) {
+      QCOMPARE(v.scelto().toLower(), QString("gio"));
+      posti << v.area->textCursor().position();
+      v.premi(Qt::Key_Return, modificatori);
+    }
+    QVERIFY(posti[0] < posti[1] && posti[2] == posti[0]);  // two places, and round again
+    v.scrivi("x");
+    v.premi(Qt::Key_Escape);
+    QCOMPARE(v.fuoco(), QString("RichTextBox1"));
+  }
+
+  void itsMenuSavesTheWholeText() {
+    Rapporto v;
+    const QTemporaryDir cartella;
+    QStringList voci;
+    QTimer risposte;
+    connect(&risposte, &QTimer::timeout, this, [&] {
+      if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+        for (const auto* voce : menu->actions()) voci << voce->text().remove('&').section('\t', 0, 0);
+        menu->close();
+      }
+      if (auto* scelta = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+        scelta->setDirectory(cartella.path());
+        scelta->findChild<QLineEdit*>("fileNameEdit")->setText("uscita");
+        QMetaObject::invokeMethod(scelta, "accept");
+      }
+    });
+    risposte.start(20);
+    QContextMenuEvent evento(QContextMenuEvent::Keyboard, QPoint(5, 5), v.area->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(v.area->viewport(), &evento);
+    for (const char* voce :
+         {"Copia", "Seleziona tutto", "Trova...", "Salva come PDF...", "Salva come testo..."})
+      QVERIFY2(voci.contains(voce), voce);
+    for (const char* azione : {"salvaPdf", "salvaTesto"}) v.area->findChild<QAction*>(azione)->trigger();
+    QCOMPARE(QString::fromUtf8(contenuto(cartella.filePath("uscita.txt"))), v.testo("RichTextBox1"));
+    QVERIFY(contenuto(cartella.filePath("uscita.pdf")).startsWith("%PDF"));
+    QVERIFY(!salvaTesto(cartella.filePath("manca/uscita.txt"), "testo"));
+    QVERIFY(!salvaPdf(cartella.filePath("manca/uscita.pdf"), "testo"));
+  }
+
+  void onPaperALineIsBrokenBehindASemicolonOrABlankAlone() {
+    const auto entra = [](const QString& riga) { return riga.size() <= 10; };
+    for (const auto& [testo, spezzato] : {std::pair{"12-3;4-5\nbreve", "12-3;4-5\nbreve"},
+                                          {"12-34;56-78;90-1", "12-34;\n56-78;90-1"},
+                                          {" Ambi: 12-34;5-6", " Ambi: \n12-34;5-6"},
+                                          {"12-34-56-78-90", "12-34-56-78-90"},
+                                          {"12-34-56-78-90;1-2;3", "12-34-56-78-90;\n1-2;3"},
+                                          {"", ""}})
+      QCOMPARE(spezzaRighe(testo, entra), QString(spezzato));
+  }
+
+  void withoutAPrinterAHintNamesTheOtherWays() {
+    PrincipaleProva v;
+    ServiziDesktop servizi;
+    servizi.stampa("testo");
+    QVERIFY(QToolTip::text().contains("Salva come PDF"));
+    QToolTip::hideText();
+  }
+
+  void aDownloadIsStoppedByEscAndTheScreenStaysPaintedMeanwhile() {
+    PrincipaleProva v;
+    const ServerProva server({});  // reached, and silent
+    ServiziDesktop servizi;
+    servizi.padre(&v.finestra);
+    QTimer tasti;
+    bool comandi = true;
+    connect(&tasti, &QTimer::timeout, this, [&] {
+      auto* box = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+      if (box == nullptr) return;
+      QTest::keyClick(v.finestra.windowHandle(), Qt::Key_V, Qt::AltModifier);
+      comandi = !v.aperte().isEmpty();
+      QTest::keyClick(box, Qt::Key_Escape);
+    });
+    tasti.start(50);
+    QVERIFY(!servizi.scarica(server.indirizzo("/archivio"), v.p.radice / "archivion71.dat"));
+    QVERIFY(!comandi && !v.p.esiste("archivion71.dat"));
+  }
+};
+
+QTEST_MAIN(RapportiGuiTest)
+#include "rapporti_gui_test.moc"
