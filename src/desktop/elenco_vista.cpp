@@ -6,7 +6,8 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QStyleOptionFrame>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QToolTip>
 
 namespace vaticlo {
@@ -199,6 +200,12 @@ void ElencoVista::focusOutEvent(QFocusEvent* evento) {
   delete suggerimenti_;
   QComboBox::focusOutEvent(evento);
   if (isEditable() && evento->reason() != Qt::PopupFocusReason) lineEdit()->setCursorPosition(0);
+}
+
+void ElencoVista::initStyleOption(QStyleOptionComboBox* opzioni) const {
+  QComboBox::initStyleOption(opzioni);
+  const auto area = style()->subControlRect(QStyle::CC_ComboBox, opzioni, QStyle::SC_ComboBoxEditField, this);
+  opzioni->currentText = fontMetrics().elidedText(opzioni->currentText, Qt::ElideRight, area.width() - 2);
 }
 
 void ElencoVista::hideEvent(QHideEvent* evento) {

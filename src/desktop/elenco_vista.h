@@ -28,6 +28,7 @@ class ElencoVista : public QComboBox {
   void wheelEvent(QWheelEvent* evento) override;
   void focusOutEvent(QFocusEvent* evento) override;
   void hideEvent(QHideEvent* evento) override;
+  void initStyleOption(QStyleOptionComboBox* opzioni) const override;
 
  private:
   void leggiVoci();

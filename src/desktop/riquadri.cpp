@@ -24,7 +24,9 @@ QGroupBox* sceltaMetodo(Legame& legame, ControlliMetodo& metodo) {
 
 QGroupBox* riquadroCon(Legame& legame, Riquadro& riquadro, const QString& nome, QWidget* dentro) {
   auto* gruppo = legame.riquadro(riquadro, nome);
-  (new QVBoxLayout(gruppo))->addWidget(dentro);
+  auto* colonna = new QVBoxLayout(gruppo);
+  colonna->setContentsMargins(9, 5, 9, 6);
+  colonna->addWidget(dentro);
   gruppo->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);  // as tall as a line
   dentro->setAccessibleName(gruppo->title());
   return gruppo;

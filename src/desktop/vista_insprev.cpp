@@ -31,6 +31,7 @@ QWidget* selezione(Legame& legame, frmInsPrev& frm) {
 QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
   auto* gruppo = legame.riquadro(frm.Frame2, QStringLiteral("Frame2"));
   auto* colonna = new QVBoxLayout(gruppo);
+  colonna->setContentsMargins(9, 5, 9, 6);
   colonna->addLayout(
       intestazione(legame, frm.Label1, frm.estrazione.lblnestr, frm.Label13, frm.estrazione.lbldataestr));
   colonna->addWidget(tavolaConBarra(legame, frm.estrazione), 1);
@@ -93,8 +94,8 @@ QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine) {
   centro->addLayout(conPulsanti, 1);
 
   auto* tutto = new QVBoxLayout(widget);
-  tutto->setContentsMargins(14, 12, 14, 12);
-  tutto->setSpacing(10);
+  tutto->setContentsMargins(12, 6, 12, 8);
+  tutto->setSpacing(6);
   tutto->addWidget(sopra);
   tutto->addLayout(centro, 1);
   widget->setProperty(kPrimoFuoco, QStringLiteral("cmbMetodo"));

@@ -26,8 +26,8 @@ namespace {
 
 constexpr int kTwipsPerPixel = 15;
 constexpr int kLatoImmagini = 32;
-constexpr int kBordoInferiore =
-    10;  // of the frame that a window manager draws, whose size is not known before
+constexpr int kResto = 2;  // where the scaling is no whole number, a size comes back smaller than asked for
+constexpr int kBordoInferiore = 10;  // of the window manager's frame, whose size is not known before
 
 int pixel(int twips) { return twips / kTwipsPerPixel; }
 
@@ -201,8 +201,8 @@ QSize VistaPrincipaleQt::massima() const {
 void VistaPrincipaleQt::faiPosto(QMdiSubWindow& figlia) {
   const auto posto = figlia.pos();
   auto voluta = area_->size();
-  if (figlia.width() > voluta.width()) voluta.setWidth(posto.x() + figlia.width());
-  if (figlia.height() > voluta.height()) voluta.setHeight(posto.y() + figlia.height());
+  if (figlia.width() > voluta.width()) voluta.setWidth(posto.x() + figlia.width() + kResto);
+  if (figlia.height() > voluta.height()) voluta.setHeight(posto.y() + figlia.height() + kResto);
   voluta = voluta.boundedTo(massima());
   figlia.move(std::max(0, std::min(posto.x(), voluta.width() - figlia.width())),
               std::max(0, std::min(posto.y(), voluta.height() - figlia.height())));
