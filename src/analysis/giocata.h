@@ -4,11 +4,11 @@
 #include <vector>
 
 #include "analysis/insieme_numeri.h"
+#include "archive/ruota.h"
 #include "program/previsione.h"
 
 namespace vaticlo {
 
-inline constexpr int kNumeri = 90;   ///< numbers in the urn of a wheel
 inline constexpr int kEstratti = 5;  ///< of which so many are drawn
 
 /// The bets of a prediction on one wheel, as sets: what wins there when five different numbers of the urn
