@@ -11,12 +11,12 @@
 #include "analysis/conteggio.h"
 #include "analysis/quadro.h"
 #include "analysis/ritardi.h"
+#include "archive/archivio.h"
 #include "archive/ruota.h"
 #include "cartella_grande.h"
 #include "methods/catalogo.h"
 #include "methods/decodifica.h"
 #include "platform/cartella.h"
-#include "archive/archivio.h"
 
 namespace vaticlo {
 namespace {

@@ -1,9 +1,9 @@
 #include "analysis/elenco_previsioni.h"
 #include "analysis/parole_confronto.h"
 #include "analysis/tabelle.h"
+#include "methods/cartella_metodi.h"
 #include "methods/catalogo.h"
 #include "sostegno/logica.h"
-#include "methods/cartella_metodi.h"
 
 namespace vaticlo::prova {
 namespace {

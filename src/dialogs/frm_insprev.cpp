@@ -91,8 +91,7 @@ void frmInsPrev::cmbMetodo_Click() {
   const auto metodo = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
   try {
     const int elencate = ContaElencate(metodo);
-    for (int slot = 1; slot <= elencate; ++slot)
-      cmbPrevisione.AddItem(voceDiElenco(metodo, slot), slot);
+    for (int slot = 1; slot <= elencate; ++slot) cmbPrevisione.AddItem(voceDiElenco(metodo, slot), slot);
   } catch (RuntimeFailure& failure) {
     failure.spiega(dieciPrevisioni(cmbMetodo.Text()));
     throw;

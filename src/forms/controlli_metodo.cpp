@@ -1,7 +1,7 @@
 #include "forms/controlli_metodo.h"
 
-#include "platform/testo.h"
 #include "methods/cartella_metodi.h"
+#include "platform/testo.h"
 
 namespace vaticlo {
 

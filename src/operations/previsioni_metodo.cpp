@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "methods/cartella_metodi.h"
 #include "operations/un_passo.h"
 #include "platform/failure.h"
-#include "methods/cartella_metodi.h"
 
 namespace vaticlo {
 

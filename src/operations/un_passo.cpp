@@ -1,7 +1,7 @@
 #include "operations/un_passo.h"
 
-#include "platform/blocco.h"
 #include "methods/cartella_metodi.h"
+#include "platform/blocco.h"
 
 namespace vaticlo {
 

@@ -9,10 +9,10 @@
 #include "console/ctrl_c.h"
 #include "console/sessione.h"
 #include "console/uscita_tabella.h"
+#include "methods/cartella_metodi.h"
 #include "methods/catalogo.h"
 #include "platform/conversione.h"
 #include "platform/testo.h"
-#include "methods/cartella_metodi.h"
 
 namespace vaticlo::comandi {
 
