@@ -105,7 +105,7 @@ def slips_of_calls(code, text):
         for (a, b), (c, d) in zip(ranges, ranges[1:]):
             one, other = text[a:b].strip(), text[c:d].strip()
             if one != other:
-                yield Slip("swapped arguments", a, d, ["%s, %s" % (other, one)])
+                yield Slip("swapped arguments", text.index(one, a), d, ["%s, %s" % (other, one)])
 
 
 def slips(text):
