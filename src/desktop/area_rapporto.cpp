@@ -116,9 +116,8 @@ void AreaRapporto::cerca(QTextDocument::FindFlags verso, bool dalla) {
 
 void AreaRapporto::resizeEvent(QResizeEvent* evento) {
   QPlainTextEdit::resizeEvent(evento);
-  const auto dentro = contentsRect();
-  const int alta = ricerca_->sizeHint().height();
-  ricerca_->setGeometry(dentro.left(), dentro.bottom() + 1 - alta, dentro.width(), alta);
+  const auto testo = viewport()->geometry();
+  ricerca_->setGeometry(testo.left(), testo.bottom() + 1, testo.width(), ricerca_->sizeHint().height());
 }
 
 bool AreaRapporto::eventFilter(QObject* oggetto, QEvent* evento) {

@@ -8,6 +8,7 @@
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionComboBox>
+#include <QTextDocument>
 #include <QToolTip>
 
 namespace vaticlo {
@@ -17,6 +18,11 @@ namespace {
 constexpr int kRigheOfferte = 8;
 
 QString testo(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+// A tool tip would read a name with "<" in it as markup.
+QString perSuggerimento(const QString& nome) {
+  return Qt::mightBeRichText(nome) ? Qt::convertFromPlainText(nome) : nome;
+}
 
 /// The field of a list: without the focus it shows that a text goes on.
 class CampoElenco : public QLineEdit {
@@ -85,7 +91,7 @@ void ElencoVista::disegnaVoci() {
   clear();
   for (const auto& voce : voci) {
     addItem(testo(voce.testo));
-    setItemData(count() - 1, testo(voce.testo).toHtmlEscaped(), Qt::ToolTipRole);
+    setItemData(count() - 1, perSuggerimento(testo(voce.testo)), Qt::ToolTipRole);
   }
 }
 
@@ -109,7 +115,7 @@ bool ElencoVista::event(QEvent* evento) {
   if (evento->type() == QEvent::ToolTip) {
     const auto nota = modello_.Nota ? testo(modello_.Nota()) : QString();
     const bool intero = fontMetrics().horizontalAdvance(currentText()) + 2 * height() <= width();
-    setToolTip((nota.isEmpty() && !intero ? currentText() : nota).toHtmlEscaped());
+    setToolTip(perSuggerimento(nota.isEmpty() && !intero ? currentText() : nota));
   }
   return QComboBox::event(evento);
 }
@@ -147,7 +153,7 @@ void ElencoVista::offri(const QString& digitato) {
   for (int n = 0; n < count() && !digitato.isEmpty(); ++n)
     if (itemText(n).startsWith(digitato, Qt::CaseInsensitive)) simili << itemText(n);
   if (simili.isEmpty() && modello_.Nota)
-    QToolTip::showText(mapToGlobal(rect().bottomLeft()), testo(modello_.Nota()).toHtmlEscaped(), this);
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), perSuggerimento(testo(modello_.Nota())), this);
   if (simili.isEmpty() || simili == QStringList(digitato)) return;
   // A window that takes neither the focus nor the mouse: a click elsewhere is a click there.
   suggerimenti_ = new QListWidget(this);

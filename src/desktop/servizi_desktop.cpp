@@ -27,16 +27,19 @@ namespace vaticlo {
 
 namespace {
 
-constexpr int kDurataSuggerimento = 10'000;  // milliseconds
-constexpr int kAttesaAvanzamento = 300;      // milliseconds; what is done sooner shows no box
+constexpr int kAttesaSuggerimento = 250, kDurataSuggerimento = 10'000;  // milliseconds
+constexpr int kAttesaAvanzamento = 300;  // milliseconds; what is done sooner shows no box
 
 QString qt(const std::string& testo) { return QString::fromStdString(testo); }
 
-// A hint below what has the focus, where the user has just pressed.
+// A hint below what has the focus, where the user has just pressed; shown at once it would go with the box
+// that is being closed.
 void suggerisci(const QString& testo) {
-  const auto* dove = QApplication::focusWidget();
-  const auto punto = dove != nullptr ? dove->mapToGlobal(dove->rect().bottomLeft()) : QCursor::pos();
-  QToolTip::showText(punto, testo, nullptr, {}, kDurataSuggerimento);
+  QTimer::singleShot(kAttesaSuggerimento, qApp, [testo] {
+    const auto* dove = QApplication::focusWidget();
+    const auto punto = dove != nullptr ? dove->mapToGlobal(dove->rect().bottomLeft()) : QCursor::pos();
+    QToolTip::showText(punto, testo, nullptr, {}, kDurataSuggerimento);
+  });
 }
 
 }  // namespace

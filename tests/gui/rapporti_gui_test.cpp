@@ -117,7 +117,7 @@ class RapportiGuiTest : public QObject {
     PrincipaleProva v;
     ServiziDesktop servizi;
     servizi.stampa("testo");
-    QVERIFY(QToolTip::text().contains("Salva come PDF"));
+    QTRY_VERIFY(QToolTip::text().contains("Salva come PDF"));
     QToolTip::hideText();
   }
 
