@@ -8,7 +8,7 @@ namespace vaticlo {
 /// A set of numbers from 0 to 127, such as the five of a wheel. Two words, so that it lives in registers.
 class InsiemeNumeri {
  public:
-  void aggiungi(int numero) {
+  constexpr void aggiungi(int numero) {
     basso_ |= bitBasso(numero);
     alto_ |= bitAlto(numero);
   }
@@ -44,8 +44,8 @@ class InsiemeNumeri {
   }
 
  private:
-  static std::uint64_t bitBasso(int numero) { return std::uint64_t{numero < 64} << (numero & 63); }
-  static std::uint64_t bitAlto(int numero) { return std::uint64_t{numero >= 64} << (numero & 63); }
+  static constexpr std::uint64_t bitBasso(int numero) { return std::uint64_t{numero < 64} << (numero & 63); }
+  static constexpr std::uint64_t bitAlto(int numero) { return std::uint64_t{numero >= 64} << (numero & 63); }
 
   std::uint64_t basso_ = 0, alto_ = 0;
 };
