@@ -28,12 +28,6 @@ namespace {
 // Far more slots than a method has.
 constexpr int kUltimoSlotDaSpostare = 2000;
 
-void copiaSlot(const FileMetodo& origine, int da, FileMetodo& destinazione, int a) {
-  for (int campo = 0; campo < FileMetodo::Campi; ++campo)
-    for (int pos = 1; pos <= FileMetodo::Posizioni; ++pos)
-      destinazione(a, campo, pos) = origine(da, campo, pos);
-}
-
 }  // namespace
 
 int ContaPrevisioni(const FileMetodo& metodo) {
@@ -54,12 +48,18 @@ int PrimoSlotLibero(const FileMetodo& metodo) {
   return 0;
 }
 
-void SvuotaSlot(FileMetodo& metodo, int slot) { copiaSlot(FileMetodo{}, slot, metodo, slot); }
+void CopiaSlot(const FileMetodo& origine, int da, FileMetodo& destinazione, int a) {
+  for (int campo = 0; campo < FileMetodo::Campi; ++campo)
+    for (int pos = 1; pos <= FileMetodo::Posizioni; ++pos)
+      destinazione(a, campo, pos) = origine(da, campo, pos);
+}
+
+void SvuotaSlot(FileMetodo& metodo, int slot) { CopiaSlot(FileMetodo{}, slot, metodo, slot); }
 
 FileMetodo SenzaPrevisione(const FileMetodo& metodo, int slot) {
   FileMetodo rimaste;
-  for (int prima = 1; prima < slot; ++prima) copiaSlot(metodo, prima, rimaste, prima);
-  for (int dopo = slot + 1; dopo <= kUltimoSlotDaSpostare; ++dopo) copiaSlot(metodo, dopo, rimaste, dopo - 1);
+  for (int prima = 1; prima < slot; ++prima) CopiaSlot(metodo, prima, rimaste, prima);
+  for (int dopo = slot + 1; dopo <= kUltimoSlotDaSpostare; ++dopo) CopiaSlot(metodo, dopo, rimaste, dopo - 1);
   return rimaste;
 }
 

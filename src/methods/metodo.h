@@ -73,6 +73,10 @@ void ScriviMetodo(const CartellaProgramma& cartella, std::string_view nome, cons
 /// Meant: a prediction on one of the first 99 draws counts as free and is written over.
 [[nodiscard]] int PrimoSlotLibero(const FileMetodo& metodo);
 
+/// Copies all cells of slot `da` of one method into slot `a` of another. Fails with Errore::Indice for a slot
+/// outside the grid.
+void CopiaSlot(const FileMetodo& origine, int da, FileMetodo& destinazione, int a);
+
 /// All cells of a slot become 0.
 void SvuotaSlot(FileMetodo& metodo, int slot);
 

@@ -15,11 +15,6 @@ constexpr int kGiudicabili = FileMetodo::Slot - 1;  // a method with ten predict
 
 bool piena(const FileMetodo& metodo, int slot) { return metodo.EstrazioneCalcolo(slot) != 0; }
 
-void copiaSlot(const FileMetodo& da, int slot, FileMetodo& in, int posto) {
-  for (int campo = 0; campo < FileMetodo::Campi; ++campo)
-    for (int pos = 1; pos <= FileMetodo::Posizioni; ++pos) in(posto, campo, pos) = da(slot, campo, pos);
-}
-
 CambioMetodo leggi(const Programma& programma, const std::string& nome) {
   richiediMetodo(programma, nome);
   const auto griglia = LeggiMetodo(programma.cartella, nome);
@@ -39,7 +34,7 @@ std::vector<int> richiediPiene(const CambioMetodo& metodo, std::vector<int> slot
 void togliSlot(CambioMetodo& metodo, const std::vector<int>& slot) {
   metodo.dopo = {};
   for (int s = 1, posto = 1; s <= FileMetodo::Slot; ++s)
-    if (!std::binary_search(slot.begin(), slot.end(), s)) copiaSlot(metodo.prima, s, metodo.dopo, posto++);
+    if (!std::binary_search(slot.begin(), slot.end(), s)) CopiaSlot(metodo.prima, s, metodo.dopo, posto++);
 }
 
 void aggiungi(CambioMetodo& verso, const FileMetodo& da, const std::vector<int>& slot) {
@@ -49,7 +44,7 @@ void aggiungi(CambioMetodo& verso, const FileMetodo& da, const std::vector<int>&
   if (FileMetodo::Slot - liberi.size() + slot.size() > kGiudicabili)
     throw Rifiuto{"Nel metodo \"" + verso.nome +
                   "\" non c'è posto: con dieci previsioni non viene più giudicato!"};
-  for (std::size_t n = 0; n < slot.size(); ++n) copiaSlot(da, slot[n], verso.dopo, liberi[n]);
+  for (std::size_t n = 0; n < slot.size(); ++n) CopiaSlot(da, slot[n], verso.dopo, liberi[n]);
 }
 
 /// Writes all of them or, as far as the disk lets it, none.
