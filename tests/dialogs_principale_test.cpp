@@ -1,6 +1,7 @@
 #include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_insprev.h"
 #include "dialogs/frm_metodo.h"
+#include "dialogs/frm_modifica.h"
 #include "dialogs/frm_principale.h"
 #include "dialogs/frm_statistica.h"
 #include "sostegno/logica.h"
@@ -14,10 +15,14 @@ struct Principale : testing::Test {
     for (const auto& finestra : principale.finestre()) captions += finestra->Caption() + "|";
     return captions;
   }
-  /// The update fetches an archive of that many draws.
-  void aggiorna(int estrazioni) {
-    archivioDi(estrazioni, "3 Ba 7").scrivi(p);
-    principale.comando(Comando::Aggiorna);
+  /// Imports a file of that many draws; the 7 comes out in Bari on the third alone.
+  void importa(int estrazioni) {
+    std::string testo;
+    for (int n = 1; n <= estrazioni; ++n)
+      testo += "2005/03/0" + std::to_string(n) + "\tBA\t" + (n == 3 ? "7" : "8") + "\t11\t12\t13\t14\n";
+    p.scrivi("estrazioni.txt", testo);
+    p.servizi.scelto = p.radice / "estrazioni.txt";
+    principale.comando(Comando::Importa);
   }
   ProgrammaProva p;
   frmPrincipale principale{p.programma};
@@ -77,30 +82,39 @@ TEST_F(Principale, WithANewArchiveDrawWindowsCloseAndTheOthersTakeItsLastDraw) {
        {Comando::InserisciEstrazione, Comando::ModificaEstrazione, Comando::ModificaPrevisione}) {
     archivioDi(2).scrivi(p);
     principale.comando(comando);
-    aggiorna(4);
+    importa(4);
     EXPECT_EQ(aperte(), "");
   }
   archivioDi(2).scrivi(p);
   principale.comando(Comando::Vaticla);
   auto& vaticla = *principale.aperta<frmMetodo>();
   EXPECT_EQ(vaticla.txtingioco.Text() + vaticla.txtvincenti.Text(), "10");
-  aggiorna(2);  // as many draws as before, one of them another one
+  importa(2);  // as many draws as before, one of them another one
   vaticla.estrazione.VScroll1.Value(3);
-  aggiorna(4);
+  importa(4);
   EXPECT_EQ(vaticla.estrazione.lblnestr.Caption(), "4");
   vaticla.estrazione.VScroll1.Value(3);
   EXPECT_EQ(vaticla.txtingioco.Text() + vaticla.txtvincenti.Text(), "01");
   principale.comando(Comando::Statistica);
-  aggiorna(6);
+  importa(6);
   auto& statistica = *principale.aperta<frmStatistica>();
   EXPECT_EQ(statistica.txtestr[1].Text(), "6");
   statistica.txtestr[0].Text("2");
   statistica.txtestr[1].Text("9");
-  aggiorna(8);
+  importa(8);
   EXPECT_EQ(statistica.txtestr[1].Text(), "9") << "typed by the user";
   statistica.txtestr[0].Text("2");
   statistica.btnElabora_Click();
   EXPECT_EQ(statistica.txtestr[1].Text(), "8");
+}
+
+TEST_F(Principale, AnUpdateLeavesTheOpenWindowWithWhatItShows) {
+  archivioDi(2).scrivi(p);
+  principale.comando(Comando::ModificaEstrazione);
+  archivioDi(4).scrivi(p);  // what the update fetched
+  principale.comando(Comando::Aggiorna);
+  EXPECT_EQ(aperte(), "Modifica Estrazione|");
+  EXPECT_EQ(principale.aperta<frmModifica>()->estrazione.lblnestr.Caption(), "2");
 }
 
 TEST_F(Principale, ClosingDeletesTheReportOfTheCheckAloneAndNoFolderOfItsName) {

@@ -86,7 +86,8 @@ void frmPrincipale::comando(Comando comando) {
       apri<frmModifica>();
       break;
     case Comando::Aggiorna:
-      if (aggiornaArchivio(programma_)) archivioNuovo();
+      // Meant: unlike an import, an update leaves the open windows with what they show.
+      aggiornaArchivio(programma_);
       break;
     case Comando::Vaticla:
       apri<frmMetodo>();
