@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
 namespace vaticlo {
 
 /// The number helpers of the check: relations between numbers of the game (n, a, b from 1 to 90) that players

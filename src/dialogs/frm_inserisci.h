@@ -1,6 +1,9 @@
 #pragma once
 
-#include "forms/controlli_estrazione.h"
+#include <array>
+
+#include "archive/clsgestione.h"
+#include "forms/controlli.h"
 #include "forms/finestra.h"
 #include "program/programma.h"
 

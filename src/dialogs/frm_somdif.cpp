@@ -1,6 +1,7 @@
 #include "dialogs/frm_somdif.h"
 
 #include "dialogs/ricerca_estrazione.h"
+#include "forms/controlli_estrazione.h"
 #include "platform/failure.h"
 
 namespace vaticlo {

@@ -2,7 +2,8 @@
 
 #include <array>
 
-#include "forms/controlli_estrazione.h"
+#include "archive/clsgestione.h"
+#include "forms/controlli.h"
 #include "forms/finestra.h"
 #include "program/programma.h"
 

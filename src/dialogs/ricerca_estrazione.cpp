@@ -2,7 +2,6 @@
 
 #include "platform/conversione.h"
 #include "platform/failure.h"
-#include "platform/testo.h"
 
 namespace vaticlo {
 

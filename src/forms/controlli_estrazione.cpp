@@ -1,7 +1,5 @@
 #include "forms/controlli_estrazione.h"
 
-#include "platform/failure.h"
-
 namespace vaticlo {
 
 std::string ControlliEstrazione::txtestr_Text(int f) const {

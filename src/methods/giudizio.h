@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-#include <utility>
 #include <vector>
 
 #include "archive/regole.h"

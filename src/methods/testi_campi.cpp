@@ -1,6 +1,5 @@
 #include "methods/testi_campi.h"
 
-#include <array>
 #include <cmath>
 
 #include "archive/ruota.h"

@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 #include <string>
-#include <string_view>
 
 #include "archive/data.h"
 #include "methods/metodo.h"

@@ -1,7 +1,6 @@
 #include "platform/descrittore.h"
 
 #include <cerrno>
-#include <string>
 
 #include <fcntl.h>
 #include <unistd.h>

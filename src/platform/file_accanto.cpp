@@ -1,6 +1,5 @@
 #include "platform/file_accanto.h"
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 
