@@ -55,15 +55,15 @@ void Elenco::scegli(int indice) {
   if (Click) Click();
 }
 
-void Elenco::Text(std::string testo) {
+void Elenco::Text(const std::string& testo) {
   if (testo == testo_) return;
-  testo_ = std::move(testo);
+  testo_ = testo;
   indice_ = -1;
   cambiato();
 }
 
-void Elenco::digita(std::string testo) {
-  Text(std::move(testo));
+void Elenco::digita(const std::string& testo) {
+  Text(testo);
   if (Change) Change();
 }
 

@@ -145,9 +145,9 @@ class Elenco : public Controllo {
   void scegli(int indice);
   [[nodiscard]] const std::string& Text() const { return testo_; }
   /// A text for the field: no item is chosen then, and no event follows.
-  void Text(std::string testo);
+  void Text(const std::string& testo);
   /// The user types into the field: Change follows.
-  void digita(std::string testo);
+  void digita(const std::string& testo);
   /// The item data of the chosen item. Failure 9 when none is chosen.
   [[nodiscard]] int ItemDataScelta() const;
 
