@@ -45,7 +45,7 @@ int main(int argc, char* argv[]) {
   frmPrincipale principale(programma);
   VistaPrincipaleQt finestra(principale, confine);
   finestra.show();
-  principale.comando(Comando::Vaticla);
+  principale.comando("mnuMetodi");
   QApplication::processEvents();
   auto* barra = finestra.findChild<QScrollBar*>(QStringLiteral("VScroll1"));
 

@@ -27,7 +27,7 @@ TEST(MessaggioFatale, SaysWhatHappenedWhereWhatToDoAndWhichChapterOfTheGuideHelp
   const SlotProva normale = {.estrazione = 101, .ruote = {1}, .colpi = 90, .ambate = {7}};
   const auto scansione = [&](const std::vector<SlotProva>& slot) {
     scriviMetodoProva(p, "Mio", slot);
-    principale.comando(Comando::InGioco);
+    principale.comando("mnuUtility1");
   };
   const std::string nove = "Errore di run-time 9: ", inGioco = "\"Previsioni in Gioco\"";
   // What is done; the number, what the box names, the heading of the guide.
@@ -39,7 +39,7 @@ TEST(MessaggioFatale, SaysWhatHappenedWhereWhatToDoAndWhichChapterOfTheGuideHelp
                  "La decima previsione di un metodo"},
                 {"ten predictions in the editor",
                  [&] {
-                   principale.comando(Comando::ModificaPrevisione);
+                   principale.comando("mnuGestione22");
                    principale.aperta<frmInsPrev>()->cmbMetodo.scegli(2);
                  },
                  nove,
@@ -62,14 +62,14 @@ TEST(MessaggioFatale, SaysWhatHappenedWhereWhatToDoAndWhichChapterOfTheGuideHelp
                 {"a stranger among the methods",
                  [&] {
                    p.scrivi("Metodi/nota.txt", "");
-                   principale.comando(Comando::InGioco);
+                   principale.comando("mnuUtility1");
                  },
                  "Errore di run-time 5: ",
                  {"nota.txt", inGioco},
                  "Se il programma si chiude con un errore"},
                 {"an empty field",
                  [&] {
-                   principale.comando(Comando::InserisciEstrazione);
+                   principale.comando("mnu1Inserisci");
                    auto& frm = *principale.aperta<frmInserisci>();
                    for (auto& campo : frm.txtestr) campo.Text("7");
                    frm.txtestr[6].Text("  ");
@@ -80,7 +80,7 @@ TEST(MessaggioFatale, SaysWhatHappenedWhereWhatToDoAndWhichChapterOfTheGuideHelp
                  "Inserire un'estrazione"},
                 {"a search beyond all numbers",
                  [&] {
-                   principale.comando(Comando::ModificaEstrazione);
+                   principale.comando("mnu1Modifica");
                    principale.aperta<frmModifica>()->btnTrova_Click();
                  },
                  "Errore di run-time 6: ",
@@ -89,7 +89,7 @@ TEST(MessaggioFatale, SaysWhatHappenedWhereWhatToDoAndWhichChapterOfTheGuideHelp
                 {"a full archive",
                  [&] {
                    archivioDi(15000).scrivi(p);
-                   principale.comando(Comando::Vaticla);
+                   principale.comando("mnuMetodi");
                  },
                  nove,
                  {"15.000", "\"Vaticla\""},

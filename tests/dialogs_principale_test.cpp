@@ -12,7 +12,7 @@ namespace {
 struct Principale : testing::Test {
   [[nodiscard]] std::string aperte() const {
     std::string captions;
-    for (const auto& finestra : principale.finestre()) captions += finestra->Caption() + "|";
+    for (const auto& aperta : principale.finestre()) captions += aperta.finestra->Caption() + "|";
     return captions;
   }
   /// Imports a file of that many draws; the 7 comes out in Bari on the third alone.
@@ -22,7 +22,7 @@ struct Principale : testing::Test {
       testo += "2005/03/0" + std::to_string(n) + "\tBA\t" + (n == 3 ? "7" : "8") + "\t11\t12\t13\t14\n";
     p.scrivi("estrazioni.txt", testo);
     p.servizi.scelto = p.radice / "estrazioni.txt";
-    principale.comando(Comando::Importa);
+    principale.comando("mnuUtility4");
   }
   ProgrammaProva p;
   frmPrincipale principale{p.programma};
@@ -37,7 +37,7 @@ TEST_F(Principale, TwentyDropDownKeysChooseAMethodAndAWindowAndNoOthersDo) {
       EXPECT_EQ(p.globals().MetodoScelto, cifra.empty() ? 1 : std::stoi(cifra) + 1) << chiave << cifra;
       EXPECT_EQ(aperte(), aperta) << chiave << cifra;
     }
-  principale.comando(Comando::InserisciEstrazione);
+  principale.comando("mnu1Inserisci");
   for (const char* chiave : {"NumPrev0", "NumStat10", "NumPrevA", "NumStat ", "Num2", "Sirvan2", ""}) {
     principale.Toolbar1_ButtonMenuClick(chiave);
     principale.Toolbar1_ButtonClick(chiave);
@@ -49,9 +49,9 @@ TEST_F(Principale, TwentyDropDownKeysChooseAMethodAndAWindowAndNoOthersDo) {
 TEST_F(Principale, TheAboutWindowClosesTheOthersWhicheverWayItIsAskedFor) {
   for (const bool giaAperta : {false, true})
     for (const bool dallaBarra : {false, true}) {
-      if (giaAperta) principale.comando(Comando::Informazioni);
-      principale.comando(Comando::Somdif);
-      dallaBarra ? principale.Toolbar1_ButtonClick("Info") : principale.comando(Comando::Informazioni);
+      if (giaAperta) principale.comando("mnuInformazioni2");
+      principale.comando("mnuUtility3");
+      dallaBarra ? principale.Toolbar1_ButtonClick("Info") : principale.comando("mnuInformazioni2");
       EXPECT_EQ(aperte(), "Informazione su|") << giaAperta << dallaBarra;
     }
 }
@@ -60,7 +60,7 @@ TEST_F(Principale, TheEditorKeepsItsVariantUntilTheMenuAsksForTheOther) {
   archivioDi(150).scrivi(p);
   const SlotProva slot = {.estrazione = 101, .ruote = {1}, .ambate = {7}};
   scriviMetodoProva(p, "Metodo 1", {slot});
-  principale.comando(Comando::ModificaPrevisione);
+  principale.comando("mnuGestione22");
   const auto editor = [&] { return principale.aperta<frmInsPrev>(); };
   editor()->cmbMetodo.scegli(0);
   editor()->cmbPrevisione.scegli(0);
@@ -69,24 +69,23 @@ TEST_F(Principale, TheEditorKeepsItsVariantUntilTheMenuAsksForTheOther) {
   EXPECT_EQ(LeggiMetodo(p.cartella(), "Metodo 1").EstrazioneCalcolo(2), 0) << "no second prediction";
   EXPECT_EQ(aperte(), "Modifica Previsione|") << "the window that follows a save";
   const auto* prima = editor();
-  principale.comando(Comando::ModificaPrevisione);
+  principale.comando("mnuGestione22");
   EXPECT_EQ(editor(), prima);
-  principale.comando(Comando::CreaPrevisione);
+  principale.comando("mnuGestione21");
   EXPECT_EQ(aperte(), "Inserisci Previsione|");
   EXPECT_FALSE(editor()->Frame10.Visible());
 }
 
 TEST_F(Principale, WithANewArchiveDrawWindowsCloseAndTheOthersTakeItsLastDraw) {
   scriviMetodoProva(p, "M", {{.estrazione = 2, .ruote = {1}, .colpi = 3, .ambate = {7}}});
-  for (const auto comando :
-       {Comando::InserisciEstrazione, Comando::ModificaEstrazione, Comando::ModificaPrevisione}) {
+  for (const auto comando : {"mnu1Inserisci", "mnu1Modifica", "mnuGestione22"}) {
     archivioDi(2).scrivi(p);
     principale.comando(comando);
     importa(4);
     EXPECT_EQ(aperte(), "");
   }
   archivioDi(2).scrivi(p);
-  principale.comando(Comando::Vaticla);
+  principale.comando("mnuMetodi");
   auto& vaticla = *principale.aperta<frmMetodo>();
   EXPECT_EQ(vaticla.txtingioco.Text() + vaticla.txtvincenti.Text(), "10");
   importa(2);  // as many draws as before, one of them another one
@@ -95,7 +94,7 @@ TEST_F(Principale, WithANewArchiveDrawWindowsCloseAndTheOthersTakeItsLastDraw) {
   EXPECT_EQ(vaticla.estrazione.lblnestr.Caption(), "4");
   vaticla.estrazione.VScroll1.Value(3);
   EXPECT_EQ(vaticla.txtingioco.Text() + vaticla.txtvincenti.Text(), "01");
-  principale.comando(Comando::Statistica);
+  principale.comando("mnu1metodo1");
   importa(6);
   auto& statistica = *principale.aperta<frmStatistica>();
   EXPECT_EQ(statistica.txtestr[1].Text(), "6");
@@ -110,9 +109,9 @@ TEST_F(Principale, WithANewArchiveDrawWindowsCloseAndTheOthersTakeItsLastDraw) {
 
 TEST_F(Principale, AnUpdateLeavesTheOpenWindowWithWhatItShows) {
   archivioDi(2).scrivi(p);
-  principale.comando(Comando::ModificaEstrazione);
+  principale.comando("mnu1Modifica");
   archivioDi(4).scrivi(p);  // what the update fetched
-  principale.comando(Comando::Aggiorna);
+  principale.comando("mnu1Aggiorna");
   EXPECT_EQ(aperte(), "Modifica Estrazione|");
   EXPECT_EQ(principale.aperta<frmModifica>()->estrazione.lblnestr.Caption(), "2");
 }

@@ -117,7 +117,7 @@ void VistaPrincipaleQt::creaMenu() {
   for (const auto& voce : tavolaMenu()) {
     const auto livello = static_cast<std::size_t>(voce.livello);
     const auto caption = QString::fromUtf8(voce.caption), nome = QString::fromUtf8(voce.nome);
-    if (voce.comando == Comando::Sottomenu) {
+    if (voce.azione == nullptr) {
       aperti.at(livello) =
           livello == 1 ? menuBar()->addMenu(caption) : aperti.at(livello - 1)->addMenu(caption);
       aperti.at(livello)->menuAction()->setObjectName(nome);
@@ -127,7 +127,7 @@ void VistaPrincipaleQt::creaMenu() {
     azione->setObjectName(nome);
     if (!voce.tasto.empty()) azione->setShortcut(QKeySequence(QString::fromUtf8(voce.tasto)));
     connect(azione, &QAction::triggered, this,
-            [this, comando = voce.comando] { confine_.esegui([&] { principale_.comando(comando); }); });
+            [this, nome = voce.nome] { confine_.esegui([&] { principale_.comando(nome); }); });
   }
 }
 

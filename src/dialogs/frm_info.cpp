@@ -2,7 +2,7 @@
 
 namespace vaticlo {
 
-frmInfo::frmInfo(Cornice& cornice)
+frmInfo::frmInfo(Programma& /*programma*/, Cornice& cornice)
     : Finestra(cornice), Label3("Versione " VATICLO_VERSION " · software libero, licenza MIT") {
   Caption("Informazione su");
 }

@@ -2,13 +2,14 @@
 
 #include "forms/controlli.h"
 #include "forms/finestra.h"
+#include "program/programma.h"
 
 namespace vaticlo {
 
 /// The about window: three lines of text and nothing else.
 class frmInfo : public Finestra {
  public:
-  explicit frmInfo(Cornice& cornice);
+  frmInfo(Programma& programma, Cornice& cornice);
 
   void Form_Load() override;
 

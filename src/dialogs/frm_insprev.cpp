@@ -143,7 +143,7 @@ void frmInsPrev::btnElimina_Click() {
                  SenzaPrevisione(metodo, cmbPrevisione.ItemDataScelta()));
     blocco.reset();
     programma_.servizi.mostra({"Previsione Eliminata!", ""});
-    cornice().riapri(*this);
+    ricomincia();
   } catch (const RuntimeFailure&) {
     rifiuta("Errore nell'eliminaizione della previsione!");  // Meant: the slip in the text.
   }

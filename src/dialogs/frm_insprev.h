@@ -45,6 +45,7 @@ class frmInsPrev : public Finestra {
   [[nodiscard]] bool salva();
   [[nodiscard]] bool rifiutaCampiVuoti();
   [[nodiscard]] TestiPrevisione testi() const;
+  void ricomincia();
   bool rifiuta(const std::string& testo, Icona icona = Icona::Esclamazione);
 
   Programma& programma_;

@@ -10,6 +10,12 @@ namespace vaticlo {
 void frmInsPrev::btnElabora_Click() {
   if (!salva()) return;
   programma_.servizi.mostra({"La previsione è stata salvata!"});
+  ricomincia();
+}
+
+// The window that follows is of the same variant, whoever has set the value meanwhile.
+void frmInsPrev::ricomincia() {
+  programma_.globals.PrevisioneInModifica = modifica_;
   cornice().riapri(*this);
 }
 

@@ -37,8 +37,8 @@ class frmPrincipale : public Cornice {
 
   void disegnataDa(VistaPrincipale* vista) { vista_ = vista; }
 
-  /// A menu entry. Failures go on to the caller and end the program.
-  void comando(Comando comando);
+  /// The menu entry of that name. Failures go on to the caller and end the program.
+  void comando(std::string_view voce);
   /// A press on the main part of a toolbar button. Runs on past any failure; unknown keys do nothing.
   void Toolbar1_ButtonClick(std::string_view chiave);
   /// An item of a drop-down button: `NumPrev` or `NumStat` with an optional digit. Runs on past any failure.
@@ -60,29 +60,46 @@ class frmPrincipale : public Cornice {
   void apriRisultati() override;
   void lavoro(bool inCorso) override;
 
-  [[nodiscard]] const std::vector<std::shared_ptr<Finestra>>& finestre() const { return finestre_; }
+  /// Opens the window of that class, or brings up the one that is open.
+  template <class F>
+  void apri() {
+    if (auto* finestra = aperta<F>())
+      portaSu(*finestra);
+    else
+      apriNuova([](Programma& programma, Cornice& cornice) -> std::shared_ptr<Finestra> {
+        return std::make_shared<F>(programma, cornice);
+      });
+  }
+  /// The open window of that class, null without one.
   template <class F>
   [[nodiscard]] F* aperta() const {
-    for (const auto& finestra : finestre_)
-      if (auto* trovata = dynamic_cast<F*>(finestra.get())) return trovata;
+    for (const auto& aperta : finestre_)
+      if (auto* trovata = dynamic_cast<F*>(aperta.finestra.get())) return trovata;
     return nullptr;
   }
-
- private:
-  template <class F>
-  void apri();
-  template <class F>
-  [[nodiscard]] std::shared_ptr<Finestra> nuova();
-  void apriNuova(const std::shared_ptr<Finestra>& finestra);
-  void apriEditor(bool modifica);
-  void chiudiTutte(const Finestra* tranne = nullptr);
-  void creaMetodo();
+  /// The archive was replaced as a whole: the open windows are told.
   void archivioNuovo();
   void apriGuida();
+  void esci();
+  void chiudiTutte(const Finestra* tranne = nullptr);
+  [[nodiscard]] Programma& programma() const { return programma_; }
+
+  /// A window and how one of its class is made.
+  using Fabbrica = std::shared_ptr<Finestra> (*)(Programma&, Cornice&);
+  struct Aperta {
+    std::shared_ptr<Finestra> finestra;
+    Fabbrica fabbrica;
+  };
+  [[nodiscard]] const std::vector<Aperta>& finestre() const { return finestre_; }
+
+ private:
+  [[nodiscard]] std::vector<Aperta>::const_iterator postoDi(const Finestra& finestra) const;
+  void portaSu(Finestra& finestra);
+  void apriNuova(Fabbrica fabbrica);
 
   Programma& programma_;
   VistaPrincipale* vista_ = nullptr;
-  std::vector<std::shared_ptr<Finestra>> finestre_;
+  std::vector<Aperta> finestre_;
   std::vector<std::shared_ptr<Finestra>>
       chiuse_;  ///< kept until the next command: an event of theirs may be running
   Finestra* attiva_ = nullptr;

@@ -5,34 +5,17 @@
 
 namespace vaticlo {
 
-/// What a menu entry does.
-enum class Comando {
-  Sottomenu,
-  InserisciEstrazione,
-  ModificaEstrazione,
-  Aggiorna,
-  Vaticla,
-  Statistica,
-  CreaMetodo,
-  ModificaMetodo,
-  CreaPrevisione,
-  ModificaPrevisione,
-  InGioco,
-  Vincenti,
-  Somdif,
-  Importa,
-  PaginaEstrazioni,
-  PaginaRegole,
-  Guida,
-  Informazioni,
-};
+class frmPrincipale;
+
+/// What a menu entry or a button of the toolbar does.
+using Azione = void (*)(frmPrincipale& principale);
 
 /// An entry of the menu, in tree order. Level 1 is the bar.
 struct VoceMenu {
   std::string_view nome;
   int livello;
   std::string_view caption;
-  Comando comando;
+  Azione azione;                ///< none: the entries of the next level that follow are its submenu
   std::string_view tasto = {};  ///< a key of its own
 };
 [[nodiscard]] std::span<const VoceMenu> tavolaMenu();
@@ -43,6 +26,7 @@ struct PulsanteBarra {
   std::string_view chiave;
   std::string_view toolTip;
   std::string_view immagine;
+  Azione azione = nullptr;  ///< of the main part; without one it does nothing
   std::string_view calcolaPrevisione = {};
   std::string_view statistica = {};
 };
