@@ -6,6 +6,8 @@ namespace vaticlo {
 
 namespace {
 
+constexpr auto kNumero = Colonna::Tipo::Numero;
+
 Cella quota(std::optional<double> valore) {
   if (!valore) return {};
   return arrotonda(*valore, 1);
@@ -14,8 +16,16 @@ Cella quota(std::optional<double> valore) {
 }  // namespace
 
 Tabella tabellaDel(const std::vector<RigaQuadro>& quadro) {
-  Tabella tabella{{"Metodo", "Previsioni", "Giocate", "Vincenti", "Negative", "In gioco", "Vincenti %",
-                   "Attese %", "Colpo medio", "Stato"},
+  Tabella tabella{{{"Metodo"},
+                   {"Previsioni", kNumero, 0, "Quante ne vedono verifica, statistica ed elenchi"},
+                   {"Giocate", kNumero, 0, "Calcolate su queste estrazioni: vincenti, negative e in gioco"},
+                   {"Vincenti", kNumero},
+                   {"Negative", kNumero, 0, "Giocate fino in fondo senza una vincita"},
+                   {"In gioco", kNumero},
+                   {"Vincenti %", kNumero, 1, "Di quelle non più in gioco"},
+                   {"Attese %", kNumero, 1, "Quante ne vincerebbe in media il caso, tra le concluse"},
+                   {"Colpo medio", kNumero, 1, "A quale colpo sono arrivate in media le vincite"},
+                   {"Stato"}},
                   {}};
   for (const auto& riga : quadro)
     tabella.righe.push_back({riga.metodo, riga.previsioni, riga.giocate, riga.vincenti, riga.negative,
@@ -25,8 +35,16 @@ Tabella tabellaDel(const std::vector<RigaQuadro>& quadro) {
 }
 
 Tabella tabellaDei(const std::vector<Confronto>& confronti) {
-  Tabella tabella{{"Metodo", "Previsioni concluse", "Vincenti", "Vincenti %", "Attese", "Attese %",
-                   "Prove con almeno", "Prove", "Probabilità %", "Non giudicabili"},
+  Tabella tabella{{{"Metodo"},
+                   {"Previsioni concluse", kNumero},
+                   {"Vincenti", kNumero},
+                   {"Vincenti %", kNumero, 1},
+                   {"Attese", kNumero, 2},
+                   {"Attese %", kNumero, 1},
+                   {"Prove con almeno", kNumero},
+                   {"Prove", kNumero},
+                   {"Probabilità %", kNumero, 1},
+                   {"Non giudicabili", kNumero}},
                   {}};
   for (const auto& uno : confronti)
     tabella.righe.push_back({uno.nome, uno.concluse, uno.vincenti, quota(uno.quotaVincenti()),
@@ -37,7 +55,11 @@ Tabella tabellaDei(const std::vector<Confronto>& confronti) {
 
 Tabella tabellaDei(const Ritardi& ritardi, Sorte sorte) {
   const bool ambi = sorte == Sorte::Ambi;
-  Tabella tabella{{ambi ? "Ambo" : "Numero", "Frequenza", "Ritardo", "Ritardo massimo"}, {}};
+  Tabella tabella{{ambi ? Colonna{"Ambo"} : Colonna{"Numero", kNumero},
+                   {"Frequenza", kNumero},
+                   {"Ritardo", kNumero},
+                   {"Ritardo massimo", kNumero}},
+                  {}};
   for (const auto& riga : ritardi.righe) {
     const Cella nome =
         ambi ? Cella(std::to_string(riga.numero) + "-" + std::to_string(riga.altro)) : Cella(riga.numero);

@@ -21,9 +21,9 @@ std::string testoJson(const Tabella& tabella) {
       std::visit(
           [&](const auto& valore) {
             if constexpr (std::is_same_v<std::decay_t<decltype(valore)>, std::monostate>)
-              riga[tabella.colonne[n]] = nullptr;
+              riga[tabella.colonne[n].nome] = nullptr;
             else
-              riga[tabella.colonne[n]] = valore;
+              riga[tabella.colonne[n].nome] = valore;
           },
           celle[n]);
   }
@@ -39,7 +39,7 @@ std::size_t larghezza(const std::string& testo) {
 
 void stampaAllineata(const Tabella& tabella) {
   std::vector<std::size_t> larghezze;
-  for (const auto& nome : tabella.colonne) larghezze.push_back(larghezza(nome));
+  for (const auto& colonna : tabella.colonne) larghezze.push_back(larghezza(colonna.nome));
   for (const auto& celle : tabella.righe)
     for (std::size_t n = 0; n < celle.size(); ++n)
       larghezze[n] = std::max(larghezze[n], larghezza(testoCella(celle[n])));
@@ -53,13 +53,12 @@ void stampaAllineata(const Tabella& tabella) {
     }
     std::cout << riga.substr(0, riga.find_last_not_of(' ') + 1) << '\n';
   };
-  // Texts stand at the left, numbers at the right; a column is what its first row is.
-  const auto testi = [&](std::size_t n) {
-    return !tabella.righe.empty() && std::holds_alternative<std::string>(tabella.righe.front()[n]);
-  };
+  const auto testi = [&](std::size_t n) { return tabella.colonne[n].tipo != Colonna::Tipo::Numero; };
   stampaRiga(
-      tabella.colonne, [](const std::string& nome) { return nome; }, testi);
-  for (const auto& celle : tabella.righe) stampaRiga(celle, testoCella, testi);
+      tabella.colonne, [](const Colonna& colonna) { return colonna.nome; }, testi);
+  for (const auto& celle : tabella.righe)
+    stampaRiga(
+        celle, [](const Cella& cella) { return testoCella(cella); }, testi);
 }
 
 }  // namespace

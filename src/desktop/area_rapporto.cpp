@@ -2,15 +2,13 @@
 
 #include <QAction>
 #include <QContextMenuEvent>
-#include <QDir>
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <memory>
 
 #include "desktop/carta.h"
+#include "desktop/salva_con_nome.h"
 
 namespace vaticlo {
 
@@ -32,10 +30,17 @@ AreaRapporto::AreaRapporto(AreaTesto& modello, QWidget* padre)
   auto* trova = voce("trova", "Trova...", [this] { apriRicerca(); });
   trova->setShortcut(QKeySequence::Find);
   trova->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-  voce("salvaPdf", "Salva come PDF...",
-       [this] { salva(QStringLiteral("Salva come PDF"), QStringLiteral("pdf"), salvaPdf); });
-  voce("salvaTesto", "Salva come testo...",
-       [this] { salva(QStringLiteral("Salva come testo"), QStringLiteral("txt"), salvaTesto); });
+  voce("salvaPdf", "Salva come PDF...", [this] {
+    salvaConNome(*this, QStringLiteral("Salva come PDF"), accessibleName(), QStringLiteral("pdf"),
+                 [this](const QString& file) {
+                   return salvaPdf(file,
+                                   [this](QPagedPaintDevice& carta) { stampaSu(carta, toPlainText()); });
+                 });
+  });
+  voce("salvaTesto", "Salva come testo...", [this] {
+    salvaConNome(*this, QStringLiteral("Salva come testo"), accessibleName(), QStringLiteral("txt"),
+                 [this](const QString& file) { return salvaOttetti(file, toPlainText().toUtf8()); });
+  });
 
   ricerca_->setObjectName(QStringLiteral("cercaNelTesto"));
   ricerca_->setPlaceholderText(
@@ -66,19 +71,6 @@ void AreaRapporto::contextMenuEvent(QContextMenuEvent* evento) {
   menu->addSeparator();
   menu->addActions(actions());
   menu->exec(evento->globalPos());
-}
-
-void AreaRapporto::salva(const QString& titolo, const QString& suffisso, Salva come) {
-  QFileDialog scelta(window(), titolo, QDir::homePath(),
-                     titolo.mid(11) + QStringLiteral(" (*.%1)").arg(suffisso));
-  scelta.setAcceptMode(QFileDialog::AcceptSave);
-  scelta.setDefaultSuffix(suffisso);
-  scelta.selectFile(accessibleName() + u'.' + suffisso);
-  if (scelta.exec() != QDialog::Accepted) return;
-  const auto file = scelta.selectedFiles().value(0);
-  if (!come(file, toPlainText()))
-    QMessageBox::warning(window(), titolo,
-                         QStringLiteral("Il file \"%1\" non si lascia scrivere!").arg(file));
 }
 
 void AreaRapporto::apriRicerca() {

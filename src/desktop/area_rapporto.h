@@ -23,8 +23,6 @@ class AreaRapporto : public QPlainTextEdit {
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
-  using Salva = bool (*)(const QString& file, const QString& testo);
-  void salva(const QString& titolo, const QString& suffisso, Salva come);
   void apriRicerca();
   void chiudiRicerca();
   void cerca(QTextDocument::FindFlags verso, bool dalla);

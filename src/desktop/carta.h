@@ -3,6 +3,9 @@
 #include <QString>
 #include <functional>
 
+#include "platform/tabella.h"
+
+class QByteArray;
 class QPagedPaintDevice;
 
 namespace vaticlo {
@@ -14,8 +17,11 @@ namespace vaticlo {
 /// Lays the text out on the pages of a printer or of a PDF.
 void stampaSu(QPagedPaintDevice& carta, const QString& testo);
 
-/// Both write the file whole or leave it as it was; false when it can't be written.
-[[nodiscard]] bool salvaPdf(const QString& file, const QString& testo);
-[[nodiscard]] bool salvaTesto(const QString& file, const QString& testo);
+/// Lays a table out below its title, its heads again on each page.
+void stampaSu(QPagedPaintDevice& carta, const QString& titolo, const Tabella& tabella);
+
+/// Both write the file whole or leave it as it was; false when it can't be written. `disegna` lays a PDF out.
+[[nodiscard]] bool salvaPdf(const QString& file, const std::function<void(QPagedPaintDevice&)>& disegna);
+[[nodiscard]] bool salvaOttetti(const QString& file, const QByteArray& ottetti);
 
 }  // namespace vaticlo

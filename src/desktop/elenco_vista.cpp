@@ -8,8 +8,9 @@
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionComboBox>
-#include <QTextDocument>
 #include <QToolTip>
+
+#include "desktop/suggerimento.h"
 
 namespace vaticlo {
 
@@ -18,11 +19,6 @@ namespace {
 constexpr int kRigheOfferte = 8;
 
 QString testo(const std::string& utf8) { return QString::fromStdString(utf8); }
-
-// A tool tip would read a name with "<" in it as markup.
-QString perSuggerimento(const QString& nome) {
-  return Qt::mightBeRichText(nome) ? Qt::convertFromPlainText(nome) : nome;
-}
 
 /// The field of a list: without the focus it shows that a text goes on.
 class CampoElenco : public QLineEdit {

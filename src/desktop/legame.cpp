@@ -15,6 +15,7 @@
 #include "desktop/area_rapporto.h"
 #include "desktop/con_fuoco.h"
 #include "desktop/immagini.h"
+#include "desktop/prospetto_vista.h"
 #include "desktop/selettore_data.h"
 
 namespace vaticlo {
@@ -64,6 +65,11 @@ QLabel* Legame::etichetta(Etichetta& modello, const QString& nome) {
 CampoTestoVista* Legame::campo(CampoTesto& modello, const QString& nome) {
   auto* widget = chiamato(new CampoTestoVista(modello, vista_), nome);
   if (modello.Validate) validatore_.prova(widget, [&modello] { return modello.Validate(); });
+  connect(widget, &QLineEdit::textEdited, this, [this, &modello] {
+    confine_.esegui([&] {
+      if (modello.Change) modello.Change();
+    });
+  });
   segui(modello, [widget] { widget->aggiorna(); });
   modello.SetFocus = [widget] {
     widget->setFocus(Qt::OtherFocusReason);
@@ -196,6 +202,12 @@ xpgroupbox* Legame::riquadroDisegnato(Riquadro& modello, const QString& nome) {
 
 QPlainTextEdit* Legame::area(AreaTesto& modello, const QString& nome) {
   auto* widget = chiamato(new AreaRapporto(modello, vista_), nome);
+  segui(modello, [widget] { widget->aggiorna(); });
+  return widget;
+}
+
+ProspettoVista* Legame::prospetto(Prospetto& modello, const QString& nome) {
+  auto* widget = chiamato(new ProspettoVista(modello, confine_, vista_), nome);
   segui(modello, [widget] { widget->aggiorna(); });
   return widget;
 }

@@ -22,6 +22,8 @@ class QWidget;
 
 namespace vaticlo {
 
+class Prospetto;
+class ProspettoVista;
 class SelettoreDataVista;
 class xpcmdbutton;
 class xpgroupbox;
@@ -51,6 +53,7 @@ class Legame : public QObject {
   QGroupBox* riquadro(Riquadro& modello, const QString& nome);
   xpgroupbox* riquadroDisegnato(Riquadro& modello, const QString& nome);
   QPlainTextEdit* area(AreaTesto& modello, const QString& nome);
+  ProspettoVista* prospetto(Prospetto& modello, const QString& nome);
 
   [[nodiscard]] QWidget* vista() const { return vista_; }
 

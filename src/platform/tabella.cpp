@@ -31,8 +31,8 @@ std::string righe(const Tabella& tabella, char separatore, const char* fine, Cam
     }
     testo += fine;
   };
-  riga(tabella.colonne, [](const std::string& nome) { return nome; });
-  for (const auto& celle : tabella.righe) riga(celle, testoCella);
+  riga(tabella.colonne, [](const Colonna& colonna) { return colonna.nome; });
+  for (const auto& celle : tabella.righe) riga(celle, [](const Cella& cella) { return testoCella(cella); });
   return testo;
 }
 
@@ -43,6 +43,18 @@ std::string testoCella(const Cella& cella) {
   if (const auto* intero = std::get_if<int>(&cella)) return std::to_string(*intero);
   if (const auto* decimale = std::get_if<double>(&cella)) return testoDiNumero(*decimale);
   return "";
+}
+
+std::string testoCella(const Cella& cella, const Colonna& colonna) {
+  auto testo = testoCella(cella);
+  if (colonna.decimali == 0 || testo.empty() || std::holds_alternative<std::string>(cella)) return testo;
+  auto virgola = testo.find(',');
+  if (virgola == std::string::npos) {
+    virgola = testo.size();
+    testo += ',';
+  }
+  testo.append(virgola + 1 + static_cast<std::size_t>(colonna.decimali) - testo.size(), '0');
+  return testo;
 }
 
 std::string testoCsv(const Tabella& tabella) { return righe(tabella, ';', "\r\n", traVirgolette); }

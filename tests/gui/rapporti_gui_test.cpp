@@ -98,8 +98,8 @@ class RapportiGuiTest : public QObject {
     for (const char* azione : {"salvaPdf", "salvaTesto"}) v.area->findChild<QAction*>(azione)->trigger();
     QCOMPARE(QString::fromUtf8(contenuto(cartella.filePath("uscita.txt"))), v.testo("RichTextBox1"));
     QVERIFY(contenuto(cartella.filePath("uscita.pdf")).startsWith("%PDF"));
-    QVERIFY(!salvaTesto(cartella.filePath("manca/uscita.txt"), "testo"));
-    QVERIFY(!salvaPdf(cartella.filePath("manca/uscita.pdf"), "testo"));
+    QVERIFY(!salvaOttetti(cartella.filePath("manca/uscita.txt"), "testo"));
+    QVERIFY(!salvaPdf(cartella.filePath("manca/uscita.pdf"), [](auto&) {}));
   }
 
   void onPaperALineIsBrokenBehindASemicolonOrABlankAlone() {

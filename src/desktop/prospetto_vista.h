@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QTableView>
+
+#include "desktop/modello_prospetto.h"
+
+class QMenu;
+
+namespace vaticlo {
+
+/// A table with heads that sort it: by a press, or by Ctrl and the number of the column. Its rows are copied,
+/// saved and printed by its context menu, to which a window adds its own entries as actions.
+class ProspettoVista : public QTableView {
+ public:
+  ProspettoVista(Prospetto& modello, const Confine& confine, QWidget* padre);
+
+  /// Draws the model as it is now.
+  void aggiorna();
+  /// Entries of the window's own, before those of the table.
+  void aggiungiVoci(const QList<QAction*>& voci);
+
+ protected:
+  void contextMenuEvent(QContextMenuEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+  void paintEvent(QPaintEvent* evento) override;
+  bool viewportEvent(QEvent* evento) override;
+  void selectionChanged(const QItemSelection& scelte, const QItemSelection& lasciate) override;
+  void changeEvent(QEvent* evento) override;
+
+ private:
+  QAction* voce(const char* nome, const QString& caption, void (ProspettoVista::*fai)());
+  void segnaOrdine();
+  void aggiornaOrdini();
+  void misura();
+  void mostraScelte();
+  void apri(const QModelIndex& indice);
+  void copia();
+  void salvaCsv();
+  void salvaComePdf();
+  void stampa();
+  [[nodiscard]] QString titolo() const;
+
+  Prospetto& modello_;
+  const Confine& confine_;
+  ModelloProspetto* righe_;
+  QMenu* ordini_;
+  QAction* primaSua_ = nullptr;  // the first entry of the table's own
+  int edizione_ = -1;
+  bool disegnando_ = false;
+  bool larghezzeScelte_ = false;  // by the user
+};
+
+}  // namespace vaticlo

@@ -1,0 +1,106 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "desktop/legame.h"
+#include "desktop/prospetto_vista.h"
+#include "gui/finestra_prova.h"
+#include "sostegno/cornice_prova.h"
+
+using namespace vaticlo;
+using namespace vaticlo::prova;
+
+namespace {
+
+struct FinestraTabella : Finestra {
+  explicit FinestraTabella(Cornice& cornice) : Finestra(cornice) {
+    tavola.Titolo("Prova 1/2");
+    tavola.mostra({{{"Nome"}, {"Quota", Colonna::Tipo::Numero, 1}},
+                   {{std::string("uno"), 2}, {std::string("<b>due"), 1.5}, {std::string("tre"), {}}}});
+    tavola.Apri = [this] { aperte += testoCella(tavola.cella(*tavola.scelta(), 0)) + " "; };
+  }
+  void Form_Load() override {}
+  Prospetto tavola{Prospetto::Scelta::Diverse};
+  std::string aperte;
+};
+
+/// A window with a table and nothing else.
+struct Prova {
+  Prova() {
+    auto* legame = new Legame(&finestra, frm, confine);
+    vista = legame->prospetto(frm->tavola, "tavola");
+    (new QVBoxLayout(&finestra))->addWidget(vista);
+    finestra.show();
+    if (!QTest::qWaitForWindowActive(&finestra)) PrincipaleProva::ferma("not active");
+    vista->setFocus();
+  }
+  [[nodiscard]] QStringList colonna(int n) const {
+    QStringList testi;
+    for (int riga = 0; riga < vista->model()->rowCount(); ++riga)
+      testi << vista->model()->index(riga, n).data().toString();
+    return testi;
+  }
+  CorniceProva cornice;
+  Confine confine;
+  std::shared_ptr<FinestraTabella> frm = std::make_shared<FinestraTabella>(cornice);
+  QWidget finestra;
+  ProspettoVista* vista;
+};
+
+}  // namespace
+
+class ProspettoGuiTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void headsAndKeysPutTheRowsInOrderAndTheChoiceStays() {
+    Prova v;
+    QCOMPARE(v.colonna(1), QStringList({"2,0", "1,5", ""}));
+    QTest::keyClick(v.vista, Qt::Key_Home, Qt::ControlModifier);
+    QTest::keyClick(v.vista, Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(v.frm->tavola.scelte().size(), 2U);
+    const auto& testa = *v.vista->horizontalHeader();
+    QTest::mouseClick(testa.viewport(), Qt::LeftButton, {},
+                      {testa.sectionPosition(1) + 5, testa.height() / 2});
+    QCOMPARE(v.colonna(0), QStringList({"<b>due", "uno", "tre"}));
+    QTest::keyClick(v.vista, Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(v.colonna(0), QStringList({"uno", "<b>due", "tre"}));
+    QCOMPARE(testa.sortIndicatorOrder(), Qt::DescendingOrder);
+    QTest::keyClick(v.vista, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), QString("Nome\tQuota\nuno\t2\n<b>due\t1,5\n"));
+    QTest::keyClick(v.vista, Qt::Key_End, Qt::ControlModifier);
+    QTest::keyClick(v.vista, Qt::Key_Return);
+    const auto primo = v.vista->visualRect(v.vista->model()->index(0, 0)).center();
+    QTest::mouseClick(v.vista->viewport(), Qt::LeftButton, {}, primo);
+    QTest::mouseDClick(v.vista->viewport(), Qt::LeftButton, {}, primo);
+    QCOMPARE(QString::fromStdString(v.frm->aperte), QString("tre uno "));
+  }
+
+  void itsMenuSavesWhatIsShown() {
+    Prova v;
+    const QTemporaryDir cartella;
+    v.frm->tavola.filtra("due");
+    QTimer risposte;
+    connect(&risposte, &QTimer::timeout, this, [&] {
+      if (auto* scelta = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+        scelta->setDirectory(cartella.path());
+        QMetaObject::invokeMethod(scelta, "accept");
+      }
+    });
+    risposte.start(20);
+    for (const char* azione : {"salvaCsv", "salvaPdf"}) v.vista->findChild<QAction*>(azione)->trigger();
+    for (const auto& [nome, inizio] : {std::pair{"Prova 1-2.csv", "\xEF\xBB\xBFNome;Quota\r\n<b>due;1,5\r\n"},
+                                       {"Prova 1-2.pdf", "%PDF"}}) {
+      QFile file(cartella.filePath(nome));
+      QVERIFY2(file.open(QIODevice::ReadOnly) && file.readAll().startsWith(inizio), nome);
+    }
+  }
+};
+
+QTEST_MAIN(ProspettoGuiTest)
+#include "prospetto_gui_test.moc"
