@@ -15,9 +15,9 @@ file(STRINGS "${sistema}" escluse REGEX "^[^#]")
 string(REGEX REPLACE "([.+])" "\\\\\\1" escluse "${escluse}")
 list(TRANSFORM escluse PREPEND "^")
 list(TRANSFORM escluse APPEND "$")
-file(GET_RUNTIME_DEPENDENCIES EXECUTABLES ${programmi} LIBRARIES "${curl}" MODULES ${moduli}
+file(GET_RUNTIME_DEPENDENCIES EXECUTABLES ${programmi} LIBRARIES ${aperte} MODULES ${moduli}
   PRE_EXCLUDE_REGEXES ${escluse} RESOLVED_DEPENDENCIES_VAR librerie)
-list(APPEND librerie "${curl}")
+list(APPEND librerie ${aperte})
 
 foreach(libreria ${librerie})
   cmake_path(GET libreria FILENAME nome)

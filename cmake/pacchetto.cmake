@@ -21,11 +21,12 @@ set(plugins
 get_target_property(qt Qt6::Core LOCATION)
 cmake_path(GET qt PARENT_PATH qt)
 find_library(VATICLO_CURL libcurl.so.4)
+find_library(VATICLO_LIBARCHIVE libarchive.so.13)
 install(CODE "
   set(programmi \"$<TARGET_FILE:vaticlo>\" \"$<TARGET_FILE:vaticlo-cli>\")
   set(radice_plugins \"${qt}/qt6/plugins\")
   set(plugins \"${plugins}\")
-  set(curl \"${VATICLO_CURL}\")
+  set(aperte \"${VATICLO_CURL}\" \"${VATICLO_LIBARCHIVE}\")
   set(sistema \"${PROJECT_SOURCE_DIR}/pacchetto/librerie_di_sistema.txt\")" ${in_librerie})
 install(SCRIPT cmake/completa_pacchetto.cmake ${in_librerie})
 

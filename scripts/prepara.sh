@@ -2,7 +2,7 @@
 # Sourced by run.sh, test.sh and .ci/run: what a fresh Debian 12 needs, and how it is built.
 
 pacchetti="g++ cmake ninja-build pkg-config
-  libcurl4-openssl-dev libutf8proc-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev
+  libcurl4-openssl-dev libarchive-dev zlib1g-dev libutf8proc-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev
   qt6-base-dev libqt6svg6-dev qt6-l10n-tools qt6-tools-dev qt6-translations-l10n libgl1-mesa-dev
   cmark-gfm xvfb openbox libxtst-dev"
 

@@ -31,6 +31,10 @@ grep -q "Ambata 90 Ba al 3°colpo" "$prova/verifica" || sbaglio "a check went wr
 [ -s "$cartella/Esiti.txt" ] || sbaglio "the report is not in the program folder"
 env -i LD_DEBUG=files "$cartella/vaticlo-cli" aggiorna --da http://127.0.0.1:1/ >/dev/null 2>"$prova/caricate" || true
 grep -qF "calling init: $cartella/lib/libcurl.so.4" "$prova/caricate" || sbaglio "downloads with another libcurl"
+printf '2026/03/14\tBA\t1\t2\t3\t4\t5\n' >"$prova/una.txt"
+(cd "$prova" && cmake -E tar cf una.zip --format=zip una.txt)
+env -i LD_DEBUG=files "$cartella/vaticlo-cli" --cartella "$prova/zip" importa "$prova/una.zip" >/dev/null 2>"$prova/caricate"
+grep -qF "calling init: $cartella/lib/libarchive.so.13" "$prova/caricate" || sbaglio "unpacks with another libarchive"
 
 env -i QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$prova" "$cartella/vaticlo" &
 programma=$!

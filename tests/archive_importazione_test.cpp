@@ -40,8 +40,9 @@ TEST(Import, PutsAllLinesOfADateIntoOneDraw) {
 
 TEST(Import, NamesTheLineThatIsWrongAndWhatIsWrongWithIt) {
   const auto prova = [](const std::string& riga, const std::string& motivo) {
-    const auto errore = erroreDi("2005/01/05\tBA\t1\t2\t3\t4\t5\n" + riga + "\n2005/01/04\tXX");
-    EXPECT_EQ(errore.substr(0, 8), "riga 2: ") << riga;
+    const auto errore = erroreDi("2005/01/01\tBA\t1\t2\t3\t4\t5\n2005/01/05\tBA\t1\t2\t3\t4\t5\n" + riga +
+                                 "\n2005/01/04\tXX");
+    EXPECT_EQ(errore.substr(0, 8), "riga 3: ") << riga;
     EXPECT_NE(errore.find(motivo), std::string::npos) << errore;
   };
   for (const auto* riga : {"", "2005/01/08\tBA\t1\t2\t3\t4", "2005/01/08\tBA\t1\t2\t3\t4\t5\t6",
@@ -60,9 +61,22 @@ TEST(Import, NamesTheLineThatIsWrongAndWhatIsWrongWithIt) {
   EXPECT_EQ(erroreDi("").substr(0, 8), "riga 1: ");
 }
 
-TEST(Import, TakesAMarkOfUtf8AndNamesUtf16) {
+TEST(Import, TakesTheNewestDrawFirstAndBlanksAtTheEnds) {
+  const auto a = importaEstrazioni(
+      "\xEF\xBB\xBF"
+      "2005/01/12\tRN\t1\t2\t3\t4\t5  \r\n2005/01/12\tBA\t6\t7\t8\t9\t10 \r\n"
+      "2005/01/08\tBA\t11\t12\t13\t14\t15\n2005/01/05\tBA\t16\t17\t18\t19\t20 \n \r\n\n");
+  EXPECT_EQ(riassunto(a), "3 estrazioni, dal 5/1/2005 al 12/1/2005");
+  EXPECT_THAT((Celle{a(1, 1, 1), a(2, 1, 1), a(3, 1, 1), a(3, 11, 5), a(1, 11, 5)}),
+              ElementsAre(16, 11, 6, 5, 0));
+  EXPECT_EQ(erroreDi("2005/01/12\tBA\t1\t2\t3\t4\t5\n2005/01/08\tBA\t1\t2\t3\t4\t5\n"
+                     "2005/01/09\tBA\t1\t2\t3\t4\t5\n"),
+            "riga 3: la data è successiva a quella della riga prima");
+  EXPECT_EQ(erroreDi(" \r\n\n"), "riga 1: il file è vuoto");
+}
+
+TEST(Import, NamesUtf16) {
   const std::string riga = "2005/01/05\tBA\t1\t2\t3\t4\t5\n";
-  EXPECT_EQ(erroreDi("\xEF\xBB\xBF" + riga), "");
   for (const auto& inizio : {std::string("\xFF\xFE"), std::string("\xFE\xFF"), std::string("2\0", 2)})
     EXPECT_THAT(erroreDi(inizio + riga), HasSubstr("UTF-16"));
 }

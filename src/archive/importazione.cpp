@@ -19,8 +19,13 @@ namespace {
 constexpr std::array<std::string_view, kRuote> kSiglePubbliche = {"BA", "CA", "FI", "GE", "MI", "NA",
                                                                   "PA", "RM", "TO", "VE", "RN"};
 constexpr int kMassimoEstrazioni = ArchivioEstrazioni::MaxEstrazioni - 1;  // the archive needs one free slot
+constexpr std::size_t kDiUnaCella = ArchivioEstrazioni::MaxEstrazioni;     // the same cell of all draws
 constexpr std::string_view kForma =
     "attesa la forma aaaa/mm/gg, ruota e cinque numeri, separati da tabulazioni";
+
+std::string_view senzaCoda(std::string_view testo, std::string_view bianchi) {
+  return testo.substr(0, testo.find_last_not_of(bianchi) + 1);
+}
 
 class Lettore {
  public:
@@ -34,7 +39,13 @@ class Lettore {
       archivio_(estrazioni_, ruota, k) = prendiNumero(campi[static_cast<std::size_t>(k) + 1], ruota, k);
   }
 
-  [[nodiscard]] ArchivioEstrazioni finito() && { return std::move(archivio_); }
+  /// The draws, oldest first.
+  [[nodiscard]] ArchivioEstrazioni finito() && {
+    if (indietro_)
+      for (auto celle = archivio_.ottetti(); !celle.empty(); celle = celle.subspan(kDiUnaCella))
+        std::ranges::reverse(celle.first(static_cast<std::size_t>(estrazioni_)));
+    return std::move(archivio_);
+  }
 
  private:
   [[noreturn]] void errore(const std::string& motivo) const { throw ErroreImportazione(riga_, motivo); }
@@ -45,8 +56,12 @@ class Lettore {
     const auto data =
         dataDiCalendario(cifre(testo.substr(8, 2)).value_or(0), cifre(testo.substr(5, 2)).value_or(0), a);
     if (!data || a < 1800 || a > 2099) errore("\"" + citazione(testo) + "\" non è una data valida");
-    if (estrazioni_ > 0 && *data < data_) errore("la data è precedente a quella della riga prima");
     if (estrazioni_ > 0 && *data == data_) return;
+    const bool prima = estrazioni_ > 0 && *data < data_;
+    if (estrazioni_ == 1) indietro_ = prima;
+    if (estrazioni_ > 1 && prima != indietro_)
+      errore(std::string("la data è ") + (prima ? "precedente" : "successiva") +
+             " a quella della riga prima");
     if (estrazioni_ == kMassimoEstrazioni)
       errore("più di " + std::to_string(kMassimoEstrazioni) + " estrazioni");
     data_ = *data;
@@ -77,6 +92,7 @@ class Lettore {
   std::bitset<kRuote> ruote_;
   Data data_{};
   int estrazioni_ = 0;
+  bool indietro_ = false;  // the newest draw comes first
   int riga_ = 0;
 };
 
@@ -84,16 +100,15 @@ class Lettore {
 
 ArchivioEstrazioni importaEstrazioni(std::string_view testo, const std::function<void(int)>& avanzamento) {
   if (inUtf16(testo)) throw ErroreImportazione("il file è in UTF-16: va salvato in UTF-8");
-  testo = senzaMarca(testo);
+  testo = senzaCoda(senzaMarca(testo), " \r\n");
   if (testo.empty()) throw ErroreImportazione(1, "il file è vuoto");
   Lettore lettore;
   const auto tutto = testo.size();
   int percento = 0;
   for (int numeroRiga = 1; !testo.empty(); ++numeroRiga) {
     const auto fine = std::min(testo.find('\n'), testo.size());
-    auto riga = testo.substr(0, fine);
+    const auto riga = senzaCoda(testo.substr(0, fine), " \r");
     testo.remove_prefix(std::min(fine + 1, testo.size()));
-    if (riga.ends_with('\r')) riga.remove_suffix(1);
     lettore.riga(numeroRiga, riga);
     const auto fatto = static_cast<int>((tutto - testo.size()) * 100 / tutto);
     if (avanzamento && fatto > std::exchange(percento, fatto)) avanzamento(fatto);

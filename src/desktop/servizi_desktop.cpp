@@ -90,7 +90,7 @@ std::string ServiziDesktop::chiedi(const std::string& testo, const std::string& 
 std::filesystem::path ServiziDesktop::scegliFile(const std::string& titolo) {
   const auto file = QFileDialog::getOpenFileName(
       padre_, qt(titolo), QDir::homePath(),
-      QStringLiteral("File di testo delle estrazioni (*.txt);;Tutti i file (*)"));
+      QStringLiteral("File delle estrazioni (*.txt *.zip *.gz);;Tutti i file (*)"));
   return QFile::encodeName(file).toStdString();
 }
 

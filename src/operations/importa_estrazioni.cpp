@@ -1,10 +1,12 @@
 #include "operations/importa_estrazioni.h"
 
 #include <optional>
+#include <utility>
 
 #include "platform/blocco.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
+#include "platform/spacchettamento.h"
 
 namespace vaticlo {
 
@@ -13,6 +15,9 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kTitolo = "Importa Estrazioni da File";
+constexpr const char* kNumeri =
+    "Le previsioni indicano le estrazioni con il loro numero: dove i numeri cambiano, varranno per altre "
+    "estrazioni.";
 constexpr const char* kLavoro = "Importazione delle estrazioni in corso...";
 
 std::optional<ArchivioEstrazioni> importa(Servizi& servizi, const fs::path& file) {
@@ -42,7 +47,15 @@ bool scrivi(const CartellaProgramma& cartella, const ArchivioEstrazioni& nuovo, 
 }  // namespace
 
 ArchivioEstrazioni leggiEstrazioni(const fs::path& file, const std::function<void(int)>& avanzamento) {
-  return importaEstrazioni(testoFornito(file), avanzamento);
+  return estrazioniDa(testoFornito(file), avanzamento);
+}
+
+ArchivioEstrazioni estrazioniDa(std::string ottetti, const std::function<void(int)>& avanzamento) {
+  try {
+    return importaEstrazioni(spacchetta(std::move(ottetti)), avanzamento);
+  } catch (const ErrorePacchetto& errore) {
+    throw ErroreImportazione(errore.what());
+  }
 }
 
 bool importaEstrazioniDaFile(Programma& programma) {
@@ -54,7 +67,7 @@ bool importaEstrazioniDaFile(Programma& programma) {
   if (!scrivi(programma.cartella, *nuovo, false)) {
     const auto risposta =
         servizi.mostra({"L'archivio contiene già delle estrazioni. Sostituirle tutte con quelle del file (" +
-                            riassunto(*nuovo) + ")?",
+                            riassunto(*nuovo) + ")?\n\n" + kNumeri,
                         kTitolo, Genere::Domanda, Icona::Esclamazione, Risposta::No});
     if (risposta != Risposta::Si) return false;
     scrivi(programma.cartella, *nuovo, true);

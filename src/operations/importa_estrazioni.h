@@ -2,14 +2,19 @@
 
 #include <filesystem>
 #include <functional>
+#include <string>
 
 #include "archive/importazione.h"
 #include "program/programma.h"
 
 namespace vaticlo {
 
-/// The archive that a public text file of draws describes. `avanzamento` is told each percent that is done.
-/// ErroreImportazione for a text that can't be taken, a failure for a file that can't be read.
+/// The archive that a public text of draws describes, given as it is or packed with zip or gzip.
+/// `avanzamento` is told each percent that is done. ErroreImportazione for what can't be taken.
+[[nodiscard]] ArchivioEstrazioni estrazioniDa(std::string ottetti,
+                                              const std::function<void(int)>& avanzamento = {});
+
+/// The same from a file; a failure when it can't be read.
 [[nodiscard]] ArchivioEstrazioni leggiEstrazioni(const std::filesystem::path& file,
                                                  const std::function<void(int)>& avanzamento = {});
 

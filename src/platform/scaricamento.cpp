@@ -5,10 +5,10 @@
 #include <optional>
 
 #include <curl/curl.h>
-#include <dlfcn.h>
 
 #include "platform/failure.h"
 #include "platform/file_intero.h"
+#include "platform/libreria.h"
 
 namespace vaticlo {
 
@@ -17,16 +17,15 @@ namespace {
 constexpr long kRedirezioni = 5;
 constexpr long kQuasiSilenzio = 64;  // bytes a second
 
-// The few entries of libcurl that a download needs, from a library opened on first use.
-class LibreriaCurl {
- public:
-  LibreriaCurl() : libreria_(::dlopen("libcurl.so.4", RTLD_NOW | RTLD_LOCAL)) {
-    if (libreria_ == nullptr) return;
-    prendi(init, "curl_easy_init");
-    prendi(setopt, "curl_easy_setopt");
-    prendi(perform, "curl_easy_perform");
-    prendi(getinfo, "curl_easy_getinfo");
-    prendi(cleanup, "curl_easy_cleanup");
+// The few entries of libcurl that a download needs.
+struct LibreriaCurl {
+  LibreriaCurl() {
+    const Libreria libreria("libcurl.so.4");
+    libreria.prendi(init, "curl_easy_init");
+    libreria.prendi(setopt, "curl_easy_setopt");
+    libreria.prendi(perform, "curl_easy_perform");
+    libreria.prendi(getinfo, "curl_easy_getinfo");
+    libreria.prendi(cleanup, "curl_easy_cleanup");
   }
 
   [[nodiscard]] bool pronta() const { return init && setopt && perform && getinfo && cleanup; }
@@ -36,14 +35,6 @@ class LibreriaCurl {
   decltype(&curl_easy_perform) perform = nullptr;
   decltype(&curl_easy_getinfo) getinfo = nullptr;
   decltype(&curl_easy_cleanup) cleanup = nullptr;
-
- private:
-  template <class Funzione>
-  void prendi(Funzione& funzione, const char* nome) {
-    funzione = reinterpret_cast<Funzione>(::dlsym(libreria_, nome));
-  }
-
-  void* libreria_;  // never closed: TLS libraries below it do not survive being unloaded
 };
 
 struct Raccolta {
