@@ -72,5 +72,51 @@ TEST(Vaticla, RunsAsManyChecksForAnEventAsItIsTold) {
   }
 }
 
+TEST(Vaticla, JumpsToDrawsWithPredictionsAndMarksWhatHasWonBesideTheReport) {
+  ProgrammaProva p;
+  CorniceProva cornice;
+  archivioDi(150, "103 Ba 7 8, 104 Ca 7").scrivi(p);
+  scriviMetodoProva(p, "Metodo 1",
+                    {{.estrazione = 102, .ruote = {1}, .colpi = 3, .ambate = {7}},
+                     {.estrazione = 102, .ruote = {2}, .colpi = 1, .ambate = {7}},
+                     {.estrazione = 148, .ruote = {1}, .colpi = 9, .ambate = {7}}});
+  scriviMetodoProva(p, "Metodo 2",
+                    {{.estrazione = 101, .ruote = {1}, .colpi = 2, .ambi = {7, 8, 99}}, {.estrazione = 151}});
+  frmMetodo frm(p.programma, cornice);
+  frm.Form_Load();
+  const auto tono = [&] {
+    std::string toni;
+    for (const auto& rilievo : frm.RichTextBox1.Rilievi())
+      toni += std::to_string(rilievo.riga) + "VAN"[static_cast<int>(rilievo.tono)] + ' ';
+    return toni;
+  };
+  const std::string vuota = "Nessuna previsione su questa estrazione";
+  // What is done; the draw shown, the note, the lines that stand out.
+  const std::tuple<std::function<void()>, const char*, std::string, const char*> passi[] = {
+      {[] {}, "150", vuota, ""},
+      {[&] { frm.btnSeguente_Click(); }, "150", "Non ci sono previsioni dopo questa estrazione", ""},
+      {[&] { frm.btnPrecedente_Click(); }, "148", "", "7A "},
+      {[&] { frm.btnPrecedente_Click(); }, "102", "", "6V 14N "},
+      {[&] { frm.btnPrecedente_Click(); }, "101", "", "6V "},
+      {[&] { frm.btnPrecedente_Click(); }, "101", "Non ci sono previsioni prima di questa estrazione", "6V "},
+      {[&] { frm.optSelMetodo_Click(1); }, "101", vuota, ""},  // Metodo 1
+      {[&] { frm.btnSeguente_Click(); }, "102", "", "6V 14N "},
+      {[&] { frm.optSelMetodo_Click(0), frm.estrazione.VScroll1.Value(104); }, "103",
+       vuota + " · In verde i numeri che qui hanno vinto", ""}};
+  for (const auto& [fai, estrazione, nota, righe] : passi) {
+    fai();
+    EXPECT_EQ(frm.estrazione.lblnestr.Caption(), estrazione);
+    EXPECT_EQ(frm.lblNota.Caption(), nota);
+    EXPECT_EQ(tono(), righe) << estrazione;
+  }
+  const auto& bari = frm.estrazione.txtestr;
+  EXPECT_EQ(bari[0].Rilievo(),
+            "Ambo 7-8 Ba al 2°colpo (Metodo 2, estrazione 101)\n"
+            "Ambata 7 Ba al 1°colpo (Metodo 1, estrazione 102)");
+  EXPECT_EQ(bari[1].Rilievo(), "Ambo 7-8 Ba al 2°colpo (Metodo 2, estrazione 101)");
+  EXPECT_EQ(bari[2].Rilievo(), "");
+  for (const auto& campo : bari) EXPECT_EQ(campo.BackColor(), kGrigio);
+}
+
 }  // namespace
 }  // namespace vaticlo::prova

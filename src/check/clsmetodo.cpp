@@ -58,7 +58,7 @@ void clsMetodo::RiportaPrevisione(int colpi, const std::string& metodo) {
   if (ancora > 0) rapporto_.riga(" Colpi ancora in gioco: ", ancora);
   scriviGiocate(rapporto_, previsione);
   rapporto_.riga();
-  rapporto_.riga(" Esito:");
+  rapporto_.riga(kRigaEsito);
   if (ControllaColpi(colpi)) ++g_.ContaVincenti;
   rapporto_.riga(kRigaChiusura);
   previsione.lasciaGiocate();
@@ -75,10 +75,10 @@ bool clsMetodo::ControllaColpi(int colpi) {
   // One draw stricter than the play period: with all colpi played and lost, the last one on the last draw, a
   // prediction is still in play. Meant.
   if (g_.EstrazioneBase + ColpoCorrente_ <= g_.UltimaEstrazione) {
-    rapporto_.riga(" Negativo");
+    rapporto_.riga(kRigaNegativo);
   } else {
     ++g_.ContaInGioco;
-    rapporto_.riga(" In gioco");
+    rapporto_.riga(kRigaInGioco);
   }
   return false;
 }

@@ -17,6 +17,11 @@ namespace vaticlo {
 
 inline constexpr std::string_view kFileEsiti = "Esiti.txt";
 
+// The lines of an entry by which its outcome is found again.
+inline constexpr std::string_view kRigaEsito = " Esito:";
+inline constexpr std::string_view kRigaNegativo = " Negativo";
+inline constexpr std::string_view kRigaInGioco = " In gioco";
+
 /// What the check takes from its dialog.
 struct SceltaVerifica {
   SceltaMetodo metodo;

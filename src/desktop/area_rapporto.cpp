@@ -5,15 +5,50 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QSyntaxHighlighter>
+#include <QTextBlock>
+#include <algorithm>
 #include <memory>
 
 #include "desktop/carta.h"
+#include "desktop/colori.h"
 #include "desktop/salva_con_nome.h"
 
 namespace vaticlo {
 
+/// Colours the lines of the document that stand out, on the screen alone.
+class AreaRapporto::Coloritura : public QSyntaxHighlighter {
+ public:
+  explicit Coloritura(AreaRapporto& area) : QSyntaxHighlighter(area.document()), area_(area) {}
+
+  void aggiorna(const std::vector<AreaTesto::Rilievo>& rilievi) {
+    if (rilievi == rilievi_) return;
+    rilievi_ = rilievi;
+    rehighlight();
+  }
+
+ protected:
+  void highlightBlock(const QString& testo) override {
+    const int riga = currentBlock().blockNumber();
+    const auto rilievo = std::lower_bound(rilievi_.begin(), rilievi_.end(), riga,
+                                          [](const auto& a, int b) { return a.riga < b; });
+    if (rilievo == rilievi_.end() || rilievo->riga != riga) return;
+    QTextCharFormat forma;
+    forma.setForeground(coloreDi(rilievo->tono, area_.palette().color(QPalette::Base)));
+    if (rilievo->tono == Tono::Vincita) forma.setFontWeight(QFont::Bold);
+    setFormat(0, static_cast<int>(testo.size()), forma);
+  }
+
+ private:
+  AreaRapporto& area_;
+  std::vector<AreaTesto::Rilievo> rilievi_;
+};
+
 AreaRapporto::AreaRapporto(AreaTesto& modello, QWidget* padre)
-    : QPlainTextEdit(padre), modello_(modello), ricerca_(new QLineEdit(this)) {
+    : QPlainTextEdit(padre),
+      modello_(modello),
+      coloritura_(new Coloritura(*this)),
+      ricerca_(new QLineEdit(this)) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
@@ -58,6 +93,7 @@ void AreaRapporto::aggiorna() {
     mostrato_ = modello_.Text();
     setPlainText(QString::fromStdString(mostrato_));
   }
+  coloritura_->aggiorna(modello_.Rilievi());
   if (modello_.SelLength() == 0 && textCursor().hasSelection()) {
     auto cursore = textCursor();
     cursore.clearSelection();

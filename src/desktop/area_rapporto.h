@@ -9,7 +9,7 @@ class QLineEdit;
 namespace vaticlo {
 
 /// The pane that shows a report. It breaks no line; its text can be selected, copied, searched (Ctrl+F), and
-/// saved by its context menu.
+/// saved by its context menu. The colours of its lines are no part of the text.
 class AreaRapporto : public QPlainTextEdit {
  public:
   AreaRapporto(AreaTesto& modello, QWidget* padre);
@@ -27,8 +27,11 @@ class AreaRapporto : public QPlainTextEdit {
   void chiudiRicerca();
   void cerca(QTextDocument::FindFlags verso, bool dalla);
 
+  class Coloritura;
+
   AreaTesto& modello_;
   std::string mostrato_;
+  Coloritura* coloritura_;
   QLineEdit* ricerca_;
 };
 

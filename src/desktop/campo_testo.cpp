@@ -3,6 +3,10 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+
+#include "controls/pittura.h"
+#include "desktop/colori.h"
 
 namespace vaticlo {
 
@@ -39,6 +43,18 @@ void CampoTestoVista::aggiorna() {
     colori.setColor(QPalette::Text, Qt::black);
   }
   if (colori.color(QPalette::Base) != palette().color(QPalette::Base)) setPalette(colori);
+  setToolTip(QString::fromStdString(modello_.Rilievo().empty() ? modello_.esempio : modello_.Rilievo()));
+  setAccessibleDescription(QString::fromStdString(modello_.Rilievo()));
+  update();
+}
+
+void CampoTestoVista::paintEvent(QPaintEvent* evento) {
+  QLineEdit::paintEvent(evento);
+  if (modello_.Rilievo().empty()) return;
+  QPainter pittore(this);
+  const auto verde = coloreDi(Tono::Vincita, palette().color(QPalette::Base));
+  disegnaFuoco(pittore, rect(), verde);
+  disegnaFuoco(pittore, rect().adjusted(1, 1, -1, -1), verde);
 }
 
 void CampoTestoVista::focusInEvent(QFocusEvent* evento) {

@@ -20,6 +20,7 @@ class CampoTestoVista : public QLineEdit {
   void focusOutEvent(QFocusEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
   void mousePressEvent(QMouseEvent* evento) override;
+  void paintEvent(QPaintEvent* evento) override;
 
  private:
   CampoTesto& modello_;

@@ -6,6 +6,7 @@
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>
 
@@ -141,6 +142,11 @@ xpcmdbutton* Legame::pulsante(Pulsante& modello, const QString& nome) {
     widget->setVisible(modello.Visible());
   });
   connect(widget, &xpcmdbutton::Click, this, [this, &modello] { premuto(modello); });
+  if (!modello.tasto.empty()) {
+    auto* tasto = new QShortcut(QKeySequence(testo(modello.tasto)), vista_);
+    tasto->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(tasto, &QShortcut::activated, widget, [widget] { widget->click(); });
+  }
   return widget;
 }
 

@@ -51,6 +51,11 @@ QWidget* vista(const std::shared_ptr<frmMetodo>& frm, const Confine& confine) {
   sinistra->addWidget(scelta);
   sinistra->addLayout(testa);
   sinistra->addWidget(tavola, 1);
+  auto* salti = new QHBoxLayout;
+  salti->addWidget(legame->pulsante(frm->btnPrecedente, QStringLiteral("btnPrecedente")));
+  salti->addStretch(1);
+  salti->addWidget(legame->pulsante(frm->btnSeguente, QStringLiteral("btnSeguente")));
+  sinistra->addLayout(salti);
 
   auto* area = legame->area(frm->RichTextBox1, QStringLiteral("RichTextBox1"));
   area->setAccessibleName(QStringLiteral("Esiti delle previsioni"));
@@ -63,6 +68,7 @@ QWidget* vista(const std::shared_ptr<frmMetodo>& frm, const Confine& confine) {
   auto* destra = new QVBoxLayout;
   destra->setSpacing(10);
   destra->addWidget(contatori(*legame, *frm));
+  destra->addWidget(legame->etichetta(frm->lblNota, QStringLiteral("lblNota")));
   destra->addWidget(area, 1);
   destra->addLayout(pulsanti);
 

@@ -1,10 +1,27 @@
 #include "dialogs/frm_metodo.h"
 
 #include "check/clsmetodo.h"
+#include "check/righe_di_esito.h"
 #include "dialogs/ricerca_estrazione.h"
 #include "platform/rapporto.h"
 
 namespace vaticlo {
+
+namespace {
+
+Tono tonoDi(RigaDiEsito::Tipo tipo) {
+  switch (tipo) {
+    case RigaDiEsito::Tipo::Negativo:
+      return Tono::Negativo;
+    case RigaDiEsito::Tipo::InGioco:
+      return Tono::Attesa;
+    case RigaDiEsito::Tipo::Vincita:
+      break;
+  }
+  return Tono::Vincita;
+}
+
+}  // namespace
 
 frmMetodo::frmMetodo(Programma& programma, Cornice& cornice)
     : Finestra(cornice), metodo(programma.cartella), programma_(programma) {
@@ -24,6 +41,10 @@ frmMetodo::frmMetodo(Programma& programma, Cornice& cornice)
   metodo.cmbMetodo.Click = [this] { cmbMetodo_Click(); };
   estrazione.VScroll1.Change = [this] { VScroll1_Change(); };
   btnTrova.Click = [this] { btnTrova_Click(); };
+  btnPrecedente.Click = [this] { btnPrecedente_Click(); };
+  btnPrecedente.tasto = "Ctrl+PgUp";
+  btnSeguente.Click = [this] { btnSeguente_Click(); };
+  btnSeguente.tasto = "Ctrl+PgDown";
   btnStampa.Click = [this] { btnStampa_Click(); };
   btnAnnulla.Click = [this] { btnAnnulla_Click(); };
 }
@@ -35,6 +56,7 @@ void frmMetodo::Form_Load() {
 }
 
 void frmMetodo::archivioNuovo() {
+  previsioni_.reset();
   mostraUltima();
   if (programma_.globals.UltimaEstrazione > 0) VScroll1_Change();
 }
@@ -69,6 +91,22 @@ void frmMetodo::btnTrova_Click() {
   cercaEstrazione(programma_, estrazione.VScroll1, estrazione, [this](int x) { visualizza(x); });
 }
 
+void frmMetodo::btnPrecedente_Click() {
+  vaiA(previsioni().prima(estrazioneDellaBarra(estrazione.VScroll1)), "prima di");
+}
+
+void frmMetodo::btnSeguente_Click() {
+  const auto trovata = previsioni().dopo(estrazioneDellaBarra(estrazione.VScroll1));
+  vaiA(trovata < estrazione.VScroll1.Max() ? trovata : std::nullopt, "dopo");
+}
+
+void frmMetodo::vaiA(std::optional<int> trovata, const char* dove) {
+  if (trovata > 0)
+    estrazione.VScroll1.Value(*trovata + 1);
+  else
+    lblNota.Caption(std::string("Non ci sono previsioni ") + dove + " questa estrazione");
+}
+
 void frmMetodo::btnStampa_Click() {
   if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Genere::Domanda}) != Risposta::Si)
     return;
@@ -89,6 +127,42 @@ void frmMetodo::verifica() {
   txtgiocabili.Text(std::to_string(g.ContaGiocabili));
   txtingioco.Text(std::to_string(g.ContaInGioco));
   RichTextBox1.Text(testoRapporto(programma_.cartella.file(kFileEsiti)));
+  rileva();
+}
+
+void frmMetodo::rileva() {
+  std::vector<AreaTesto::Rilievo> rilievi;
+  for (const auto& [riga, tipo] : righeDiEsito(RichTextBox1.Text())) rilievi.push_back({riga, tonoDi(tipo)});
+  RichTextBox1.Rilievi(std::move(rilievi));
+
+  const auto archivio = ApriArchivio(programma_.cartella);
+  const int mostrata = programma_.globals.EstrazioneBase;
+  std::array<std::string, kCampiEstrazione> perche;
+  for (const auto& vincente : previsioni().vincentiIn(archivio, mostrata))
+    for (int k = 1; k <= ArchivioEstrazioni::Colonne; ++k) {
+      if (vincente.ruota < 1 || archivio(mostrata, vincente.ruota, k) != vincente.numero) continue;
+      auto& campo =
+          perche.at(static_cast<std::size_t>((vincente.ruota - 1) * ArchivioEstrazioni::Colonne + k - 1));
+      if (campo.find(vincente.vincita) == std::string::npos)
+        campo += (campo.empty() ? "" : "\n") + vincente.vincita;
+    }
+  bool vincenti = false;
+  for (std::size_t f = 0; f < perche.size(); ++f) {
+    vincenti = vincenti || !perche[f].empty();
+    estrazione.txtestr[f].Rilievo(std::move(perche[f]));
+  }
+  std::string nota = programma_.globals.ContaGiocabili == 0 ? "Nessuna previsione su questa estrazione" : "";
+  if (vincenti) nota += (nota.empty() ? "" : " · ") + std::string("In verde i numeri che qui hanno vinto");
+  lblNota.Caption(std::move(nota));
+}
+
+const PrevisioniPerEstrazione& frmMetodo::previsioni() {
+  const auto scelta = metodo.scelta();
+  if (!previsioni_ || scelta != scelta_) {
+    scelta_ = scelta;
+    previsioni_.emplace(programma_.cartella, scelta_);
+  }
+  return *previsioni_;
 }
 
 }  // namespace vaticlo

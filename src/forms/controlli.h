@@ -76,6 +76,7 @@ class CampoTesto : public Controllo {
   Proprieta<std::string> Text{*this, ""};
   Proprieta<std::string> Mask{*this, ""};  ///< "##": two digits at most; empty: anything
   Proprieta<int> BackColor{*this, kSfondoNormale};
+  Proprieta<std::string> Rilievo{*this, ""};  ///< why the text stands out; empty: it does not
   /// Takes the mask away and shows the text.
   void mostra(std::string testo) {
     Mask("");
@@ -89,10 +90,20 @@ class CampoTesto : public Controllo {
   std::function<bool()> Validate;
 };
 
+/// What a figure or a line says to whoever waits for a win.
+enum class Tono { Vincita, Attesa, Negativo };
+
 /// A pane that shows a whole text (UTF-8, lines ended by "\n").
 class AreaTesto : public Controllo {
  public:
+  struct Rilievo {
+    int riga = 0;  ///< from 0
+    Tono tono = Tono::Vincita;
+    bool operator==(const Rilievo&) const = default;
+  };
+
   Proprieta<std::string> Text{*this, ""};
+  Proprieta<std::vector<Rilievo>> Rilievi{*this, {}};  ///< its lines that stand out, in order
   Proprieta<int> SelLength{*this, 0};  ///< how much of it the user has selected; 0 reduces it to nothing
 };
 
@@ -104,6 +115,7 @@ class Pulsante : public Controllo {
   Proprieta<std::string> Caption{*this, ""};
   Proprieta<std::string> ToolTipText{*this, ""};
   bool CausesValidation = true;  ///< going to it lets the field that is left validate itself
+  std::string tasto;             ///< a key that presses it from anywhere in its window: "Ctrl+PgUp"
   std::function<void()> Click;
 };
 

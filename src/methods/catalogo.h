@@ -11,6 +11,7 @@ namespace vaticlo {
 struct SceltaMetodo {
   bool tutti = true;
   std::string nome;
+  bool operator==(const SceltaMetodo&) const = default;
 };
 
 /// What the listing does with a file whose name has no ".dat" in it.

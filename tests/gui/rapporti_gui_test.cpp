@@ -6,6 +6,7 @@
 #include <QProgressDialog>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTimer>
 #include <QToolTip>
 #include <thread>
@@ -71,6 +72,20 @@ class RapportiGuiTest : public QObject {
     v.scrivi("x");
     v.premi(Qt::Key_Escape);
     QCOMPARE(v.fuoco(), QString("RichTextBox1"));
+  }
+
+  void aKeyJumpsToADrawWithPredictionsWhoseOutcomeStandsOut() {
+    Rapporto v;
+    v.usa<QScrollBar>("VScroll1").setValue(120);
+    QCOMPARE(v.testo("lblNota"), QString("Nessuna previsione su questa estrazione"));
+    for (const auto tasto : {Qt::Key_PageDown, Qt::Key_PageUp})
+      v.premi(tasto, Qt::ControlModifier);  // the pane has the focus
+    QCOMPARE(v.testo("lblnestr"), QString("149"));
+    const auto riga = v.area->document()->find(" In gioco", 0, QTextDocument::FindCaseSensitively).block();
+    QCOMPARE(riga.layout()->formats().size(), 1);
+    const auto colore = riga.layout()->formats()[0].format.foreground().color();
+    QVERIFY(colore != v.area->palette().color(QPalette::Text));
+    QCOMPARE(riga.charFormat().foreground().style(), Qt::NoBrush);  // of the text itself
   }
 
   void itsMenuSavesTheWholeText() {
