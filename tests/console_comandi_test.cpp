@@ -92,6 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Caso{"Version", "--version", 0, "vaticlo-cli 0.1.0\n"},
         Caso{"UnknownCommand", "verfica 1", 2, "", "verfica (forse verifica?)"},
+        Caso{"MistypedFlag", "--versoin", 2, "", "--versoin (forse --version?)"},
         Caso{"NothingNear", "nulla 1", 2, "", "comando sconosciuto: nulla\n"},
         Caso{"UnknownOption", "previsione elenco Mio --spu 1", 2, "", "--spu 1\n"},
         Caso{"MistypedOption", "previsione inserisci Mio --estrazione 2 --ruote Ba --spu 1-2", 2, "",

@@ -54,7 +54,10 @@ std::string cheManca(const CLI::App& comando) {
   if (comando.get_require_subcommand_min() > 0) {
     const auto parole = comando.remaining();
     if (parole.empty()) return "manca il comando";
-    return "comando sconosciuto: " + parole.front() + forse(parole.front(), nomiDeiComandi(comando));
+    const auto& parola = parole.front();
+    if (parola.starts_with("--"))
+      return "opzione sconosciuta: " + parola + forse(parola, nomiDelleOpzioni(comando, comando));
+    return "comando sconosciuto: " + parola + forse(parola, nomiDeiComandi(comando));
   }
   for (const auto* opzione : comando.get_options())
     if (opzione->get_required() && opzione->count() == 0) return "manca " + opzione->get_name();

@@ -1,5 +1,6 @@
 #include "desktop/elenco_vista.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -98,6 +99,7 @@ void ElencoVista::leggiVoci() {
 }
 
 void ElencoVista::scegli(int indice) {
+  QToolTip::hideText();
   confine_.esegui([&] { modello_.scegli(indice); });
 }
 
@@ -148,8 +150,8 @@ void ElencoVista::offri(const QString& digitato) {
   QStringList simili;
   for (int n = 0; n < count() && !digitato.isEmpty(); ++n)
     if (itemText(n).startsWith(digitato, Qt::CaseInsensitive)) simili << itemText(n);
-  if (simili.isEmpty() && modello_.Nota)
-    QToolTip::showText(mapToGlobal(rect().bottomLeft()), perSuggerimento(testo(modello_.Nota())), this);
+  const auto nota = simili.isEmpty() && modello_.Nota ? testo(modello_.Nota()) : QString();
+  QToolTip::showText(mapToGlobal(rect().bottomLeft()), perSuggerimento(nota), this);  // none: it goes
   if (simili.isEmpty() || simili == QStringList(digitato)) return;
   // A window that takes neither the focus nor the mouse: a click elsewhere is a click there.
   suggerimenti_ = new QListWidget(this);
@@ -169,6 +171,17 @@ void ElencoVista::offri(const QString& digitato) {
     scegli(findText(scelto, Qt::MatchExactly));
   });
   suggerimenti_->show();
+  qApp->installEventFilter(this);
+}
+
+// What is offered stands in a window of its own, which does not move with this one.
+bool ElencoVista::eventFilter(QObject* oggetto, QEvent* evento) {
+  const auto* widget = qobject_cast<const QWidget*>(oggetto);
+  const bool altrove =
+      evento->type() == QEvent::MouseButtonPress && widget != nullptr && widget->window() != suggerimenti_;
+  const bool spostata = evento->type() == QEvent::Move && oggetto == window();
+  if (altrove || spostata) delete suggerimenti_;
+  return QComboBox::eventFilter(oggetto, evento);
 }
 
 bool ElencoVista::neiSuggerimenti(const QKeyEvent& tasto) {

@@ -24,6 +24,7 @@ class ElencoVista : public QComboBox {
 
  protected:
   bool event(QEvent* evento) override;
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
   void keyPressEvent(QKeyEvent* tasto) override;
   void wheelEvent(QWheelEvent* evento) override;
   void focusOutEvent(QFocusEvent* evento) override;

@@ -7,6 +7,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QStyle>
@@ -59,6 +60,14 @@ class Figlia : public QMdiSubWindow {
   // A window that is hidden, to be shown in another size or to close, does not hand its focus round.
   bool focusNextPrevChild(bool next) override {
     return isVisible() && QMdiSubWindow::focusNextPrevChild(next);
+  }
+  // The toolkit notices the second move over a box of the title: a pointer that has jumped there from the
+  // title, as behind a drag, would press nothing.
+  void mousePressEvent(QMouseEvent* evento) override {
+    QMouseEvent sopra(QEvent::MouseMove, evento->position(), evento->globalPosition(), Qt::NoButton,
+                      Qt::NoButton, evento->modifiers());
+    QMdiSubWindow::mouseMoveEvent(&sopra);
+    QMdiSubWindow::mousePressEvent(evento);
   }
 
  private:

@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTextBrowser>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "gui/finestra_prova.h"
@@ -90,13 +91,21 @@ class ElenchiGuiTest : public QObject {
       }
       QCOMPARE(v.testo("cmbMetodo"), QString(testo));
     }
-    lista.lineEdit()->selectAll();
-    v.scrivi("ZE");  // is offered "Zeta", and stays as it is unless that is taken
-    auto* offerti = lista.findChild<QListWidget*>("suggerimenti");
-    QVERIFY(offerti && offerti->isVisible() && offerti->count() == 1);
-    v.premi(Qt::Key_Tab);
-    QCOMPARE(v.testo("cmbMetodo"), QString("ZE"));
-    QVERIFY(lista.findChild<QListWidget*>("suggerimenti") == nullptr);
+    QCOMPARE(QToolTip::text(), QString("Non c'è nessun metodo di nome \"abxetodo2\""));
+    const std::function<void()> via[] = {[&] { v.premi(Qt::Key_Tab); },
+                                         [&] { QTest::mouseClick(&v.visibile("lblnestr"), Qt::LeftButton); },
+                                         [&] { v.finestra.move(v.finestra.pos() + QPoint(5, 5)); }};
+    for (const auto& gesto : via) {
+      lista.setFocus();
+      lista.lineEdit()->selectAll();
+      v.scrivi("ZE");  // is offered "Zeta", and stays as it is unless that is taken
+      QTRY_VERIFY(!QToolTip::isVisible());
+      auto* offerti = lista.findChild<QListWidget*>("suggerimenti");
+      QVERIFY(offerti && offerti->isVisible() && offerti->count() == 1);
+      gesto();
+      QCOMPARE(v.testo("cmbMetodo"), QString("ZE"));
+      QVERIFY(lista.findChild<QListWidget*>("suggerimenti") == nullptr);
+    }
     lista.setFocus();
     lista.lineEdit()->selectAll();
     v.scrivi("ze");

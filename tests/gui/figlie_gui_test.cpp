@@ -48,6 +48,7 @@ class FiglieGuiTest : public QObject {
                                        {"mnu1metodo1", QRect(33, 6, 693, 519)},
                                        {"mnuGestione21", QRect(133, 66, 862, 598)},
                                        {"mnuGestione22", QRect(133, 66, 862, 598)},
+                                       {"mnuGestione12", QRect(233, 60, 360, 220)},
                                        {"mnuUtility1", QRect(200, 66, 509, 475)},
                                        {"mnuUtility2", QRect(200, 66, 509, 475)},
                                        {"mnuUtility3", QRect(3, 33, 777, 442)},

@@ -173,6 +173,7 @@ class StatisticaGuiTest : public QObject {
     QCOMPARE(QString::fromStdString(v.p.servizi.stampati.at(0)), v.testo("RichTextBox1"));
     v.premi(Qt::Key_N, Qt::AltModifier);
     QCOMPARE(v.figlia().windowTitle(), QString("Previsioni ancora in gioco"));
+    QCOMPARE(v.figlia().geometry(), QRect(166, 80, 583, 336));
     QVERIFY(v.testo("RichTextBox1").contains(" Colpi ancora in gioco: 1\n"));
 
     auto& area = *v.finestra.findChild<QMdiArea*>();
