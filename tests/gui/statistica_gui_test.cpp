@@ -1,6 +1,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QToolBar>
 
 #include "gui/finestra_prova.h"
@@ -143,6 +144,12 @@ class StatisticaGuiTest : public QObject {
       v.premi(Qt::Key_Tab);
       QCOMPARE(v.testo("txtestr_0"), QString(numero));
     }
+    v.premi(Qt::Key_A, Qt::ControlModifier);
+    v.scrivi("9");
+    v.clicca("DTInizio");
+    v.scrivi("01.02.1899");
+    v.premi(Qt::Key_Tab);
+    QCOMPARE(v.testo("txtestr_0"), QString("9"));  // the date that stood there is no change
     v.clicca("DTFine");
     for (const char* giorno : {"14/3/2026", "15/3/2026", "14/3/2062"}) {
       v.scrivi(giorno);
@@ -168,7 +175,10 @@ class StatisticaGuiTest : public QObject {
     v.clicca("btnElabora");
     QCOMPARE(v.stato(), QString("RichTextBox1 Elabora Vincite Prev Stampa Cancella menu"));
     QVERIFY(v.testo("RichTextBox1").contains("Previsioni Giocabili: 3\n"));
+    auto& totali = v.usa<QPlainTextEdit>("RichTextBox1");
+    totali.selectAll();
     v.clicca("btnStampa");
+    QVERIFY(!totali.textCursor().hasSelection());
     QCOMPARE(v.detti(), QStringList("[Ambolino] Stampo la statistica?"));
     QCOMPARE(QString::fromStdString(v.p.servizi.stampati.at(0)), v.testo("RichTextBox1"));
     v.premi(Qt::Key_N, Qt::AltModifier);
