@@ -23,6 +23,8 @@ TEST_P(Comandi, SayHowTheyWent) {
   const std::string riga = "2005/01/08\tBA\t1\t2\t3\t4\t5\r\n";
   p.scrivi("uno.txt", riga);
   p.scrivi("due.txt", riga + riga);
+  p.scrivi("nuove.txt", "2005/03/15\tNA\t1\t2\t3\t4\t5\n2005/03/17\tNA\t1\t2\t3\t4\t5\n");
+  p.scrivi("diversa.txt", "2005/03/12\tBA\t1\t2\t4\t8\t16\n2005/03/15\tNA\t1\t2\t3\t4\t5\n");
   archivioDi(3, "2 Ba 1 2 4 8 16,2 Naz 7").scrivi(p);
   scriviMetodoProva(p, "Mio", {});
   esegui(
@@ -58,6 +60,21 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{"Imported", "importa @/uno.txt", 0, "Importate 1 estrazioni, dal 8/1/2005 al 8/1/2005\n"},
         Caso{"ImportOfAWrongLine", "importa @/due.txt", 2, "", "due.txt, riga 2: la ruota BA"},
         Caso{"ImportOfNothing", "importa @/manca.txt", 2, "", "file non trovato"},
+        Caso{"Added", "aggiungi @/nuove.txt", 0, "Aggiunte 2 estrazioni, dal 15/3/2005 al 17/3/2005\n",
+             "dopo l'ultima estrazione dell'archivio"},
+        Caso{"NothingToAdd", "aggiungi @/uno.txt", 0, "Nessuna estrazione nuova\n", "finisce il 8/1/2005"},
+        Caso{"AddedTextContradicts", "aggiungi @/diversa.txt", 3,
+             "12/3/2005 Ba: archivio nessun numero, testo 1 2 4 8 16\n"
+             "12/3/2005 Naz: archivio 7 0 0 0 0, testo nessun numero\n"
+             "12/3/2005 Ba: archivio nessun numero, testo 1 2 4 8 16\n",
+             "--accetta-differenze"},
+        Caso{"AddedAllTheSame", "aggiungi @/diversa.txt --accetta-differenze", 0,
+             "Aggiunte 1 estrazioni, dal 15/3/2005 al 15/3/2005\n"},
+        Caso{"AddedFromAWrongText", "aggiungi @/due.txt", 2, "", "due.txt, riga 2: la ruota BA"},
+        Caso{"AddedFromNowhere", "aggiungi --da http://127.0.0.1:1/", 3,
+             "[Aggiungi Estrazioni] Le estrazioni non si possono scaricare: il server non risponde. "
+             "L'archivio è rimasto com'era.\n"},
+        Caso{"AddedFromTwoPlaces", "aggiungi @/uno.txt --da http://127.0.0.1:1/", 2, "", "non tutti e due"},
         Caso{"NoDemonstrationOverDraws", "dimostrazione", 3,
              "[Attenzione] La cartella contiene già estrazioni o previsioni: la dimostrazione non le "
              "tocca.\n"}),

@@ -20,7 +20,7 @@ int ArchivioEstrazioni::PrimoIndiceLibero() const {
                  "L'archivio è pieno: contiene 15.000 estrazioni, una più di quante se ne possono mostrare.",
              .rimedio =
                  "Rimettete al suo posto una copia di archivion71.dat, oppure costruite l'archivio con "
-                 "Utility > Importa Estrazioni da File.",
+                 "Archivio > Importa Estrazioni da File.",
              .capitolo = "Il resto"});
   return static_cast<int>(libero - giorni.begin()) + 1;
 }

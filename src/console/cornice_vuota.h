@@ -12,6 +12,8 @@ class CorniceVuota : public Cornice {
   void riapri(Finestra& /*finestra*/) override {}
   void apriRisultati() override {}
   void lavoro(bool /*inCorso*/) override {}
+  void archivioNuovo() override {}
+  void estrazioniAggiunte() override {}
 };
 
 }  // namespace vaticlo

@@ -107,7 +107,7 @@ void aggiungiParametri(CLI::App& app, const Comando& comando) {
     }
     auto* opzione = app.add_option(parametro.nome)->description(parametro.aiuto)->type_name(parametro.tipo);
     opzione->expected(parametro.quanti)->allow_extra_args(parametro.quanti > 1);
-    opzione->required(parametro.necessario || !parametro.nome.starts_with("--"));
+    opzione->required(parametro.necessario || (!parametro.nome.starts_with("--") && !parametro.facoltativo));
     if (!parametro.predefinito.empty()) opzione->default_str(parametro.predefinito);
   }
 }

@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "console/barra.h"
 #include "platform/orologio.h"
 #include "platform/scaricamento.h"
 
@@ -23,6 +24,17 @@ void ServiziConsole::stampa(const std::string& /*testo*/) {}
 bool ServiziConsole::scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) {
   return scaricaInFile(indirizzo, destinazione);
 }
+
+Scaricato ServiziConsole::preleva(const std::string& indirizzo, std::int64_t seModificatoDopo) {
+  BarraSuTerminale barra;
+  LimitiScaricamento limiti;
+  limiti.avanzamento = [&barra](int percento) { barra.mostra(percento, 100); };
+  auto scaricato = scaricaInMemoria(indirizzo, seModificatoDopo, limiti);
+  barra.togli();
+  return scaricato;
+}
+
+void ServiziConsole::segnala(const std::string& testo) { std::cerr << testo << '\n'; }
 
 void ServiziConsole::apriPagina(const std::string& /*indirizzo*/) {}
 

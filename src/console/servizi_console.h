@@ -8,7 +8,8 @@
 namespace vaticlo {
 
 /// The services of a program without windows: messages go to standard output, a Yes/No question is answered
-/// Yes and not printed, an input box gets the text prepared for it.
+/// Yes and not printed, an input box gets the text prepared for it; what is said in passing goes to standard
+/// error.
 class ServiziConsole : public Servizi {
  public:
   Risposta mostra(const Messaggio& messaggio) override;
@@ -17,6 +18,8 @@ class ServiziConsole : public Servizi {
   void avanzamento(const std::string& /*lavoro*/, int /*percento*/) override {}
   void stampa(const std::string& testo) override;
   bool scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) override;
+  Scaricato preleva(const std::string& indirizzo, std::int64_t seModificatoDopo) override;
+  void segnala(const std::string& testo) override;
   void apriPagina(const std::string& indirizzo) override;
   [[nodiscard]] std::chrono::year_month_day oggi() const override;
   void eventiInAttesa() override;

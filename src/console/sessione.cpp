@@ -46,7 +46,7 @@ void Sessione::controllaCartella(const Comando& comando) const {
   std::error_code ignorato;
   if (!comando.creaCartella && !fs::is_directory(*cartella_, ignorato))
     throw UsoErrato("la cartella \"" + *cartella_ +
-                    "\" non esiste; la creano importa, inserisci, metodo crea e dimostrazione");
+                    "\" non esiste; la creano importa, aggiungi, inserisci, metodo crea e dimostrazione");
 }
 
 Esito Sessione::esegui(const std::vector<std::string>& parole) {

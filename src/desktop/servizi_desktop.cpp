@@ -29,6 +29,7 @@ namespace {
 
 constexpr int kAttesaSuggerimento = 250, kDurataSuggerimento = 10'000;  // milliseconds
 constexpr int kAttesaAvanzamento = 300;  // milliseconds; what is done sooner shows no box
+constexpr int kPassoAvanzamento = 100;   // milliseconds
 
 QString qt(const std::string& testo) { return QString::fromStdString(testo); }
 
@@ -122,14 +123,26 @@ void ServiziDesktop::stampa(const std::string& testo) {
 }
 
 bool ServiziDesktop::scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) {
-  // The transfer has a thread of its own, so that the screen stays painted; the box over the windows keeps
-  // every other command away until the end.
+  bool riuscito = false;
+  inDisparte([&](const auto& limiti) { riuscito = scaricaInFile(indirizzo, destinazione, limiti); });
+  return riuscito;
+}
+
+Scaricato ServiziDesktop::preleva(const std::string& indirizzo, std::int64_t seModificatoDopo) {
+  Scaricato scaricato;
+  inDisparte([&](const auto& limiti) { scaricato = scaricaInMemoria(indirizzo, seModificatoDopo, limiti); });
+  return scaricato;
+}
+
+// The transfer has a thread of its own, so that the screen stays painted; the box over the windows keeps
+// every other command away until the end.
+void ServiziDesktop::inDisparte(const std::function<void(const LimitiScaricamento&)>& scarica) {
   std::atomic<bool> fermato = false;
-  std::atomic<bool> riuscito = false;
+  std::atomic<int> percento = 0;
   LimitiScaricamento limiti;
   limiti.interrotto = [&fermato] { return fermato.load(); };
-  const std::unique_ptr<QThread> lavoro(
-      QThread::create([&] { riuscito = scaricaInFile(indirizzo, destinazione, limiti); }));
+  limiti.avanzamento = [&percento](int fatto) { percento = fatto; };
+  const std::unique_ptr<QThread> lavoro(QThread::create([&] { scarica(limiti); }));
   QApplication::setOverrideCursor(Qt::WaitCursor);
   QEventLoop attesa;
   QObject::connect(lavoro.get(), &QThread::finished, &attesa, &QEventLoop::quit);
@@ -142,15 +155,25 @@ bool ServiziDesktop::scarica(const std::string& indirizzo, const std::filesystem
     box.setWindowTitle(QApplication::applicationName());
     box.setWindowModality(Qt::ApplicationModal);
     box.setMinimumDuration(0);
+    box.setAutoClose(false);
+    box.setAutoReset(false);
     QObject::connect(&box, &QProgressDialog::canceled, &box, [&fermato] { fermato = true; });
     QObject::connect(lavoro.get(), &QThread::finished, &box, &QDialog::accept);
+    QTimer passo;
+    QObject::connect(&passo, &QTimer::timeout, &box, [&box, &percento] {
+      if (percento == 0) return;  // until then the bar only shows that something is going on
+      box.setMaximum(100);
+      box.setValue(percento);
+    });
+    passo.start(kPassoAvanzamento);
     if (!lavoro->isFinished()) box.exec();
     fermato = true;
   }
   lavoro->wait();
   QApplication::restoreOverrideCursor();
-  return riuscito;
 }
+
+void ServiziDesktop::segnala(const std::string& testo) { suggerisci(qt(testo)); }
 
 void ServiziDesktop::apriPagina(const std::string& indirizzo) {
   QDesktopServices::openUrl(QUrl(qt(indirizzo)));

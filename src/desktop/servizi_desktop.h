@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "platform/servizi.h"
@@ -8,6 +9,8 @@ class QProgressDialog;
 class QWidget;
 
 namespace vaticlo {
+
+struct LimitiScaricamento;
 
 /// The services of the desktop: message boxes, input boxes, the default printer, the network, the browser.
 class ServiziDesktop : public Servizi {
@@ -21,6 +24,8 @@ class ServiziDesktop : public Servizi {
   void avanzamento(const std::string& lavoro, int percento) override;
   void stampa(const std::string& testo) override;
   bool scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) override;
+  Scaricato preleva(const std::string& indirizzo, std::int64_t seModificatoDopo) override;
+  void segnala(const std::string& testo) override;
   void apriPagina(const std::string& indirizzo) override;
   [[nodiscard]] std::chrono::year_month_day oggi() const override;
   void eventiInAttesa() override;
@@ -30,6 +35,8 @@ class ServiziDesktop : public Servizi {
   void padre(QWidget* padre) { padre_ = padre; }
 
  private:
+  void inDisparte(const std::function<void(const LimitiScaricamento&)>& scarica);
+
   QWidget* padre_ = nullptr;
   std::unique_ptr<QProgressDialog> lavoro_;
 };

@@ -16,6 +16,9 @@ class frmInsPrev : public Finestra {
 
   void Form_Load() override;
   void archivioNuovo() override;
+  void estrazioniAggiunte() override {
+    if (!modifica_) archivioNuovo();
+  }
   void VScroll1_Change();
   void cmbMetodo_Click();
   void cmbMetodo_Change();

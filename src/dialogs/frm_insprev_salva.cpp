@@ -1,5 +1,6 @@
 #include "dialogs/frm_insprev.h"
 #include "methods/cartella_metodi.h"
+#include "operations/copie.h"
 #include "platform/blocco.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"
@@ -40,6 +41,7 @@ bool frmInsPrev::salva() {
     if (!data) throw RuntimeFailure(Errore::TipoNonCorrispondente);
     scriviEstrazione(metodo, slot, inIntero16(estrazione.lblnestr.Caption()), *data);
     scriviTesti(metodo, slot, testi());
+    if (modifica_) faiCopia(programma_, GenereCopia::Metodi);
     ScriviMetodo(programma_.cartella, cmbMetodo.Text(), metodo);
     return true;
   } catch (const RifiutoPrevisione& rifiuto) {

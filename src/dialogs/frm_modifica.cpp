@@ -1,6 +1,7 @@
 #include "dialogs/frm_modifica.h"
 
 #include "dialogs/ricerca_estrazione.h"
+#include "operations/copie.h"
 #include "platform/conversione.h"
 
 namespace vaticlo {
@@ -48,6 +49,7 @@ void frmModifica::btnCancella_Click() {
       programma_.servizi.mostra({"Sei sicuro di voler cancellare l'estrazione selezionata", "Attenzione",
                                  Genere::Domanda, Icona::Nessuna, Risposta::No});
   if (risposta != Risposta::Si) return;
+  faiCopia(programma_, GenereCopia::Archivio);
   clsGestione(programma_.cartella, programma_.servizi)
       .cancella(estrazione, inIntero16(estrazione.lblnestr.Caption()));
   cornice().riapri(*this);

@@ -13,6 +13,7 @@ class frmModifica : public Finestra {
 
   void Form_Load() override;
   void archivioNuovo() override { btnAnnulla_Click(); }
+  void estrazioniAggiunte() override { Form_Activate(); }
   void Form_Activate() override;
   void VScroll1_Change();
   void btnSalva_Click();

@@ -147,6 +147,11 @@ void frmPrincipale::archivioNuovo() {
   for (const auto& aperta : aperte) aperta.finestra->archivioNuovo();
 }
 
+void frmPrincipale::estrazioniAggiunte() {
+  const auto aperte = finestre_;
+  for (const auto& aperta : aperte) aperta.finestra->estrazioniAggiunte();
+}
+
 void frmPrincipale::esci() {
   if (vista_ != nullptr) vista_->chiudiPrincipale();
 }

@@ -77,8 +77,8 @@ class frmPrincipale : public Cornice {
       if (auto* trovata = dynamic_cast<F*>(aperta.finestra.get())) return trovata;
     return nullptr;
   }
-  /// The archive was replaced as a whole: the open windows are told.
-  void archivioNuovo();
+  void archivioNuovo() override;
+  void estrazioniAggiunte() override;
   void apriGuida();
   void esci();
   void chiudiTutte(const Finestra* tranne = nullptr);

@@ -20,6 +20,9 @@ class Cornice {
   virtual void apriRisultati() = 0;
   /// Long work begins or ends in one of the windows: meanwhile the main window takes no command.
   virtual void lavoro(bool inCorso) = 0;
+  /// The archive was replaced as a whole; draws were added at its end: the open windows are told.
+  virtual void archivioNuovo() = 0;
+  virtual void estrazioniAggiunte() = 0;
 };
 
 /// Size of a child window and its place beside the main window's top left corner, in twips (15 are a pixel at
@@ -43,6 +46,9 @@ class Finestra {
   /// The archive was replaced as a whole. A window that could write one of the old draws closes, one that
   /// works with the draws takes the new last one.
   virtual void archivioNuovo() {}
+  /// Draws were added at the end of the archive; all others are as they were. A window that works with the
+  /// draws takes the new last one.
+  virtual void estrazioniAggiunte() { archivioNuovo(); }
   /// Long work is under way inside one of its events: it can't be closed and no other window opened.
   [[nodiscard]] virtual bool occupata() const { return false; }
   /// Asks such work to end soon.

@@ -1,12 +1,14 @@
 #include "operations/aggiornamento.h"
 
 #include "archive/archivio.h"
+#include "operations/copie.h"
 
 namespace vaticlo {
 
 std::string indirizzoArchivio() { return VATICLO_SERVER_ARCHIVIO; }
 
 bool aggiornaArchivio(Programma& programma, const std::string& indirizzo) {
+  faiCopia(programma, GenereCopia::Archivio);
   const bool riuscito = programma.servizi.scarica(indirizzo, programma.cartella.file(kFileArchivio));
   if (riuscito)
     programma.servizi.mostra({"Aggiornamento avvenuto"});

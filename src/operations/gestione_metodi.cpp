@@ -7,6 +7,7 @@
 
 #include "methods/cartella_metodi.h"
 #include "methods/metodo.h"
+#include "operations/copie.h"
 #include "operations/un_passo.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
@@ -52,6 +53,7 @@ bool GestioneMetodi::rinomina(const std::string& nome, const std::string& nuovo)
     const std::string pulito(senzaBlanchi(nuovo));
     richiediMetodo(programma_, nome);
     richiediAmmesso(pulito, std::string(senzaBlanchi(nome)));
+    faiCopia(programma_, GenereCopia::Metodi);
     rinominaFile(fileMetodo(programma_.cartella, nome), fileMetodo(programma_.cartella, pulito));
   });
 }
@@ -59,6 +61,7 @@ bool GestioneMetodi::rinomina(const std::string& nome, const std::string& nuovo)
 bool GestioneMetodi::elimina(const std::string& nome) {
   return inUnPasso(programma_, [&] {
     richiediMetodo(programma_, nome);
+    faiCopia(programma_, GenereCopia::Metodi);
     std::error_code codice;
     fs::remove(fileMetodo(programma_.cartella, nome), codice);
     if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nome);

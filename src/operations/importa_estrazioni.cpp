@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "operations/copie.h"
 #include "platform/blocco.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
@@ -15,32 +16,13 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kTitolo = "Importa Estrazioni da File";
-constexpr const char* kNumeri =
-    "Le previsioni indicano le estrazioni con il loro numero: dove i numeri cambiano, varranno per altre "
-    "estrazioni.";
-constexpr const char* kLavoro = "Importazione delle estrazioni in corso...";
-
-std::optional<ArchivioEstrazioni> importa(Servizi& servizi, const fs::path& file) {
-  std::string motivo;
-  try {
-    return leggiEstrazioni(file, [&servizi](int percento) { servizi.avanzamento(kLavoro, percento); });
-  } catch (const ErroreImportazione& errore) {
-    motivo = errore.what();
-  } catch (const RuntimeFailure& failure) {
-    motivo = failure.what();
-  }
-  servizi.avanzamento(kLavoro, 100);
-  servizi.mostra({"Il file \"" + file.filename().string() + "\" non è stato importato!\n\n" + motivo +
-                      "\n\nL'archivio è rimasto com'era.",
-                  kTitolo, Genere::Rifiuto, Icona::Esclamazione});
-  return std::nullopt;
-}
+constexpr const char* kLavoro = "Lettura delle estrazioni in corso...";
 
 // False when there are draws that nobody gave up.
-bool scrivi(const CartellaProgramma& cartella, const ArchivioEstrazioni& nuovo, bool sostituire) {
-  const BloccoCartella blocco(cartella.radice());
-  if (!sostituire && ApriArchivio(cartella)(1, 0, 1) != 0) return false;
-  ScriviArchivio(cartella, nuovo);
+bool scrivi(const Programma& programma, const ArchivioEstrazioni& nuovo, bool sostituire) {
+  const BloccoCartella blocco(programma.cartella.radice());
+  if (!sostituire && ApriArchivio(programma.cartella)(1, 0, 1) != 0) return false;
+  sostituisciArchivio(programma, nuovo);
   return true;
 }
 
@@ -58,19 +40,42 @@ ArchivioEstrazioni estrazioniDa(std::string ottetti, const std::function<void(in
   }
 }
 
+std::optional<ArchivioEstrazioni> leggiOSpiega(Servizi& servizi, const fs::path& file,
+                                               const std::string& titolo) {
+  std::string motivo;
+  try {
+    return leggiEstrazioni(file, [&servizi](int percento) { servizi.avanzamento(kLavoro, percento); });
+  } catch (const ErroreImportazione& errore) {
+    motivo = errore.what();
+  } catch (const RuntimeFailure& failure) {
+    motivo = failure.what();
+  }
+  servizi.avanzamento(kLavoro, 100);
+  servizi.mostra({"Il file \"" + file.filename().string() + "\" non si può usare!\n\n" + motivo +
+                      "\n\nL'archivio è rimasto com'era.",
+                  titolo, Genere::Rifiuto, Icona::Esclamazione});
+  return std::nullopt;
+}
+
+void sostituisciArchivio(const Programma& programma, const ArchivioEstrazioni& nuovo) {
+  const BloccoCartella blocco(programma.cartella.radice());
+  faiCopia(programma, GenereCopia::Archivio);
+  ScriviArchivio(programma.cartella, nuovo);
+}
+
 bool importaEstrazioniDaFile(Programma& programma) {
   auto& servizi = programma.servizi;
   const auto file = servizi.scegliFile(kTitolo);
   if (file.empty()) return false;
-  const auto nuovo = importa(servizi, file);
+  const auto nuovo = leggiOSpiega(servizi, file, kTitolo);
   if (!nuovo) return false;
-  if (!scrivi(programma.cartella, *nuovo, false)) {
+  if (!scrivi(programma, *nuovo, false)) {
     const auto risposta =
         servizi.mostra({"L'archivio contiene già delle estrazioni. Sostituirle tutte con quelle del file (" +
-                            riassunto(*nuovo) + ")?\n\n" + kNumeri,
+                            riassunto(*nuovo) + ")?\n\n" + kNumeriDelleEstrazioni,
                         kTitolo, Genere::Domanda, Icona::Esclamazione, Risposta::No});
     if (risposta != Risposta::Si) return false;
-    scrivi(programma.cartella, *nuovo, true);
+    scrivi(programma, *nuovo, true);
   }
   servizi.mostra({"Importate " + riassunto(*nuovo), kTitolo});
   return true;

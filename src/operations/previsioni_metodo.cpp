@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "methods/cartella_metodi.h"
+#include "operations/copie.h"
 #include "operations/un_passo.h"
 #include "platform/failure.h"
 
@@ -49,6 +50,7 @@ void aggiungi(CambioMetodo& verso, const FileMetodo& da, const std::vector<int>&
 
 /// Writes all of them or, as far as the disk lets it, none.
 void scrivi(const Programma& programma, const PassoPrevisioni& passo) {
+  faiCopia(programma, GenereCopia::Metodi);
   for (std::size_t n = 0; n < passo.size(); ++n) try {
       ScriviMetodo(programma.cartella, passo[n].nome, passo[n].dopo);
     } catch (const RuntimeFailure&) {

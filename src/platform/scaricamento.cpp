@@ -2,7 +2,7 @@
 
 #include <memory>
 #include <new>
-#include <optional>
+#include <utility>
 
 #include <curl/curl.h>
 
@@ -60,16 +60,52 @@ std::size_t raccogli(const char* dati, std::size_t uno, std::size_t quanti, void
   return uno * quanti;
 }
 
-int prosegui(void* limiti, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
-  const auto& interrotto = static_cast<const LimitiScaricamento*>(limiti)->interrotto;
-  return interrotto && interrotto() ? 1 : 0;
+int prosegui(void* limiti, curl_off_t tutto, curl_off_t fatto, curl_off_t, curl_off_t) {
+  const auto& suoi = *static_cast<const LimitiScaricamento*>(limiti);
+  if (suoi.avanzamento && tutto > 0) suoi.avanzamento(static_cast<int>(fatto * 100 / tutto));
+  return suoi.interrotto && suoi.interrotto() ? 1 : 0;
 }
 
-std::optional<std::string> scarica(const std::string& indirizzo, const LimitiScaricamento& limiti) {
+std::string motivo(CURLcode esito, long stato) {
+  switch (esito) {
+    case CURLE_COULDNT_RESOLVE_HOST:
+      return "il server non si trova: c'è il collegamento a Internet?";
+    case CURLE_COULDNT_CONNECT:
+      return "il server non risponde";
+    case CURLE_OPERATION_TIMEDOUT:
+      return "il server ci mette troppo";
+    case CURLE_HTTP_RETURNED_ERROR:
+      return "il server ha risposto con l'errore " + std::to_string(stato);
+    case CURLE_TOO_MANY_REDIRECTS:
+      return "il server rimanda da un indirizzo all'altro";
+    case CURLE_PEER_FAILED_VERIFICATION:
+    case CURLE_SSL_CONNECT_ERROR:
+      return "il collegamento cifrato con il server non è sicuro";
+    case CURLE_FILESIZE_EXCEEDED:
+    case CURLE_WRITE_ERROR:
+      return "il server manda più di quanto possa servire";
+    case CURLE_PARTIAL_FILE:
+    case CURLE_GOT_NOTHING:
+    case CURLE_RECV_ERROR:
+      return "la trasmissione si è interrotta";
+    case CURLE_URL_MALFORMAT:
+    case CURLE_UNSUPPORTED_PROTOCOL:
+      return "l'indirizzo non è del web (http o https)";
+    case CURLE_ABORTED_BY_CALLBACK:
+      return "lo scaricamento è stato interrotto";
+    default:
+      return "la trasmissione non è riuscita (errore " + std::to_string(esito) + ")";
+  }
+}
+
+}  // namespace
+
+Scaricato scaricaInMemoria(const std::string& indirizzo, std::int64_t seModificatoDopo,
+                           const LimitiScaricamento& limiti) {
   const LibreriaCurl curl;
-  if (!curl.pronta()) return std::nullopt;
+  if (!curl.pronta()) return {.motivo = "serve la libreria libcurl (libcurl.so.4)"};
   const std::unique_ptr<CURL, decltype(curl.cleanup)> richiesta(curl.init(), curl.cleanup);
-  if (!richiesta) return std::nullopt;
+  if (!richiesta) return {.motivo = motivo(CURLE_FAILED_INIT, 0)};
 
   Raccolta raccolta{limiti.ottetti, {}};
   bool accettate = true;  // an older library would take any protocol instead of these two
@@ -88,6 +124,12 @@ std::optional<std::string> scarica(const std::string& indirizzo, const LimitiSca
   opzione(CURLOPT_LOW_SPEED_TIME, static_cast<long>(limiti.silenzio.count()));
   opzione(CURLOPT_TIMEOUT, static_cast<long>(limiti.tutto.count()));
   opzione(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(limiti.ottetti));
+  opzione(CURLOPT_FILETIME, 1L);
+  if (seModificatoDopo > 0) {
+    opzione(CURLOPT_TIMECONDITION, static_cast<long>(CURL_TIMECOND_IFMODSINCE));
+    opzione(CURLOPT_TIMEVALUE_LARGE, static_cast<curl_off_t>(seModificatoDopo));
+  }
+  if (!limiti.certificati.empty()) opzione(CURLOPT_CAINFO, limiti.certificati.c_str());
   opzione(CURLOPT_HEADERFUNCTION, &contaTeste);
   opzione(CURLOPT_HEADERDATA, &raccolta);
   opzione(CURLOPT_WRITEFUNCTION, &raccogli);
@@ -95,22 +137,28 @@ std::optional<std::string> scarica(const std::string& indirizzo, const LimitiSca
   opzione(CURLOPT_NOPROGRESS, 0L);
   opzione(CURLOPT_XFERINFOFUNCTION, &prosegui);
   opzione(CURLOPT_XFERINFODATA, &limiti);
-  if (!accettate || curl.perform(richiesta.get()) != CURLE_OK) return std::nullopt;
-  long stato = 0;
+  const auto esito = accettate ? curl.perform(richiesta.get()) : CURLE_NOT_BUILT_IN;
+  long stato = 0, immutato = 0;
+  curl_off_t modificato = 0;
   curl.getinfo(richiesta.get(), CURLINFO_RESPONSE_CODE, &stato);
+  curl.getinfo(richiesta.get(), CURLINFO_CONDITION_UNMET, &immutato);
+  curl.getinfo(richiesta.get(), CURLINFO_FILETIME_T, &modificato);
+  if (esito != CURLE_OK) return {.motivo = motivo(esito, stato)};
+  if (seModificatoDopo > 0 && immutato != 0) return {.esito = Scaricato::Esito::Immutato};
   // The 2xx behind these carry no file, or a part of one.
-  if (stato < 200 || stato > 203) return std::nullopt;
-  return std::move(raccolta.testo);
+  if (stato < 200 || stato > 203) return {.motivo = motivo(CURLE_HTTP_RETURNED_ERROR, stato)};
+  return {.esito = Scaricato::Esito::Arrivato,
+          .contenuto = std::move(raccolta.testo),
+          .modificato = modificato > 0 ? modificato : 0};
 }
-
-}  // namespace
 
 bool scaricaInFile(const std::string& indirizzo, const std::filesystem::path& destinazione,
                    const LimitiScaricamento& limiti) {
-  const auto contenuto = scarica(indirizzo, limiti);
-  if (!contenuto) return false;
+  const auto scaricato = scaricaInMemoria(indirizzo, 0, limiti);
+  if (scaricato.esito != Scaricato::Esito::Arrivato) return false;
+  const auto& contenuto = scaricato.contenuto;
   try {
-    scriviFile(destinazione, {reinterpret_cast<const std::uint8_t*>(contenuto->data()), contenuto->size()},
+    scriviFile(destinazione, {reinterpret_cast<const std::uint8_t*>(contenuto.data()), contenuto.size()},
                Scrittura::Intera);
     return true;
   } catch (const RuntimeFailure&) {

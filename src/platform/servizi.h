@@ -1,8 +1,11 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <string>
+
+#include "platform/scaricato.h"
 
 namespace vaticlo {
 
@@ -41,6 +44,11 @@ class Servizi {
   /// Fetches an address into a file and waits for the end. The file is written only when the transfer was
   /// complete and good. False on any failure.
   virtual bool scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) = 0;
+  /// Fetches what an address holds into memory and waits for the end; if it has changed since a time, when
+  /// one is given (seconds since 1970).
+  virtual Scaricato preleva(const std::string& indirizzo, std::int64_t seModificatoDopo) = 0;
+  /// Says something in passing that nobody has to answer: what follows goes on all the same.
+  virtual void segnala(const std::string& testo) = 0;
   virtual void apriPagina(const std::string& indirizzo) = 0;
   [[nodiscard]] virtual std::chrono::year_month_day oggi() const = 0;
   /// Gives pending events their turn, those of the user among them.

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "methods/cartella_metodi.h"
+#include "platform/scaricamento.h"
 #include "program/programma.h"
 
 namespace vaticlo::prova {
@@ -31,6 +32,10 @@ class ServiziProva : public Servizi {
     scaricati.push_back(indirizzo + " " + destinazione.filename().string());
     return true;
   }
+  Scaricato preleva(const std::string& indirizzo, std::int64_t seModificatoDopo) override {
+    return scaricaInMemoria(indirizzo, seModificatoDopo);
+  }
+  void segnala(const std::string& testo) override { segnalati.push_back(testo); }
   void apriPagina(const std::string& /*indirizzo*/) override {}
   [[nodiscard]] std::chrono::year_month_day oggi() const override { return giornoDiOggi; }
   void eventiInAttesa() override {
@@ -53,7 +58,7 @@ class ServiziProva : public Servizi {
   std::function<void()> allaPausa;
   std::vector<Messaggio> messaggi;
   std::vector<std::pair<std::string, std::string>> domande;
-  std::vector<std::string> stampati, scaricati;
+  std::vector<std::string> stampati, scaricati, segnalati;
   std::vector<int> percenti;
   int pause = 0;
 };

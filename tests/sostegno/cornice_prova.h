@@ -13,6 +13,8 @@ class CorniceProva : public Cornice {
   void chiudi(Finestra& /*finestra*/) override { chiesto += "chiudi "; }
   void riapri(Finestra& /*finestra*/) override { chiesto += "riapri "; }
   void apriRisultati() override { chiesto += "risultati "; }
+  void archivioNuovo() override { chiesto += "nuovo "; }
+  void estrazioniAggiunte() override { chiesto += "aggiunte "; }
   void lavoro(bool inCorso) override { chiesto += inCorso ? "lavoro " : "libera "; }
 
   std::string chiesto;

@@ -14,6 +14,7 @@ namespace vaticlo::prova {
 
 /// A web server on the loopback address that answers each request by its path with the bytes it was given,
 /// heads included, and closes. A path without an answer gets none: the connection stays open and silent.
+/// Who asks for what has changed since a time is answered by the path with " dopo" behind it.
 class ServerProva {
  public:
   explicit ServerProva(std::map<std::string, std::string> risposte) : risposte_(std::move(risposte)) {
@@ -45,7 +46,9 @@ class ServerProva {
       const auto letti = ::read(cliente, domanda.data(), domanda.size());
       const std::string testo(domanda.data(), letti > 0 ? static_cast<std::size_t>(letti) : 0);
       const auto inizio = testo.find(' ') + 1;
-      const auto risposta = risposte_.find(testo.substr(inizio, testo.find(' ', inizio) - inizio));
+      const auto percorso = testo.substr(inizio, testo.find(' ', inizio) - inizio);
+      const bool dopo = testo.find("\r\nIf-Modified-Since: ") != std::string::npos;
+      const auto risposta = risposte_.find(dopo ? percorso + " dopo" : percorso);
       if (risposta == risposte_.end()) continue;
       ::send(cliente, risposta->second.data(), risposta->second.size(), MSG_NOSIGNAL);
       ::close(cliente);

@@ -11,13 +11,14 @@ namespace vaticlo {
 class Sessione;
 
 /// Something that a command is told on its line. A name that begins with "--" is an option, any other one an
-/// argument by its place, which is always necessary.
+/// argument by its place.
 struct Parametro {
   std::string nome;
   std::string aiuto;
   std::string tipo = "TESTO";    ///< what the help calls the value of an option
-  bool necessario = false;       ///< of an option
+  bool necessario = false;       ///< of an option; an argument by its place is, unless it says `facoltativo`
   std::string predefinito = {};  ///< of an option; empty for none
+  bool facoltativo = false;      ///< of an argument by its place
   int quanti = 1;                ///< how many values follow; an option without any is there or not
 };
 
@@ -42,6 +43,9 @@ namespace comandi {
 
 Esito importa(Sessione& sessione, const Argomenti& argomenti);
 Esito aggiorna(Sessione& sessione, const Argomenti& argomenti);
+Esito aggiungi(Sessione& sessione, const Argomenti& argomenti);
+Esito elencaCopie(Sessione& sessione, const Argomenti& argomenti);
+Esito ripristina(Sessione& sessione, const Argomenti& argomenti);
 Esito dimostrazione(Sessione& sessione, const Argomenti& argomenti);
 
 Esito estrazione(Sessione& sessione, const Argomenti& argomenti);

@@ -7,6 +7,7 @@
 #include "console/sessione.h"
 #include "dialogs/frm_modifica.h"
 #include "dialogs/frm_somdif.h"
+#include "operations/copie.h"
 #include "platform/blocco.h"
 
 namespace vaticlo::comandi {
@@ -88,6 +89,7 @@ Esito cancella(Sessione& sessione, const Argomenti& argomenti) {
                              "Attenzione", Genere::Rifiuto});
     return kFatto;
   }
+  faiCopia(sessione.programma(), GenereCopia::Archivio);
   ControlliEstrazione controlli;
   gestione(sessione).cancella(controlli, static_cast<std::int16_t>(n));
   std::cout << "Cancellata l'estrazione n° " << n << '\n';
