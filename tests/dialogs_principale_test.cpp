@@ -22,7 +22,7 @@ struct Principale : testing::Test {
       testo += "2005/03/0" + std::to_string(n) + "\tBA\t" + (n == 3 ? "7" : "8") + "\t11\t12\t13\t14\n";
     p.scrivi("estrazioni.txt", testo);
     p.servizi.scelto = p.radice / "estrazioni.txt";
-    principale.comando("mnuUtility4");
+    principale.comando("mnu1Importa");
   }
   ProgrammaProva p;
   frmPrincipale principale{p.programma};

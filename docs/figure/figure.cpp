@@ -221,7 +221,7 @@ void Fotografo::tutte() {
   guida.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   posa();
   salva("guida", conTitolo(guida));
-  conRiquadro("importa", {}, [&] { scegli("mnuUtility4"); });
+  conRiquadro("importa", {}, [&] { scegli("mnu1Importa"); });
 }
 
 }  // namespace

@@ -126,6 +126,10 @@ void VistaPrincipaleQt::creaMenu() {
   for (const auto& voce : tavolaMenu()) {
     const auto livello = static_cast<std::size_t>(voce.livello);
     const auto caption = QString::fromUtf8(voce.caption), nome = QString::fromUtf8(voce.nome);
+    if (caption.isEmpty()) {
+      aperti.at(livello - 1)->addSeparator();
+      continue;
+    }
     if (voce.azione == nullptr) {
       aperti.at(livello) =
           livello == 1 ? menuBar()->addMenu(caption) : aperti.at(livello - 1)->addMenu(caption);

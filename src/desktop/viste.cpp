@@ -1,6 +1,8 @@
 #include "desktop/viste.h"
 
 #include "dialogs/elenco_scansione.h"
+#include "dialogs/frm_aggiungi.h"
+#include "dialogs/frm_copie.h"
 #include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_inserisci.h"
@@ -32,7 +34,8 @@ QWidget* traQueste(const std::shared_ptr<Finestra>& finestra, const Confine& con
 
 QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine) {
   return traQueste<frmInserisci, frmModifica, frmMetodo, frmInsPrev, frmStatistica, ElencoScansione,
-                   frmSomdif, frmGestioneMetodi, frmMigliore, frmInfo>(finestra, confine);
+                   frmSomdif, frmAggiungi, frmCopie, frmGestioneMetodi, frmMigliore, frmInfo>(finestra,
+                                                                                              confine);
 }
 
 }  // namespace vaticlo

@@ -10,6 +10,8 @@ class QWidget;
 namespace vaticlo {
 
 class ElencoScansione;
+class frmAggiungi;
+class frmCopie;
 class frmInfo;
 class frmInserisci;
 class frmInsPrev;
@@ -28,6 +30,8 @@ inline constexpr const char* kPrimoFuoco = "primoFuoco";
 [[nodiscard]] QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine);
 
 [[nodiscard]] QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmAggiungi>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmCopie>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInfo>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInserisci>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine);

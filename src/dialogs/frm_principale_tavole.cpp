@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "dialogs/frm_aggiungi.h"
+#include "dialogs/frm_copie.h"
 #include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
 #include "dialogs/frm_inserisci.h"
@@ -78,6 +80,10 @@ constexpr std::array kMenu = {
     VoceMenu{"mnu1Inserisci", 2, "&Inserisci Estrazione", apre<frmInserisci>},
     VoceMenu{"mnu1Modifica", 2, "&Modifica Estrazione", apre<frmModifica>},
     VoceMenu{"mnu1Aggiorna", 2, "&Aggiorna via Internet", aggiorna},
+    VoceMenu{"", 2, "", nullptr},
+    VoceMenu{"mnu1Aggiungi", 2, "A&ggiungi Estrazioni...", apre<frmAggiungi>},
+    VoceMenu{"mnu1Importa", 2, "Im&porta Estrazioni da File...", importa},
+    VoceMenu{"mnu1Copie", 2, "&Torna a una Copia...", apre<frmCopie>},
     VoceMenu{"mnuMetodi", 1, "&Vaticla", apre<frmMetodo>},
     VoceMenu{"mnu1metodo1", 1, "&Statistica", statisticaDelPrimoMetodo},
     VoceMenu{"mnuGestione", 1, "&Gestione", nullptr},
@@ -91,9 +97,8 @@ constexpr std::array kMenu = {
     VoceMenu{"mnuUtility1", 2, "Previsioni in Gioco", apre<frmPrev>},
     VoceMenu{"mnuUtility2", 2, "Vincenti alle Ultime Estrazioni", apre<frmVinc>},
     VoceMenu{"mnuUtility3", 2, "Somma/Distanza Estratti", apre<frmSomdif>},
-    VoceMenu{"mnuUtility4", 2, "Importa Estrazioni da File...", importa},
-    VoceMenu{"mnuUtility5", 2, "Estrazioni del Lotto (pagina web)", apreLaPagina<kPaginaEstrazioni>},
-    VoceMenu{"mnuUtility6", 2, "Regole del Lotto (pagina web)", apreLaPagina<kPaginaRegole>},
+    VoceMenu{"mnuUtility4", 2, "Estrazioni del Lotto (pagina web)", apreLaPagina<kPaginaEstrazioni>},
+    VoceMenu{"mnuUtility5", 2, "Regole del Lotto (pagina web)", apreLaPagina<kPaginaRegole>},
     VoceMenu{"mnuInformazioni", 1, "&?", nullptr},
     VoceMenu{"mnuInformazioni1", 2, "&Guida", [](frmPrincipale& p) { p.apriGuida(); }, "F1"},
     VoceMenu{"mnuInformazioni2", 2, "&Informazioni su....", informazioni},

@@ -10,7 +10,8 @@ class frmPrincipale;
 /// What a menu entry or a button of the toolbar does.
 using Azione = void (*)(frmPrincipale& principale);
 
-/// An entry of the menu, in tree order. Level 1 is the bar.
+/// An entry of the menu, in tree order. Level 1 is the bar. One without a caption separates those before it
+/// from those after it.
 struct VoceMenu {
   std::string_view nome;
   int livello;
