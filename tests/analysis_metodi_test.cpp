@@ -1,5 +1,6 @@
 #include "analysis/elenco_previsioni.h"
 #include "analysis/parole_confronto.h"
+#include "analysis/situazione.h"
 #include "analysis/tabelle.h"
 #include "methods/cartella_metodi.h"
 #include "methods/catalogo.h"
@@ -145,6 +146,27 @@ TEST(Frase, SaysNoMoreThanItsFigures) {
   }
   EXPECT_EQ(avvertenzaPer(1), "");
   EXPECT_THAT(avvertenzaPer(20), HasSubstr("Di 20 metodi"));
+}
+
+TEST_F(Metodi, AreSummedUpWithoutMakingAFile) {
+  // Draw 110: 88 in Bari wins at the first colpo of the one, the other two are still played.
+  scriviMetodoProva(p, "A", {ambata(109, 88), ambata(109, 1, 5), ambata(110, 1, 3), ambata(101)});
+  scriviMetodoProva(p, "Dieci", Slot(10, ambata(101)));
+  const auto ora = situazioneDi(p.cartella());
+  EXPECT_EQ(ora.estrazioni, 110);
+  EXPECT_EQ(ora.ultima, dataDiCalendario(12, 3, 2005));
+  ASSERT_EQ(ora.inGioco.size(), 2U);
+  EXPECT_EQ(ora.inGioco[0].previsione.slot, 3);
+  EXPECT_EQ(ora.inGioco[0].colpiRimasti, 3);
+  EXPECT_EQ(ora.inGioco[1].colpiRimasti, 4);
+  ASSERT_EQ(ora.vinteAllUltima.size(), 1U);
+  EXPECT_EQ(ora.vinteAllUltima[0].previsione.esito, "vinta al 1° colpo: ambata 88 Ba");
+  ASSERT_EQ(ora.daGuardare.size(), 1U);
+  EXPECT_EQ(ora.daGuardare[0].metodo, "Dieci");
+
+  const ProgrammaProva vuoto;
+  EXPECT_EQ(situazioneDi(vuoto.cartella()).estrazioni, 0);
+  EXPECT_FALSE(vuoto.esiste("archivion71.dat"));
 }
 
 }  // namespace

@@ -150,5 +150,35 @@ TEST_F(InsPrev, ADeleteAlwaysFails) {
   EXPECT_TRUE(file() == prima);
 }
 
+TEST_F(InsPrev, TheFieldBesideTheBarGoesToANumberOrADate) {
+  auto archivio = archivioDi(150);
+  archivio.data(77, 5, 4, 2005).scrivi(p);
+  apri(false);
+  for (const auto& [scritto, mostrata] :
+       {std::pair{"1", "1"}, {"150", "150"}, {" 20", "20"}, {"05/04/2005", "77"}, {"5.4.05", "77"}}) {
+    frm->txtVai.Text(scritto);
+    frm->txtVai_Invio();
+    EXPECT_EQ(frm->estrazione.lblnestr.Caption(), mostrata) << scritto;
+  }
+  EXPECT_THAT(p.servizi.detti(), IsEmpty());
+  for (const char* scritto : {"0", "151", "1/1/2030", "ieri", ""}) {
+    frm->txtVai.Text(scritto);
+    frm->txtVai_Invio();
+    EXPECT_EQ(frm->estrazione.lblnestr.Caption(), "77") << scritto;
+  }
+  EXPECT_EQ(p.servizi.messaggi.size(), 5U);
+}
+
+TEST_F(InsPrev, AWheelButtonPutsItsWheelInAndTakesItAway) {
+  apri(false).txtRuote.Text("");
+  for (const auto& [codice, ruote] :
+       {std::pair{8, "Ro"}, {1, "Ro-Ba"}, {12, "Ro-Ba-Tutte"}, {1, "Ro-Tutte"}, {8, "Tutte"}, {12, ""}}) {
+    frm->btnRuota.at(static_cast<std::size_t>(codice - 1)).Click();
+    EXPECT_EQ(frm->txtRuote.Text(), ruote);
+  }
+  frm->btnRuota[0].Click();
+  EXPECT_EQ(frm->lblLettura.Caption(), "Si gioca: ambata 7 · Bari · 10 colpi");
+}
+
 }  // namespace
 }  // namespace vaticlo::prova

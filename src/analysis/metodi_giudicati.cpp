@@ -32,8 +32,11 @@ class Giudice {
 
   [[nodiscard]] PrevisioneGiudicata giudica(const FileMetodo& metodo, int slot) {
     PrevisioneGiudicata giudicata;
+    giudicata.slot = slot;
+    giudicata.estrazione = metodo.EstrazioneCalcolo(slot);
     try {
       decodificatore_.DecodificaPrevisione(metodo, slot, previsione_);
+      giudicata.colpi = previsione_.Colpi;
       giudicata.nellaStatistica = !interrotta_;
       giudicata.esito = giudicaPrevisione(previsione_, regole_, ultima_, nessunaNota_);
       if (previsione_.EstrazioneCalcolo + previsione_.Colpi <= ultima_)

@@ -19,6 +19,9 @@ struct IntervalloEstrazioni {
 
 /// How a prediction has done.
 struct PrevisioneGiudicata {
+  int slot = 0;
+  int estrazione = 0;  ///< of the calculation
+  int colpi = 0;
   std::optional<EsitoPrevisione> esito;  ///< none when it can't be judged
   /// A statistics run of its method alone takes it: it is decoded and no other prediction of its draw has
   /// stopped the scan before it. One that fails only in the judging is taken, and passes for lost.

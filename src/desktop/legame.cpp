@@ -72,6 +72,11 @@ CampoTestoVista* Legame::campo(CampoTesto& modello, const QString& nome) {
     });
   });
   segui(modello, [widget] { widget->aggiorna(); });
+  connect(widget, &QLineEdit::returnPressed, this, [this, &modello] {
+    confine_.esegui([&] {
+      if (modello.Invio) modello.Invio();
+    });
+  });
   modello.SetFocus = [widget] {
     widget->setFocus(Qt::OtherFocusReason);
     widget->selectAll();
@@ -147,6 +152,17 @@ xpcmdbutton* Legame::pulsante(Pulsante& modello, const QString& nome) {
     tasto->setContext(Qt::WidgetWithChildrenShortcut);
     connect(tasto, &QShortcut::activated, widget, [widget] { widget->click(); });
   }
+  return widget;
+}
+
+QToolButton* Legame::pulsanteBreve(Pulsante& modello, const QString& nome) {
+  auto* widget = chiamato(new ConFuoco<QToolButton>(vista_), nome);
+  widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  segui(modello, [&modello, widget] {
+    widget->setText(testo(modello.Caption()));
+    widget->setEnabled(modello.Enabled());
+  });
+  connect(widget, &QToolButton::clicked, this, [this, &modello] { premuto(modello); });
   return widget;
 }
 

@@ -46,6 +46,8 @@ class Legame : public QObject {
   QRadioButton* opzione(Opzione& modello, const QString& nome);
   xpradiobutton* opzioneDisegnata(Opzione& modello, const QString& caption, const QString& nome);
   xpcmdbutton* pulsante(Pulsante& modello, const QString& nome);
+  /// A small one for a word, without the look of the others.
+  QToolButton* pulsanteBreve(Pulsante& modello, const QString& nome);
   /// A button that shows a picture instead of a caption.
   QToolButton* pulsanteConImmagine(Pulsante& modello, const QString& nome, const QString& chiave);
   SelettoreDataVista* selettoreData(SelettoreData& modello, const QString& nome);

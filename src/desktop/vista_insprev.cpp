@@ -32,10 +32,31 @@ QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
   auto* gruppo = legame.riquadro(frm.Frame2, QStringLiteral("Frame2"));
   auto* colonna = new QVBoxLayout(gruppo);
   colonna->setContentsMargins(9, 5, 9, 6);
-  colonna->addLayout(
-      intestazione(legame, frm.Label1, frm.estrazione.lblnestr, frm.Label13, frm.estrazione.lbldataestr));
+  auto* testa = new QHBoxLayout;
+  testa->addLayout(
+      intestazione(legame, frm.Label1, frm.estrazione.lblnestr, frm.Label13, frm.estrazione.lbldataestr), 1);
+  auto* vai = legame.campo(frm.txtVai, QStringLiteral("txtVai"));
+  vai->setFixedWidth(vai->fontMetrics().horizontalAdvance(QStringLiteral("numero o data__")));
+  vai->setToolTip(QStringLiteral("Scrivete il numero o la data di un'estrazione e premete Invio"));
+  auto* etichettaVai = new QLabel(QStringLiteral("Vai a:"), gruppo);
+  etichettaVai->setBuddy(vai);
+  testa->addWidget(etichettaVai);
+  testa->addWidget(vai);
+  colonna->addLayout(testa);
   colonna->addWidget(tavolaConBarra(legame, frm.estrazione), 1);
   return gruppo;
+}
+
+// A help for the mouse: the keyboard types the wheels, so Tab does not stop at them.
+QLayout* ruote(Legame& legame, frmInsPrev& frm) {
+  auto* riga = new QHBoxLayout;
+  riga->setSpacing(2);
+  for (std::size_t n = 0; n < frm.btnRuota.size(); ++n) {
+    auto* pulsante = legame.pulsanteBreve(frm.btnRuota[n], QStringLiteral("btnRuota_%1").arg(n + 1));
+    pulsante->setFocusPolicy(Qt::NoFocus);
+    riga->addWidget(pulsante);
+  }
+  return riga;
 }
 
 QWidget* previsione(Legame& legame, frmInsPrev& frm) {
@@ -61,9 +82,17 @@ QWidget* previsione(Legame& legame, frmInsPrev& frm) {
   colonna->addWidget(riquadroCon(legame, frm.Frame9, QStringLiteral("Frame9"),
                                  legame.campo(frm.txtSup, QStringLiteral("txtSup"))));
 
+  auto* lettura = legame.etichetta(frm.lblLettura, QStringLiteral("lblLettura"));
+  lettura->setWordWrap(true);
+  lettura->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  lettura->setMinimumHeight(2 * lettura->fontMetrics().lineSpacing());
+  lettura->setAccessibleName(QStringLiteral("Che cosa si gioca"));
+
   auto* tutto = new QVBoxLayout(gruppo);
   tutto->addLayout(prima);
+  tutto->addLayout(ruote(legame, frm));
   tutto->addWidget(combinazioni);
+  tutto->addWidget(lettura);
   tutto->addStretch(1);
   return gruppo;
 }

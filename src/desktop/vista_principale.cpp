@@ -16,10 +16,14 @@
 #include <QToolButton>
 #include <array>
 
+#include "desktop/barra_di_stato.h"
 #include "desktop/immagini.h"
+#include "desktop/osservatore.h"
 #include "desktop/tasti_accesso.h"
 #include "desktop/vista_guida.h"
+#include "desktop/vista_inizio.h"
 #include "desktop/viste.h"
+#include "dialogs/pagina_iniziale.h"
 
 namespace vaticlo {
 
@@ -93,7 +97,12 @@ class BottoneBarra : public QToolButton {
 }  // namespace
 
 VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& confine)
-    : principale_(principale), confine_(confine), area_(new QMdiArea(this)) {
+    : principale_(principale),
+      confine_(confine),
+      area_(new QMdiArea(this)),
+      inizio_(new VistaInizio(area_->viewport(), principale, confine)),
+      stato_(
+          new BarraDiStato(QString::fromStdString(principale.programma().cartella.radice().string()), this)) {
   setObjectName(QStringLiteral("frmPrincipale"));
   setWindowTitle(QLatin1String(frmPrincipale::kCaption));
   setWindowIcon(immagine(QStringLiteral("vaticlo")));
@@ -105,6 +114,15 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
   setCentralWidget(area_);
+  setStatusBar(stato_);
+  new OsservatoreCartella(
+      principale.programma().cartella,
+      [this] {
+        if (principale_.occupata()) return false;
+        aggiornaInizio();
+        return true;
+      },
+      this);
   creaMenu();
   creaBarra();
   connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* attivata) {
@@ -113,12 +131,19 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
   });
   new TastiAccesso(area_);
   principale_.disegnataDa(this);
+  QTimer::singleShot(0, this, [this] { aggiornaInizio(); });  // the window is there at once
   area_->setFocus();  // not the first button of the toolbar, which a second key on the splash would press
 }
 
 VistaPrincipaleQt::~VistaPrincipaleQt() {
   area_->disconnect(this);  // it still tells of its windows when this part of the object is gone
   principale_.disegnataDa(nullptr);
+}
+
+void VistaPrincipaleQt::aggiornaInizio() {
+  const auto pagina = paginaIniziale(principale_.programma());
+  inizio_->mostra(pagina);
+  stato_->archivio(QString::fromStdString(pagina.inBreve));
 }
 
 void VistaPrincipaleQt::creaMenu() {

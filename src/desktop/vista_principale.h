@@ -11,6 +11,9 @@ class QMdiSubWindow;
 
 namespace vaticlo {
 
+class BarraDiStato;
+class VistaInizio;
+
 /// Draws the main window: menu and toolbar from their tables, the open dialogs as child windows of a
 /// multiple-document area.
 class VistaPrincipaleQt : public QMainWindow, private VistaPrincipale {
@@ -33,6 +36,7 @@ class VistaPrincipaleQt : public QMainWindow, private VistaPrincipale {
 
   void creaMenu();
   void creaBarra();
+  void aggiornaInizio();
   [[nodiscard]] QSize massima() const;
   void faiPosto(QMdiSubWindow& figlia);
   [[nodiscard]] QMdiSubWindow* figlia(const Finestra& finestra) const;
@@ -41,6 +45,8 @@ class VistaPrincipaleQt : public QMainWindow, private VistaPrincipale {
   frmPrincipale& principale_;
   const Confine& confine_;
   QMdiArea* area_;
+  VistaInizio* inizio_;
+  BarraDiStato* stato_;
   bool mostrando_ = false;
   QPointer<QWidget> fuoco_, guida_;
 };

@@ -4,8 +4,10 @@
 
 #include "forms/controlli_metodo.h"
 #include "methods/cartella_metodi.h"
+#include "methods/giocata_in_parole.h"
 #include "methods/spiegazioni.h"
 #include "platform/blocco.h"
+#include "platform/conversione.h"
 #include "platform/failure.h"
 #include "platform/testo.h"
 
@@ -45,6 +47,15 @@ frmInsPrev::frmInsPrev(Programma& programma, Cornice& cornice) : Finestra(cornic
   btnElabora.Click = [this] { btnElabora_Click(); };
   btnElimina.Click = [this] { btnElimina_Click(); };
   btnCancella.Click = [this] { btnCancella_Click(); };
+  txtVai.esempio = "numero o data";
+  txtVai.Invio = [this] { txtVai_Invio(); };
+  for (int codice = 1; codice <= kTutte; ++codice) {
+    auto& pulsante = btnRuota.at(static_cast<std::size_t>(codice - 1));
+    pulsante.Caption(std::string(SiglaRuotaTutte(codice)));
+    pulsante.Click = [this, codice] { btnRuota_Click(codice); };
+  }
+  for (auto* campo : {&txtRuote, &txtAmbate, &txtAmbi, &txtSup}) campo->Change = [this] { rileggi(); };
+  cmbColpi.Click = [this] { rileggi(); };
 }
 
 void frmInsPrev::Form_Load() {
@@ -100,6 +111,7 @@ void frmInsPrev::cmbMetodo_Click() {
   txtAmbate.Text("");
   txtAmbi.Text("");
   txtSup.Text("");
+  rileggi();
 }
 
 // The predictions listed are those of another method than the one typed.
@@ -116,6 +128,45 @@ void frmInsPrev::cmbPrevisione_Click() {
   txtAmbate.Text(testi.ambate);
   txtAmbi.Text(testi.ambi);
   txtSup.Text(testi.sup);
+  rileggi();
+}
+
+void frmInsPrev::rileggi() { lblLettura.Caption(giocataInParole(testi()).testo); }
+
+void frmInsPrev::btnRuota_Click(int codice) {
+  const auto sigla = maiuscolo(SiglaRuotaTutte(codice));
+  std::string ruote;
+  bool tolta = false;
+  for (const auto parola : dividi(senzaBlanchi(txtRuote.Text()), '-')) {
+    if (maiuscolo(senzaBlanchi(parola)) == sigla)
+      tolta = true;
+    else
+      ruote.append(ruote.empty() ? "" : "-").append(parola);
+  }
+  if (!tolta) ruote.append(ruote.empty() ? "" : "-").append(SiglaRuotaTutte(codice));
+  txtRuote.Text(ruote);
+  rileggi();
+}
+
+void frmInsPrev::txtVai_Invio() {
+  const int ultima = estrazione.VScroll1.Max() - 1;
+  const auto numero = numeroDaTesto(txtVai.Text());
+  const auto data = dataDigitata(txtVai.Text());
+  int n = 0;
+  if (numero && *numero >= 1 && *numero <= ultima)
+    n = static_cast<int>(*numero);
+  else if (data)
+    n = cercaData(ApriArchivio(programma_.cartella),
+                  {giorno(*data), mese(*data), annoDueCifre(*data), anno(*data) / 100}, ultima);
+  if (n < 1 || n > ultima) {
+    rifiuta("Scrivete il numero di un'estrazione, da 1 a " + std::to_string(ultima) +
+            ", o la data di una che c'è.");
+    return;
+  }
+  if (estrazione.VScroll1.Value() == n + 1)
+    VScroll1_Change();  // a prediction may be on the screen with its own draw
+  else
+    estrazione.VScroll1.Value(n + 1);
 }
 
 TestiPrevisione frmInsPrev::testiDi(const FileMetodo& metodo, int slot) const {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+
+#include "archive/ruota.h"
 #include "forms/controlli_estrazione.h"
 #include "forms/finestra.h"
 #include "methods/metodo.h"
@@ -26,6 +29,10 @@ class frmInsPrev : public Finestra {
   void btnElabora_Click();
   void btnElimina_Click();
   void btnCancella_Click();
+  /// Enter in the field beside the bar: shows the draw of that number or date.
+  void txtVai_Invio();
+  /// Puts the wheel into `txtRuote`, or takes it away when it is there.
+  void btnRuota_Click(int codice);
   [[nodiscard]] bool modifica() const { return modifica_; }
 
   Riquadro Frame1{"Seleziona Metodo"}, Frame2{"Estrazione di Calcolo"}, Frame3{"Previsione da Salvare"},
@@ -35,7 +42,9 @@ class frmInsPrev : public Finestra {
   Etichetta Label1{"Estrazione n"}, Label13{"del"};
   Elenco cmbMetodo, cmbPrevisione, cmbColpi;
   ControlliEstrazione estrazione;
-  CampoTesto txtNum, txtRuote, txtAmbate, txtAmbi, txtSup;
+  CampoTesto txtNum, txtRuote, txtAmbate, txtAmbi, txtSup, txtVai;
+  std::array<Pulsante, kTutte> btnRuota;  ///< wheel code 1 to 12
+  Etichetta lblLettura;                   ///< what the fields stand for, read back while one types
   Pulsante btnElabora{"&Salva", "Salva Previsione"};
   Pulsante btnCancella{"&Esci", "Chiudi la finestra"};
   Pulsante btnElimina{"&Elimina", "Elimina la previsione"};
@@ -49,6 +58,7 @@ class frmInsPrev : public Finestra {
   [[nodiscard]] bool rifiutaCampiVuoti();
   [[nodiscard]] TestiPrevisione testi() const;
   void ricomincia();
+  void rileggi();
   bool rifiuta(const std::string& testo, Icona icona = Icona::Esclamazione);
 
   Programma& programma_;

@@ -88,6 +88,8 @@ class CampoTesto : public Controllo {
   std::function<void()> Change;  ///< the user has typed
   /// The focus is about to leave: true keeps it in the field.
   std::function<bool()> Validate;
+  std::function<void()> Change;  ///< the user has typed
+  std::function<void()> Invio;   ///< Enter was pressed in it
 };
 
 /// What a figure or a line says to whoever waits for a win.

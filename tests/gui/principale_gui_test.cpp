@@ -1,4 +1,6 @@
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -107,6 +109,24 @@ class PrincipaleGuiTest : public QObject {
     }
     archivioDi(3).scrivi(v.p);
     QCOMPARE(v.barra("Sirvan"), QStringList("Vaticla"));  // what failed to open has left nothing behind
+  }
+
+  void theStartPageFollowsWhatHappensInTheFolder() {
+    PrincipaleProva v;
+    const auto testo = [&](const char* nome) {
+      const auto* etichetta = v.finestra.findChild<QLabel*>(nome);
+      return etichetta == nullptr ? QString() : etichetta->text();
+    };
+    QTRY_COMPARE(testo("inizioArchivio"), QString("L'archivio non ha ancora estrazioni"));
+    QVERIFY(!v.p.esiste("archivion71.dat"));
+    auto* prova = v.finestra.findChild<QPushButton*>("inizioDimostrazione");
+    prova->setFocus();
+    v.premi(Qt::Key_Space);
+    QTRY_COMPARE(v.detti().size(), 1);
+    QTRY_VERIFY(testo("inizioArchivio").startsWith("360 estrazioni, l'ultima del 20/09/2001, "));
+    QVERIFY(v.finestra.findChild<QPushButton*>("inizioDimostrazione") == nullptr);
+    archivioDi(3).scrivi(v.p);  // by another program
+    QTRY_COMPARE(testo("statoArchivio"), QString("3 estrazioni · ultima 12/03/2005"));
   }
 };
 

@@ -1,0 +1,62 @@
+#include "desktop/osservatore.h"
+
+#include <QStringList>
+
+#include "archive/archivio.h"
+#include "methods/cartella_metodi.h"
+
+namespace vaticlo {
+
+namespace {
+
+constexpr int kAttesa = 150;  // milliseconds without a further change
+
+QString percorso(const std::filesystem::path& file) { return QString::fromStdString(file.string()); }
+
+}  // namespace
+
+OsservatoreCartella::OsservatoreCartella(const CartellaProgramma& cartella, std::function<bool()> cambiata,
+                                         QObject* padre)
+    : QObject(padre),
+      archivio_(cartella.file(kFileArchivio)),
+      metodi_(cartellaMetodi(cartella)),
+      cambiata_(std::move(cambiata)) {
+  attesa_.setSingleShot(true);
+  attesa_.setInterval(kAttesa);
+  connect(&attesa_, &QTimer::timeout, this, [this] { controlla(); });
+  connect(&sentinella_, &QFileSystemWatcher::directoryChanged, this, [this] { attesa_.start(); });
+  connect(&sentinella_, &QFileSystemWatcher::fileChanged, this, [this] { attesa_.start(); });
+  sentinella_.addPath(percorso(cartella.radice()));
+  guarda();
+  vista_ = impronta();
+}
+
+// A file that was replaced is another one, and a folder may have been made only now.
+void OsservatoreCartella::guarda() {
+  const auto visti = sentinella_.files() + sentinella_.directories();
+  std::error_code codice;
+  for (const auto& file : {archivio_, metodi_})
+    if (!visti.contains(percorso(file)) && std::filesystem::exists(file, codice))
+      sentinella_.addPath(percorso(file));
+}
+
+OsservatoreCartella::Impronta OsservatoreCartella::impronta() const {
+  Impronta impronta;
+  std::error_code codice;
+  impronta.archivio = std::filesystem::last_write_time(archivio_, codice);
+  impronta.metodi = std::filesystem::last_write_time(metodi_, codice);
+  impronta.lunghezza = std::filesystem::file_size(archivio_, codice);
+  return impronta;
+}
+
+void OsservatoreCartella::controlla() {
+  guarda();
+  const auto ora = impronta();
+  if (ora == vista_) return;
+  if (cambiata_())
+    vista_ = ora;
+  else
+    attesa_.start();
+}
+
+}  // namespace vaticlo
