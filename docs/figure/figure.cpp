@@ -216,9 +216,9 @@ void Fotografo::tutte() {
   scegli("mnuInformazioni2");
   scatta("informazioni");
   scegli("mnuInformazioni1");
-  auto& guida = *finestra_.findChild<QAbstractScrollArea*>("guida");
+  auto& guida = *finestra_.findChild<QWidget*>("guida");
   guida.resize(850, 560);  // no wider than the other pictures, which it shows
-  guida.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  guida.findChild<QAbstractScrollArea*>("guidaTesto")->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   posa();
   salva("guida", conTitolo(guida));
   conRiquadro("importa", {}, [&] { scegli("mnu1Importa"); });

@@ -12,6 +12,7 @@
 
 #include "desktop/carta.h"
 #include "desktop/colori.h"
+#include "desktop/ricerca_testo.h"
 #include "desktop/salva_con_nome.h"
 
 namespace vaticlo {
@@ -122,24 +123,8 @@ void AreaRapporto::chiudiRicerca() {
   setFocus(Qt::OtherFocusReason);
 }
 
-// From the selection on, itself included with `dalla`; behind the end the search starts again.
 void AreaRapporto::cerca(QTextDocument::FindFlags verso, bool dalla) {
-  if (dalla) {
-    auto cursore = textCursor();
-    cursore.setPosition(cursore.selectionStart());
-    setTextCursor(cursore);
-  }
-  const auto cercato = ricerca_->text();
-  bool trovato = cercato.isEmpty() || find(cercato, verso);
-  if (!trovato) {
-    const auto prima = textCursor();
-    moveCursor(verso.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
-    trovato = find(cercato, verso);
-    if (!trovato) setTextCursor(prima);
-  }
-  auto colori = QPalette();
-  if (!trovato) colori.setColor(QPalette::Text, QColor(0xC0, 0x28, 0x28));
-  ricerca_->setPalette(colori);
+  cercaNelTesto(*this, *ricerca_, verso, dalla);
 }
 
 void AreaRapporto::resizeEvent(QResizeEvent* evento) {

@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QShortcut>
 #include <QStyle>
 #include <QTimer>
 #include <QToolBar>
@@ -61,6 +62,11 @@ class Figlia : public QMdiSubWindow {
   [[nodiscard]] const std::shared_ptr<Finestra>& finestra() const { return finestra_; }
 
  protected:
+  void keyPressEvent(QKeyEvent* tasto) override {
+    QMdiSubWindow::keyPressEvent(tasto);
+    const bool fermo = QApplication::mouseButtons() == Qt::NoButton;  // Esc ends a dragging too
+    if (tasto->key() == Qt::Key_Escape && fermo) close();
+  }
   // A window that is hidden, to be shown in another size or to close, does not hand its focus round.
   bool focusNextPrevChild(bool next) override {
     return isVisible() && QMdiSubWindow::focusNextPrevChild(next);
@@ -125,6 +131,7 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
       this);
   creaMenu();
   creaBarra();
+  creaScorciatoie();
   connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* attivata) {
     if (mostrando_) return;  // the logic says itself what it has opened or brought up
     if (const auto finestra = finestraDi(attivata)) confine_.esegui([&] { principale_.attivata(*finestra); });
@@ -144,6 +151,27 @@ void VistaPrincipaleQt::aggiornaInizio() {
   const auto pagina = paginaIniziale(principale_.programma());
   inizio_->mostra(pagina);
   stato_->archivio(QString::fromStdString(pagina.inBreve));
+}
+
+// What people's hands know. They press the button of the active child window, where it has one that can be
+// pressed.
+void VistaPrincipaleQt::creaScorciatoie() {
+  const auto tasto = [this](const QKeySequence& tasti, auto fai) {
+    connect(new QShortcut(tasti, this), &QShortcut::activated, this, fai);
+  };
+  const auto premi = [this](const QString& nome, const QString& caption) {
+    auto* attiva = area_->activeSubWindow();
+    if (attiva == nullptr) return;
+    for (auto* pulsante : attiva->findChildren<QAbstractButton*>(nome))
+      if (pulsante->isVisible() && pulsante->isEnabled() && pulsante->text().contains(caption))
+        pulsante->click();
+  };
+  tasto(QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
+  tasto(QKeySequence::Print, [premi] { premi(QStringLiteral("btnStampa"), {}); });
+  tasto(QKeySequence(Qt::Key_F5), [this, premi] {
+    aggiornaInizio();
+    premi(QStringLiteral("btnElabora"), QStringLiteral("Elabora"));  // the editor's saves
+  });
 }
 
 void VistaPrincipaleQt::creaMenu() {

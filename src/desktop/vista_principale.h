@@ -37,6 +37,7 @@ class VistaPrincipaleQt : public QMainWindow, private VistaPrincipale {
   void creaMenu();
   void creaBarra();
   void aggiornaInizio();
+  void creaScorciatoie();
   [[nodiscard]] QSize massima() const;
   void faiPosto(QMdiSubWindow& figlia);
   [[nodiscard]] QMdiSubWindow* figlia(const Finestra& finestra) const;

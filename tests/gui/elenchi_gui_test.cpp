@@ -219,14 +219,29 @@ class ElenchiGuiTest : public QObject {
     v.premi(Qt::Key_F1);
     QVERIFY(v.detti().value(0).contains("guida/guida.html"));
     std::filesystem::create_directory(v.p.cartella().file(kFileGuida).parent_path());
-    v.p.scrivi("guida/guida.html", "<meta charset=utf-8><h1>Città</h1>");
+    v.p.scrivi("guida/guida.html",
+               "<meta charset=utf-8><h1>Città</h1><h2 id=uno>Uno</h2><p>alfa</p><h3 id=due>Due</h3><p>beta "
+               "alfa</p>");
     v.scegli("mnu1Modifica");
     v.p.servizi.digitato = "3";
     v.clicca("btnTrova");
     v.premi(Qt::Key_F1);
-    QPointer<QTextBrowser> guida = v.finestra.findChild<QTextBrowser*>("guida");
+    QPointer<QWidget> guida = v.finestra.findChild<QWidget*>("guida");
     QVERIFY(guida && guida->isVisible());
-    QCOMPARE(guida->toPlainText(), QString("Città"));
+    auto& testo = *guida->findChild<QTextBrowser*>("guidaTesto");
+    QVERIFY(testo.toPlainText().startsWith("Città"));
+    auto& capitoli = *guida->findChild<QListWidget*>("guidaCapitoli");
+    QCOMPARE(capitoli.count(), 2);
+    capitoli.setCurrentRow(1);
+    QCOMPARE(testo.source().fragment(), QString("due"));
+    QTest::keyClick(&testo, Qt::Key_Left, Qt::AltModifier);
+    QVERIFY(testo.source().fragment().isEmpty());
+    QTest::keyClick(guida, Qt::Key_F, Qt::ControlModifier);
+    auto* ricerca = guida->findChild<QLineEdit*>("guidaRicerca");
+    QTest::keyClicks(ricerca, "alfa");
+    const int prima = testo.textCursor().position();
+    QTest::keyClick(ricerca, Qt::Key_Return);
+    QVERIFY(testo.textCursor().selectedText() == "alfa" && testo.textCursor().position() > prima);
     guida->showMinimized();
     v.scegli("mnuInformazioni1");
     QVERIFY(guida && !guida->isMinimized());
