@@ -6,6 +6,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "console/manuale.h"
 #include "console/suggerimento.h"
 
 namespace vaticlo {
@@ -156,6 +157,7 @@ RigaDiComando::RigaDiComando(Luogo luogo) : interno_(std::make_unique<Interno>()
     aggiungiParametri(*sub, comando);
     interno_->comandi[sub] = &comando;
   }
+  app.footer(testoStatiDiUscita());  // last: the commands would take it over
 }
 
 RigaDiComando::~RigaDiComando() = default;

@@ -79,6 +79,9 @@ Esito quadro(Sessione& sessione, const Argomenti& argomenti);
 Esito caso(Sessione& sessione, const Argomenti& argomenti);
 Esito ritardi(Sessione& sessione, const Argomenti& argomenti);
 
+Esito manuale(Sessione& sessione, const Argomenti& argomenti);
+Esito completamento(Sessione& sessione, const Argomenti& argomenti);
+
 Esito esegui(Sessione& sessione, const Argomenti& argomenti);
 
 }  // namespace comandi
