@@ -81,7 +81,7 @@ TEST_F(Metodi, ThePredictionsOfOneSayHowTheyHaveDone) {
                      {.estrazione = 200, .ruote = {1}, .ambate = {7}}});
   const auto esiti = [this] {
     std::string testo;
-    for (const auto& voce : elencoPrevisioni(p.cartella(), archivio(), "A"))
+    for (const auto& voce : elencoPrevisioni(LeggiMetodo(p.cartella(), "A"), archivio()))
       testo += std::to_string(voce.slot) + " " + voce.esito + "|";
     return testo;
   };
@@ -90,7 +90,7 @@ TEST_F(Metodi, ThePredictionsOfOneSayHowTheyHaveDone) {
             "4 in gioco, ancora 1 colpo|5 non giudicabile: gli ambi su Tutte vogliono anche una ruota|"
             "6 vinta al 1° colpo: ambo 5-6 su Tutte (Ca), ambo 5-6 Ca|"
             "7 non giudicabile: ha una ruota che non esiste|8 non giudicabile: nessuna scansione la vede|");
-  const auto prima = elencoPrevisioni(p.cartella(), archivio(), "A").front();
+  const auto prima = elencoPrevisioni(LeggiMetodo(p.cartella(), "A"), archivio()).front();
   EXPECT_EQ(prima.testi.ambate + " " + prima.testi.ruote + " " + prima.data, "7 Ba 12/3/2005");
   scriviMetodoProva(p, "A", Slot(10, ambata(102)));
   EXPECT_THAT(esiti(), EndsWith("10 non giudicabile: il metodo ha dieci previsioni|"));

@@ -193,6 +193,9 @@ void Fotografo::tutte() {
   scorri(315);
   scatta("vaticla");
 
+  scegli("mnuGestione3");
+  scatta("quadro");
+
   scegli("mnu1metodo1");
   premi("optSelMetodo_1");
   sceglie("cmbMetodo", kMetodo);

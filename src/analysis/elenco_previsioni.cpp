@@ -21,9 +21,7 @@ std::string nonVista(const FileMetodo& metodo, int slot) {
 
 }  // namespace
 
-std::vector<VocePrevisione> elencoPrevisioni(const CartellaProgramma& cartella,
-                                             const ArchivioEstrazioni& archivio, const std::string& metodo) {
-  const auto griglia = LeggiMetodo(cartella, metodo);
+std::vector<VocePrevisione> elencoPrevisioni(const FileMetodo& griglia, const ArchivioEstrazioni& archivio) {
   const RegoleVincita regole(archivio);
   const int ultima = archivio.PrimoIndiceLibero() - 1;
   std::map<int, Decodificatore> decodificatori;  // the statistics start anew with each draw

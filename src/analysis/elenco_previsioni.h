@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "archive/archivio.h"
+#include "methods/metodo.h"
 #include "methods/testi_campi.h"
 
 namespace vaticlo {
@@ -17,10 +18,9 @@ struct VocePrevisione {
   std::string esito;  ///< as esitoInParole(), or why nothing judges it
 };
 
-/// All predictions of a method by slot, those that no scan sees included. Failures of LeggiMetodo(). A slot
-/// whose lists have no end has no texts.
-[[nodiscard]] std::vector<VocePrevisione> elencoPrevisioni(const CartellaProgramma& cartella,
-                                                           const ArchivioEstrazioni& archivio,
-                                                           const std::string& metodo);
+/// All predictions of a method by slot, those that no scan sees included. A slot whose lists have no end has
+/// no texts.
+[[nodiscard]] std::vector<VocePrevisione> elencoPrevisioni(const FileMetodo& griglia,
+                                                           const ArchivioEstrazioni& archivio);
 
 }  // namespace vaticlo

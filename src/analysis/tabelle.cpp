@@ -34,6 +34,27 @@ Tabella tabellaDel(const std::vector<RigaQuadro>& quadro) {
   return tabella;
 }
 
+Tabella tabellaDelle(const std::vector<VocePrevisione>& previsioni) {
+  Tabella tabella{{{"N.", kNumero, 0, "Il posto della previsione nel metodo"},
+                   {"Estrazione", kNumero, 0, "Su cui è calcolata: si gioca dalla successiva"},
+                   {"Data", Colonna::Tipo::Giorno},
+                   {"Telefono"},
+                   {"Ruote"},
+                   {"Ambate"},
+                   {"Ambi"},
+                   {"Sorti"},
+                   {"Colpi", kNumero, 0, "Per quante estrazioni si gioca"},
+                   {"Esito"}},
+                  {}};
+  for (const auto& voce : previsioni) {
+    const auto& testi = voce.testi;
+    const auto colpi = cifre(testi.colpi);
+    tabella.righe.push_back({voce.slot, voce.estrazione, voce.data, testi.numero, testi.ruote, testi.ambate,
+                             testi.ambi, testi.sup, colpi ? Cella(*colpi) : Cella(), voce.esito});
+  }
+  return tabella;
+}
+
 Tabella tabellaDei(const std::vector<Confronto>& confronti) {
   Tabella tabella{{{"Metodo"},
                    {"Previsioni concluse", kNumero},

@@ -231,6 +231,7 @@ QPlainTextEdit* Legame::area(AreaTesto& modello, const QString& nome) {
 ProspettoVista* Legame::prospetto(Prospetto& modello, const QString& nome) {
   auto* widget = chiamato(new ProspettoVista(modello, confine_, vista_), nome);
   segui(modello, [widget] { widget->aggiorna(); });
+  modello.SetFocus = [widget] { widget->setFocus(Qt::OtherFocusReason); };
   return widget;
 }
 

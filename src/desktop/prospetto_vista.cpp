@@ -1,5 +1,6 @@
 #include "desktop/prospetto_vista.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -58,12 +59,15 @@ ProspettoVista::ProspettoVista(Prospetto& modello, const Confine& confine, QWidg
   testa->setResizeContentsPrecision(kRigheMisurate);
   segnaOrdine();
   setSortingEnabled(true);
-  connect(testa, &QHeaderView::sectionResized, this, [this] { larghezzeScelte_ |= !disegnando_; });
+  connect(testa, &QHeaderView::sectionResized, this, [this](int colonna) {
+    // The last one takes what the window leaves it.
+    larghezzeScelte_ |= !disegnando_ && colonna + 1 < righe_->columnCount();
+  });
   connect(this, &QTableView::doubleClicked, this, &ProspettoVista::apri);
 
-  primaSua_ = voce("copia", QStringLiteral("Copia"), &ProspettoVista::copia);
-  primaSua_->setShortcut(QKeySequence::Copy);
-  primaSua_->setShortcutContext(Qt::WidgetShortcut);
+  auto* copia = voce("copia", QStringLiteral("Copia"), &ProspettoVista::copia);
+  copia->setShortcut(QKeySequence::Copy);
+  copia->setShortcutContext(Qt::WidgetShortcut);
   addAction(ordini_->menuAction());
   voce("salvaCsv", QStringLiteral("Salva come CSV..."), &ProspettoVista::salvaCsv);
   voce("salvaPdf", QStringLiteral("Salva come PDF..."), &ProspettoVista::salvaComePdf);
@@ -76,13 +80,6 @@ QAction* ProspettoVista::voce(const char* nome, const QString& caption, void (Pr
   connect(azione, &QAction::triggered, this, fai);
   addAction(azione);
   return azione;
-}
-
-void ProspettoVista::aggiungiVoci(const QList<QAction*>& voci) {
-  auto* linea = new QAction(this);
-  linea->setSeparator(true);
-  insertActions(primaSua_, voci);
-  insertAction(primaSua_, linea);
 }
 
 void ProspettoVista::aggiorna() {
@@ -189,6 +186,9 @@ void ProspettoVista::keyPressEvent(QKeyEvent* evento) {
 
 void ProspettoVista::contextMenuEvent(QContextMenuEvent* evento) {
   QMenu menu(this);
+  for (auto* pulsante : pulsanti_)
+    menu.addAction(pulsante->text(), pulsante, &QAbstractButton::click)->setEnabled(pulsante->isEnabled());
+  menu.addSeparator();
   menu.addActions(actions());
   const bool daTastiera = evento->reason() == QContextMenuEvent::Keyboard && currentIndex().isValid();
   menu.exec(daTastiera ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft())

@@ -4,6 +4,7 @@
 
 #include "desktop/modello_prospetto.h"
 
+class QAbstractButton;
 class QMenu;
 
 namespace vaticlo {
@@ -16,8 +17,8 @@ class ProspettoVista : public QTableView {
 
   /// Draws the model as it is now.
   void aggiorna();
-  /// Entries of the window's own, before those of the table.
-  void aggiungiVoci(const QList<QAction*>& voci);
+  /// The context menu offers these buttons of the window too.
+  void offri(const QList<QAbstractButton*>& pulsanti) { pulsanti_ = pulsanti; }
 
  protected:
   void contextMenuEvent(QContextMenuEvent* evento) override;
@@ -44,7 +45,7 @@ class ProspettoVista : public QTableView {
   const Confine& confine_;
   ModelloProspetto* righe_;
   QMenu* ordini_;
-  QAction* primaSua_ = nullptr;  // the first entry of the table's own
+  QList<QAbstractButton*> pulsanti_;
   int edizione_ = -1;
   bool disegnando_ = false;
   bool larghezzeScelte_ = false;  // by the user

@@ -20,6 +20,7 @@
 #include <atomic>
 
 #include "desktop/carta.h"
+#include "desktop/scelta_da_elenco.h"
 #include "platform/orologio.h"
 #include "platform/scaricamento.h"
 
@@ -86,6 +87,14 @@ std::string ServiziDesktop::chiedi(const std::string& testo, const std::string& 
   colonna->addWidget(pulsanti);
   risposta->setFocus();
   return box.exec() == QDialog::Accepted ? risposta->text().toStdString() : std::string();
+}
+
+std::string ServiziDesktop::scegli(const std::string& testo, const std::string& titolo,
+                                   const std::vector<std::string>& voci) {
+  QStringList nomi;
+  for (const auto& voce : voci) nomi << qt(voce);
+  SceltaDaElenco box(qt(testo), qt(titolo), nomi, padre_);
+  return box.exec() == QDialog::Accepted ? box.scelta().toStdString() : std::string();
 }
 
 std::filesystem::path ServiziDesktop::scegliFile(const std::string& titolo) {

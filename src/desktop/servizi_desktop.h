@@ -20,6 +20,8 @@ class ServiziDesktop : public Servizi {
 
   Risposta mostra(const Messaggio& messaggio) override;
   std::string chiedi(const std::string& testo, const std::string& titolo) override;
+  std::string scegli(const std::string& testo, const std::string& titolo,
+                     const std::vector<std::string>& voci) override;
   std::filesystem::path scegliFile(const std::string& titolo) override;
   void avanzamento(const std::string& lavoro, int percento) override;
   void stampa(const std::string& testo) override;

@@ -10,6 +10,7 @@
 #include "dialogs/frm_metodo.h"
 #include "dialogs/frm_migliore.h"
 #include "dialogs/frm_modifica.h"
+#include "dialogs/frm_quadro.h"
 #include "dialogs/frm_somdif.h"
 #include "dialogs/frm_statistica.h"
 
@@ -34,8 +35,8 @@ QWidget* traQueste(const std::shared_ptr<Finestra>& finestra, const Confine& con
 
 QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine) {
   return traQueste<frmInserisci, frmModifica, frmMetodo, frmInsPrev, frmStatistica, ElencoScansione,
-                   frmSomdif, frmAggiungi, frmCopie, frmGestioneMetodi, frmMigliore, frmInfo>(finestra,
-                                                                                              confine);
+                   frmSomdif, frmAggiungi, frmCopie, frmGestioneMetodi, frmMigliore, frmInfo, frmQuadro>(
+      finestra, confine);
 }
 
 }  // namespace vaticlo

@@ -19,6 +19,7 @@ class frmGestioneMetodi;
 class frmMetodo;
 class frmMigliore;
 class frmModifica;
+class frmQuadro;
 class frmSomdif;
 class frmStatistica;
 
@@ -39,6 +40,7 @@ inline constexpr const char* kPrimoFuoco = "primoFuoco";
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmMetodo>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmMigliore>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmModifica>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmQuadro>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmSomdif>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmStatistica>& frm, const Confine& confine);
 

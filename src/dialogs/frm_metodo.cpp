@@ -69,6 +69,15 @@ void frmMetodo::mostraUltima() {
   visualizza(g.EstrazioneCorrente);
 }
 
+void frmMetodo::mostra(const std::string& nome, int n) {
+  if (n >= estrazione.VScroll1.Max()) mostraUltima();  // the archive has grown
+  metodo.scegliNome(nome);
+  if (estrazione.VScroll1.Value() == n + 1)
+    VScroll1_Change();
+  else
+    estrazione.VScroll1.Value(n + 1);
+}
+
 void frmMetodo::VScroll1_Change() {
   auto& g = programma_.globals;
   g.EstrazioneCorrente = estrazioneDellaBarra(estrazione.VScroll1);

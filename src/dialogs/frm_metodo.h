@@ -20,6 +20,8 @@ class frmMetodo : public Finestra {
   void Form_Load() override;
   void Form_Activate() override { previsioni_.reset(); }
   void archivioNuovo() override;
+  /// The check of one method on a draw of the archive.
+  void mostra(const std::string& nome, int n);
   void VScroll1_Change();
   void optSelMetodo_Click(int indice);
   void cmbMetodo_Click();

@@ -136,10 +136,22 @@ void frmPrincipale::riapri(Finestra& finestra) {
 
 void frmPrincipale::apriRisultati() { apri<frmMigliore>(); }
 
+void frmPrincipale::apriVerifica(const Finestra& chiede, const std::string& metodo, int estrazione) {
+  resta_ = &chiede;
+  try {
+    apri<frmMetodo>();
+  } catch (const RuntimeFailure&) {
+    resta_ = nullptr;
+    throw;
+  }
+  resta_ = nullptr;
+  aperta<frmMetodo>()->mostra(metodo, estrazione);
+}
+
 void frmPrincipale::chiudiTutte(const Finestra* tranne) {
   const auto aperte = finestre_;
   for (const auto& aperta : aperte)
-    if (aperta.finestra.get() != tranne) chiudi(*aperta.finestra);
+    if (aperta.finestra.get() != tranne && aperta.finestra.get() != resta_) chiudi(*aperta.finestra);
 }
 
 void frmPrincipale::archivioNuovo() {

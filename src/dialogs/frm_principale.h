@@ -58,6 +58,7 @@ class frmPrincipale : public Cornice {
   void chiudi(Finestra& finestra) override;
   void riapri(Finestra& finestra) override;
   void apriRisultati() override;
+  void apriVerifica(const Finestra& chiede, const std::string& metodo, int estrazione) override;
   void lavoro(bool inCorso) override;
 
   /// Opens the window of that class, or brings up the one that is open.
@@ -103,6 +104,7 @@ class frmPrincipale : public Cornice {
   std::vector<std::shared_ptr<Finestra>>
       chiuse_;  ///< kept until the next command: an event of theirs may be running
   Finestra* attiva_ = nullptr;
+  const Finestra* resta_ = nullptr;  ///< stays open though another one closes the rest
 };
 
 }  // namespace vaticlo

@@ -12,6 +12,7 @@
 #include "dialogs/frm_modifica.h"
 #include "dialogs/frm_prev.h"
 #include "dialogs/frm_principale.h"
+#include "dialogs/frm_quadro.h"
 #include "dialogs/frm_somdif.h"
 #include "dialogs/frm_statistica.h"
 #include "dialogs/frm_vinc.h"
@@ -93,6 +94,7 @@ constexpr std::array kMenu = {
     VoceMenu{"mnuGestione2", 2, "&Previsioni", nullptr},
     VoceMenu{"mnuGestione21", 3, "&Crea Previsione", apreEditor<false>},
     VoceMenu{"mnuGestione22", 3, "&Modifica Previsione", apreEditor<true>},
+    VoceMenu{"mnuGestione3", 2, "&Quadro dei Metodi", apre<frmQuadro>},
     VoceMenu{"mnuUtility", 1, "&Utility", nullptr},
     VoceMenu{"mnuUtility1", 2, "Previsioni in Gioco", apre<frmPrev>},
     VoceMenu{"mnuUtility2", 2, "Vincenti alle Ultime Estrazioni", apre<frmVinc>},

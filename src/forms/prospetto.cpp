@@ -67,6 +67,7 @@ bool precede(const Chiave& a, const Chiave& b) {
 }  // namespace
 
 void Prospetto::mostra(Tabella tabella) {
+  if (tabella == tabella_) return;
   std::vector<std::string> nomi;
   for (const auto riga : scelte_) nomi.push_back(testoCella(cella(riga, 0)));
   tabella_ = std::move(tabella);

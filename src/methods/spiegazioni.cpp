@@ -12,9 +12,7 @@ std::string previsione(const std::string& metodo, int slot) {
 
 Spiegazione dieciPrevisioni(const std::string& metodo) {
   return {.fatto = "Il metodo \"" + metodo + "\" contiene dieci previsioni: se ne possono leggere nove.",
-          .rimedio =
-              "Rimettete nella cartella Metodi una copia del suo file con meno previsioni, oppure "
-              "eliminatelo con Gestione > Metodi > Modifica Metodo.",
+          .rimedio = "Spostatene una in un altro metodo, o toglietela, con Gestione > Quadro dei Metodi.",
           .capitolo = "La decima previsione di un metodo"};
 }
 

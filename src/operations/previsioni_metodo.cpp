@@ -16,6 +16,10 @@ constexpr int kGiudicabili = FileMetodo::Slot - 1;  // a method with ten predict
 
 bool piena(const FileMetodo& metodo, int slot) { return metodo.EstrazioneCalcolo(slot) != 0; }
 
+bool uguali(const FileMetodo& uno, const FileMetodo& altro) {
+  return std::ranges::equal(uno.ottetti(), altro.ottetti());
+}
+
 CambioMetodo leggi(const Programma& programma, const std::string& nome) {
   richiediMetodo(programma, nome);
   const auto griglia = LeggiMetodo(programma.cartella, nome);
@@ -61,10 +65,17 @@ void scrivi(const Programma& programma, const PassoPrevisioni& passo) {
 
 }  // namespace
 
+CambioMetodo PrevisioniMetodo::leggiOrigine(const std::string& nome) const {
+  auto origine = leggi(programma_, nome);
+  if (vista_ && !uguali(*vista_, origine.prima))
+    throw Rifiuto{"Il metodo \"" + nome + "\" è cambiato nel frattempo: riguardate le sue previsioni!"};
+  return origine;
+}
+
 PassoPrevisioni PrevisioniMetodo::togli(const std::string& metodo, std::vector<int> slot) {
   PassoPrevisioni passo;
   inUnPasso(programma_, [&] {
-    auto cambio = leggi(programma_, metodo);
+    auto cambio = leggiOrigine(metodo);
     togliSlot(cambio, richiediPiene(cambio, std::move(slot)));
     scrivi(programma_, {cambio});
     passo.push_back(std::move(cambio));
@@ -80,7 +91,7 @@ PassoPrevisioni PrevisioniMetodo::copia(const std::string& metodo, std::vector<i
                                         const std::string& verso) {
   PassoPrevisioni passo;
   inUnPasso(programma_, [&] {
-    const auto origine = leggi(programma_, metodo);
+    const auto origine = leggiOrigine(metodo);
     auto cambio = leggi(programma_, verso);
     aggiungi(cambio, origine.prima, richiediPiene(origine, std::move(slot)));
     scrivi(programma_, {cambio});
@@ -93,7 +104,7 @@ PassoPrevisioni PrevisioniMetodo::sposta(const std::string& metodo, std::vector<
                                          const std::string& verso) {
   PassoPrevisioni passo;
   inUnPasso(programma_, [&] {
-    auto origine = leggi(programma_, metodo), cambio = leggi(programma_, verso);
+    auto origine = leggiOrigine(metodo), cambio = leggi(programma_, verso);
     const auto& cartella = programma_.cartella;
     if (std::filesystem::equivalent(fileMetodo(cartella, metodo), fileMetodo(cartella, verso)))
       throw Rifiuto{"La previsione è già nel metodo \"" + metodo + "\"!"};
@@ -112,7 +123,7 @@ bool PrevisioniMetodo::annulla(const PassoPrevisioni& passo) {
   return inUnPasso(programma_, [&] {
     PassoPrevisioni indietro;
     for (const auto& [nome, prima, dopo] : passo) {
-      if (!std::ranges::equal(leggi(programma_, nome).prima.ottetti(), dopo.ottetti()))
+      if (!uguali(leggi(programma_, nome).prima, dopo))
         throw Rifiuto{"Il metodo \"" + nome + "\" è cambiato: non si può più annullare!"};
       indietro.insert(indietro.begin(), {nome, dopo, prima});
     }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "methods/metodo.h"
@@ -25,7 +27,9 @@ using PassoPrevisioni = std::vector<CambioMetodo>;
 /// are then as they were.
 class PrevisioniMetodo {
  public:
-  explicit PrevisioniMetodo(Programma& programma) : programma_(programma) {}
+  /// `vista` is the method that gives as the user has seen it: a step is refused when it is another now.
+  explicit PrevisioniMetodo(Programma& programma, std::optional<FileMetodo> vista = std::nullopt)
+      : programma_(programma), vista_(std::move(vista)) {}
 
   PassoPrevisioni togli(const std::string& metodo, std::vector<int> slot);
   PassoPrevisioni duplica(const std::string& metodo, std::vector<int> slot);
@@ -36,7 +40,10 @@ class PrevisioniMetodo {
   bool annulla(const PassoPrevisioni& passo);
 
  private:
+  [[nodiscard]] CambioMetodo leggiOrigine(const std::string& nome) const;
+
   Programma& programma_;
+  std::optional<FileMetodo> vista_;
 };
 
 }  // namespace vaticlo

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "platform/scaricato.h"
 
@@ -35,6 +36,12 @@ class Servizi {
   virtual Risposta mostra(const Messaggio& messaggio) = 0;
   /// The text typed into an input box; empty when it was cancelled.
   virtual std::string chiedi(const std::string& testo, const std::string& titolo) = 0;
+  /// One of the items, picked from a list; empty when none was. Where there are no lists the item is asked
+  /// for.
+  virtual std::string scegli(const std::string& testo, const std::string& titolo,
+                             const std::vector<std::string>& /*voci*/) {
+    return chiedi(testo, titolo);
+  }
   /// The file that the user picks to be read; an empty path when none.
   virtual std::filesystem::path scegliFile(const std::string& titolo) = 0;
   /// `lavoro` has got that far, in percent; 100 ends it.

@@ -21,12 +21,14 @@ struct Colonna {
   Tipo tipo = Tipo::Testo;
   int decimali = 0;              ///< of its numbers where they stand one below the other
   std::string spiegazione = {};  ///< what it counts, for who points at its head
+  bool operator==(const Colonna&) const = default;
 };
 
 /// Rows under named columns: one table for the screen, for paper and for other programs.
 struct Tabella {
   std::vector<Colonna> colonne;
   std::vector<std::vector<Cella>> righe;
+  bool operator==(const Tabella&) const = default;
 };
 
 /// The field as a person reads it, with a decimal comma; empty for nothing.

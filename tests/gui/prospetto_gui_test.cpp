@@ -81,6 +81,41 @@ class ProspettoGuiTest : public QObject {
     QCOMPARE(QString::fromStdString(v.frm->aperte), QString("tre uno "));
   }
 
+  void theMethodsAreWorkedOnByKeys() {
+    PrincipaleProva v;
+    archivioDi(110).scrivi(v.p);
+    const SlotProva slot{.estrazione = 101, .ruote = {1}, .ambate = {7}};
+    scriviMetodoProva(v.p, "A", {slot, slot});
+    scriviMetodoProva(v.p, "B", std::vector<SlotProva>(10, slot));
+    v.scegli("mnuGestione3");
+    QCOMPARE(v.fuoco(), QString("metodi"));
+    v.premi(Qt::Key_F, Qt::ControlModifier);
+    v.scrivi("b");
+    v.premi(Qt::Key_Down);
+    v.premi(Qt::Key_Return);
+    QCOMPARE(v.fuoco(), QString("previsioni"));
+    QCOMPARE(v.testo("lblPrevisioni"), QString("Previsioni del metodo \"B\""));
+    v.premi(Qt::Key_End, Qt::ControlModifier);
+    v.p.servizi.digitato = "A";
+    v.premi(Qt::Key_S, Qt::AltModifier);
+    v.usa<QTableView>("previsioni").setFocus();
+    v.premi(Qt::Key_A, Qt::ControlModifier);
+    v.premi(Qt::Key_Delete);
+    QCOMPARE(v.detti().size(), 1);
+    QCOMPARE(ContaPrevisioni(LeggiMetodo(v.p.cartella(), "B")), 0);
+    v.premi(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(ContaPrevisioni(LeggiMetodo(v.p.cartella(), "B")), 9);
+    QCOMPARE(ContaPrevisioni(LeggiMetodo(v.p.cartella(), "A")), 3);
+    v.usa<QTableView>("previsioni").setFocus();
+    v.premi(Qt::Key_Home, Qt::ControlModifier);
+    v.premi(Qt::Key_Return);
+    QCOMPARE(v.aperte(), QStringList({"Quadro dei Metodi", "Vaticla"}));
+    QCOMPARE(v.testo("lblnestr") + v.testo("cmbMetodo"), QString("101B"));
+    v.figlia().close();
+    for (int n = 0; n < 2; ++n) v.premi(Qt::Key_Escape);  // the filter, then the window
+    QCOMPARE(v.aperte(), QStringList());
+  }
+
   void itsMenuSavesWhatIsShown() {
     Prova v;
     const QTemporaryDir cartella;
