@@ -102,7 +102,7 @@ TEST(Vaticla, JumpsToDrawsWithPredictionsAndMarksWhatHasWonBesideTheReport) {
       {[&] { frm.optSelMetodo_Click(1); }, "101", vuota, ""},  // Metodo 1
       {[&] { frm.btnSeguente_Click(); }, "102", "", "6V 14N "},
       {[&] { frm.optSelMetodo_Click(0), frm.estrazione.VScroll1.Value(104); }, "103",
-       vuota + " · In verde i numeri che qui hanno vinto", ""}};
+       vuota + " · In verde i numeri vincenti", ""}};
   for (const auto& [fai, estrazione, nota, righe] : passi) {
     fai();
     EXPECT_EQ(frm.estrazione.lblnestr.Caption(), estrazione);

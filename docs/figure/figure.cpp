@@ -216,6 +216,11 @@ void Fotografo::tutte() {
   scegli("mnuUtility3");
   scorri(315);
   scatta("somma-distanza");
+  scegli("mnuUtility4");
+  premi("btnElabora");
+  scatta("caso");
+  scegli("mnuUtility5");
+  scatta("ritardi");
   scegli("mnuInformazioni2");
   scatta("informazioni");
   scegli("mnuInformazioni1");

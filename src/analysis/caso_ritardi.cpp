@@ -14,12 +14,13 @@ CasoDeiRitardi::CasoDeiRitardi(const Ritardi& ritardi, Sorte sorte)
       righe_(static_cast<int>(ritardi.righe.size())),
       ruoteFinoA_(1, 0) {
   for (const int ruote : ritardi.ruote) ruoteFinoA_.push_back(ruoteFinoA_.back() + ruote);
+  for (int n = 0; n <= ruoteFinoA_.back(); ++n) nessuna_.push_back(std::pow(1 - uscita_, n));
 }
 
 double CasoDeiRitardi::frequenzaAttesa() const { return ruoteFinoA_.back() * uscita_; }
 
 double CasoDeiRitardi::assenza(std::size_t da, std::size_t a) const {
-  return std::pow(1 - uscita_, ruoteFinoA_[a] - ruoteFinoA_[da]);
+  return nessuna_[static_cast<std::size_t>(ruoteFinoA_[a] - ruoteFinoA_[da])];
 }
 
 double CasoDeiRitardi::probabilitaRitardo(int almeno) const {

@@ -28,6 +28,7 @@ class CasoDeiRitardi {
   [[nodiscard]] double assenza(std::size_t da, std::size_t a) const;
 
   double uscita_;                ///< the chance to come out on one wheel
+  std::vector<double> nessuna_;  ///< not to come out on n wheels
   int righe_;                    ///< how many numbers (pairs) there are
   std::vector<int> ruoteFinoA_;  ///< wheels drawn in the first n draws
 };

@@ -53,6 +53,8 @@ struct RisultatoProve {
   EsitoProve insieme;              ///< all predictions together
 };
 
+inline constexpr int kProveAlMassimo = 1'000'000;  ///< that anybody may ask for
+
 struct OpzioniProve {
   int prove = 1000;
   std::uint64_t seme = 1;

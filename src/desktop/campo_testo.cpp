@@ -45,8 +45,16 @@ void CampoTestoVista::aggiorna() {
     colori.setColor(QPalette::Base, QColor(colore & 0xFF, colore >> 8 & 0xFF, colore >> 16 & 0xFF));
     colori.setColor(QPalette::Text, Qt::black);
   }
-  if (colori.color(QPalette::Base) != palette().color(QPalette::Base)) setPalette(colori);
-  setToolTip(QString::fromStdString(modello_.Rilievo().empty() ? modello_.esempio : modello_.Rilievo()));
+  const bool rilievo = !modello_.Rilievo().empty();
+  if (rilievo) colori.setColor(QPalette::Text, coloreDi(Tono::Vincita, colori.color(QPalette::Base)));
+  if (colori.color(QPalette::Base) != palette().color(QPalette::Base) ||
+      colori.color(QPalette::Text) != palette().color(QPalette::Text))
+    setPalette(colori);
+  if (auto carattere = font(); carattere.bold() != rilievo) {
+    carattere.setBold(rilievo);
+    setFont(carattere);
+  }
+  setToolTip(QString::fromStdString(rilievo ? modello_.Rilievo() : modello_.esempio));
   setAccessibleDescription(QString::fromStdString(modello_.Rilievo()));
   update();
 }

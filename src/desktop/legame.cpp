@@ -15,6 +15,7 @@
 #include "controls/xpradiobutton.h"
 #include "desktop/area_rapporto.h"
 #include "desktop/con_fuoco.h"
+#include "desktop/grafico_vista.h"
 #include "desktop/immagini.h"
 #include "desktop/prospetto_vista.h"
 #include "desktop/selettore_data.h"
@@ -224,6 +225,12 @@ xpgroupbox* Legame::riquadroDisegnato(Riquadro& modello, const QString& nome) {
 
 QPlainTextEdit* Legame::area(AreaTesto& modello, const QString& nome) {
   auto* widget = chiamato(new AreaRapporto(modello, vista_), nome);
+  segui(modello, [widget] { widget->aggiorna(); });
+  return widget;
+}
+
+GraficoVista* Legame::grafico(Grafico& modello, const QString& nome) {
+  auto* widget = chiamato(new GraficoVista(modello, vista_), nome);
   segui(modello, [widget] { widget->aggiorna(); });
   return widget;
 }

@@ -22,6 +22,8 @@ class QWidget;
 
 namespace vaticlo {
 
+class Grafico;
+class GraficoVista;
 class Prospetto;
 class ProspettoVista;
 class SelettoreDataVista;
@@ -55,6 +57,7 @@ class Legame : public QObject {
   QGroupBox* riquadro(Riquadro& modello, const QString& nome);
   xpgroupbox* riquadroDisegnato(Riquadro& modello, const QString& nome);
   QPlainTextEdit* area(AreaTesto& modello, const QString& nome);
+  GraficoVista* grafico(Grafico& modello, const QString& nome);
   ProspettoVista* prospetto(Prospetto& modello, const QString& nome);
 
   [[nodiscard]] QWidget* vista() const { return vista_; }

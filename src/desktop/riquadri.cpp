@@ -3,8 +3,10 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace vaticlo {
 
@@ -30,6 +32,46 @@ QGroupBox* riquadroCon(Legame& legame, Riquadro& riquadro, const QString& nome, 
   gruppo->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);  // as tall as a line
   dentro->setAccessibleName(gruppo->title());
   return gruppo;
+}
+
+QGroupBox* intervalloEstrazioni(Legame& legame, CampiIntervallo& campi) {
+  auto* gruppo = legame.riquadro(campi.Frame1, QStringLiteral("Frame1"));
+  gruppo->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  auto* riga = new QHBoxLayout(gruppo);
+  int n = 0;
+  for (auto [titolo, nome] : {std::pair{&campi.lblDal, "lblDal"}, {&campi.lblAl, "lblAl"}}) {
+    auto* etichetta = legame.etichetta(*titolo, QLatin1String(nome));
+    auto* campo =
+        legame.campo(campi.txtestr.at(static_cast<std::size_t>(n)), QStringLiteral("txtestr_%1").arg(n));
+    ++n;
+    etichetta->setBuddy(campo);
+    campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 8);
+    campo->setAccessibleName(QStringLiteral("Estrazioni ") + etichetta->text());
+    riga->addWidget(etichetta);
+    riga->addWidget(campo);
+  }
+  auto* date = legame.etichetta(campi.lblDate, QStringLiteral("lblDate"));
+  date->setMinimumWidth(
+      date->fontMetrics().horizontalAdvance(QStringLiteral("dal 00/00/0000 al 00/00/0000")));
+  riga->addWidget(date, 1);
+  return gruppo;
+}
+
+QWidget* opzioniInRiga(Legame& legame, std::span<Opzione> opzioni, const QString& nome) {
+  auto* insieme = new QWidget(legame.vista());
+  auto* riga = new QHBoxLayout(insieme);
+  riga->setContentsMargins(0, 0, 0, 0);
+  riga->setSpacing(14);
+  int n = 0;
+  for (auto& opzione : opzioni) riga->addWidget(legame.opzione(opzione, nome + u'_' + QString::number(n++)));
+  riga->addStretch(1);
+  return insieme;
+}
+
+void inGrassetto(QWidget& widget) {
+  auto carattere = widget.font();
+  carattere.setBold(true);
+  widget.setFont(carattere);
 }
 
 }  // namespace vaticlo

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <span>
+
 #include "desktop/legame.h"
+#include "dialogs/campi_intervallo.h"
 #include "forms/controlli_metodo.h"
 
 namespace vaticlo {
@@ -11,5 +14,14 @@ namespace vaticlo {
 /// A frame around one widget, which is called by the frame's caption.
 [[nodiscard]] QGroupBox* riquadroCon(Legame& legame, Riquadro& riquadro, const QString& nome,
                                      QWidget* dentro);
+
+/// The frame that chooses a range of draws.
+[[nodiscard]] QGroupBox* intervalloEstrazioni(Legame& legame, CampiIntervallo& campi);
+
+/// Options side by side of which one is on; their names end in _0, _1 and so on.
+[[nodiscard]] QWidget* opzioniInRiga(Legame& legame, std::span<Opzione> opzioni, const QString& nome);
+
+/// Lets a label stand out.
+void inGrassetto(QWidget& widget);
 
 }  // namespace vaticlo

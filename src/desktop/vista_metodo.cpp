@@ -68,7 +68,9 @@ QWidget* vista(const std::shared_ptr<frmMetodo>& frm, const Confine& confine) {
   auto* destra = new QVBoxLayout;
   destra->setSpacing(10);
   destra->addWidget(contatori(*legame, *frm));
-  destra->addWidget(legame->etichetta(frm->lblNota, QStringLiteral("lblNota")));
+  auto* nota = legame->etichetta(frm->lblNota, QStringLiteral("lblNota"));
+  nota->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // no text of it widens the window
+  destra->addWidget(nota);
   destra->addWidget(area, 1);
   destra->addLayout(pulsanti);
 

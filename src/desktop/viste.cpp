@@ -2,6 +2,7 @@
 
 #include "dialogs/elenco_scansione.h"
 #include "dialogs/frm_aggiungi.h"
+#include "dialogs/frm_caso.h"
 #include "dialogs/frm_copie.h"
 #include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
@@ -11,6 +12,7 @@
 #include "dialogs/frm_migliore.h"
 #include "dialogs/frm_modifica.h"
 #include "dialogs/frm_quadro.h"
+#include "dialogs/frm_ritardi.h"
 #include "dialogs/frm_somdif.h"
 #include "dialogs/frm_statistica.h"
 
@@ -35,8 +37,8 @@ QWidget* traQueste(const std::shared_ptr<Finestra>& finestra, const Confine& con
 
 QWidget* disegna(const std::shared_ptr<Finestra>& finestra, const Confine& confine) {
   return traQueste<frmInserisci, frmModifica, frmMetodo, frmInsPrev, frmStatistica, ElencoScansione,
-                   frmSomdif, frmAggiungi, frmCopie, frmGestioneMetodi, frmMigliore, frmInfo, frmQuadro>(
-      finestra, confine);
+                   frmSomdif, frmAggiungi, frmCopie, frmGestioneMetodi, frmMigliore, frmQuadro, frmCaso,
+                   frmRitardi, frmInfo>(finestra, confine);
 }
 
 }  // namespace vaticlo

@@ -12,6 +12,7 @@ namespace vaticlo {
 class ElencoScansione;
 class frmAggiungi;
 class frmCopie;
+class frmCaso;
 class frmInfo;
 class frmInserisci;
 class frmInsPrev;
@@ -20,6 +21,7 @@ class frmMetodo;
 class frmMigliore;
 class frmModifica;
 class frmQuadro;
+class frmRitardi;
 class frmSomdif;
 class frmStatistica;
 
@@ -33,6 +35,7 @@ inline constexpr const char* kPrimoFuoco = "primoFuoco";
 [[nodiscard]] QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmAggiungi>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmCopie>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmCaso>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInfo>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInserisci>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine);
@@ -41,6 +44,7 @@ inline constexpr const char* kPrimoFuoco = "primoFuoco";
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmMigliore>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmModifica>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmQuadro>& frm, const Confine& confine);
+[[nodiscard]] QWidget* vista(const std::shared_ptr<frmRitardi>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmSomdif>& frm, const Confine& confine);
 [[nodiscard]] QWidget* vista(const std::shared_ptr<frmStatistica>& frm, const Confine& confine);
 

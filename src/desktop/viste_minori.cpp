@@ -31,6 +31,10 @@ QWidget* vista(const std::shared_ptr<frmInfo>& frm, const Confine& confine) {
   tutto->addWidget(titolo, 0, Qt::AlignCenter);
   tutto->addWidget(legame->etichetta(frm->Label2, QStringLiteral("Label2")), 0, Qt::AlignCenter);
   tutto->addWidget(legame->etichetta(frm->Label3, QStringLiteral("Label3")), 0, Qt::AlignCenter);
+  auto* licenza = legame->etichetta(frm->Label4, QStringLiteral("Label4"));
+  licenza->setWordWrap(true);
+  licenza->setAlignment(Qt::AlignCenter);
+  tutto->addWidget(licenza);
   tutto->addStretch(1);
   return widget;
 }

@@ -3,7 +3,7 @@
 namespace vaticlo {
 
 frmInfo::frmInfo(Programma& /*programma*/, Cornice& cornice)
-    : Finestra(cornice), Label3("Versione " VATICLO_VERSION " · software libero, licenza MIT") {
+    : Finestra(cornice), Label3("Versione " VATICLO_VERSION " · software libero, sorgenti con licenza MIT") {
   Caption("Informazione su");
 }
 

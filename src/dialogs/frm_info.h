@@ -6,7 +6,7 @@
 
 namespace vaticlo {
 
-/// The about window: three lines of text and nothing else.
+/// The about window: four lines of text and nothing else.
 class frmInfo : public Finestra {
  public:
   frmInfo(Programma& programma, Cornice& cornice);
@@ -16,6 +16,8 @@ class frmInfo : public Finestra {
   Etichetta Label1{"Vaticlo"};
   Etichetta Label2{"Archivio, previsioni e verifiche per chi gioca al Lotto"};
   Etichetta Label3;
+  Etichetta Label4{
+      "I grafici sono di QCustomPlot: questo programma ha la licenza GPL, versione 3 o successiva"};
 };
 
 }  // namespace vaticlo

@@ -161,7 +161,7 @@ void frmMetodo::rileva() {
     estrazione.txtestr[f].Rilievo(std::move(perche[f]));
   }
   std::string nota = programma_.globals.ContaGiocabili == 0 ? "Nessuna previsione su questa estrazione" : "";
-  if (vincenti) nota += (nota.empty() ? "" : " · ") + std::string("In verde i numeri che qui hanno vinto");
+  if (vincenti) nota += (nota.empty() ? "" : " · ") + std::string("In verde i numeri vincenti");
   lblNota.Caption(std::move(nota));
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "dialogs/frm_aggiungi.h"
+#include "dialogs/frm_caso.h"
 #include "dialogs/frm_copie.h"
 #include "dialogs/frm_gestione_metodi.h"
 #include "dialogs/frm_info.h"
@@ -13,6 +14,7 @@
 #include "dialogs/frm_prev.h"
 #include "dialogs/frm_principale.h"
 #include "dialogs/frm_quadro.h"
+#include "dialogs/frm_ritardi.h"
 #include "dialogs/frm_somdif.h"
 #include "dialogs/frm_statistica.h"
 #include "dialogs/frm_vinc.h"
@@ -99,8 +101,10 @@ constexpr std::array kMenu = {
     VoceMenu{"mnuUtility1", 2, "Previsioni in Gioco", apre<frmPrev>},
     VoceMenu{"mnuUtility2", 2, "Vincenti alle Ultime Estrazioni", apre<frmVinc>},
     VoceMenu{"mnuUtility3", 2, "Somma/Distanza Estratti", apre<frmSomdif>},
-    VoceMenu{"mnuUtility4", 2, "Estrazioni del Lotto (pagina web)", apreLaPagina<kPaginaEstrazioni>},
-    VoceMenu{"mnuUtility5", 2, "Regole del Lotto (pagina web)", apreLaPagina<kPaginaRegole>},
+    VoceMenu{"mnuUtility4", 2, "Il Metodo e il Caso", apre<frmCaso>},
+    VoceMenu{"mnuUtility5", 2, "Ritardi e Frequenze", apre<frmRitardi>},
+    VoceMenu{"mnuUtility6", 2, "Estrazioni del Lotto (pagina web)", apreLaPagina<kPaginaEstrazioni>},
+    VoceMenu{"mnuUtility7", 2, "Regole del Lotto (pagina web)", apreLaPagina<kPaginaRegole>},
     VoceMenu{"mnuInformazioni", 1, "&?", nullptr},
     VoceMenu{"mnuInformazioni1", 2, "&Guida", [](frmPrincipale& p) { p.apriGuida(); }, "F1"},
     VoceMenu{"mnuInformazioni2", 2, "&Informazioni su....", informazioni},

@@ -73,8 +73,10 @@ void dimostrazione(frmPrincipale& principale) {
 }
 
 constexpr std::array kPulsanti = {
+    PulsanteIniziale{"inizioAggiungi", "&Aggiungi Estrazioni...",
+                     [](frmPrincipale& p) { p.comando("mnu1Aggiungi"); }},
     PulsanteIniziale{"inizioImporta", "&Importa Estrazioni da File...",
-                     [](frmPrincipale& p) { p.comando("mnuUtility4"); }},
+                     [](frmPrincipale& p) { p.comando("mnu1Importa"); }},
     PulsanteIniziale{"inizioDimostrazione", "&Prova con dati inventati", dimostrazione, true},
     PulsanteIniziale{"inizioGuida", "G&uida", [](frmPrincipale& p) { p.apriGuida(); }},
 };

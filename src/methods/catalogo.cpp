@@ -23,6 +23,12 @@ std::vector<std::string> CaricaElencoMetodi(const CartellaProgramma& cartella, c
   return elenco;
 }
 
+std::vector<std::string> metodiDaGiudicare(const CartellaProgramma& cartella, const SceltaMetodo& scelta) {
+  auto elenco = CaricaElencoMetodi(cartella, scelta, NomeSenzaDat::VoceVuota);
+  if (scelta.tutti) std::erase(elenco, "");
+  return elenco;
+}
+
 std::vector<std::string> metodiOfferti(const CartellaProgramma& cartella) {
   std::vector<std::string> offerti = {"Metodo 1", "Metodo 2"};
   try {

@@ -27,6 +27,10 @@ enum class NomeSenzaDat {
                                                           const SceltaMetodo& scelta,
                                                           NomeSenzaDat senzaDat = NomeSenzaDat::Failure);
 
+/// The same for an operation that no stranger in the folder stops: a file that is no method is left out.
+[[nodiscard]] std::vector<std::string> metodiDaGiudicare(const CartellaProgramma& cartella,
+                                                         const SceltaMetodo& scelta);
+
 /// The names that the selection lists offer: "Metodo 1" and "Metodo 2", then every other method of the
 /// folder. A folder that can't be read adds none.
 [[nodiscard]] std::vector<std::string> metodiOfferti(const CartellaProgramma& cartella);

@@ -61,6 +61,12 @@ std::optional<double> numeroDaTesto(std::string_view testo) {
   return negativo ? -valore : valore;
 }
 
+std::optional<int> interoTra(std::string_view testo, int min, int max) {
+  const auto valore = numeroDaTesto(testo);
+  if (!valore || *valore < min || *valore > max || *valore != std::trunc(*valore)) return std::nullopt;
+  return static_cast<int>(*valore);
+}
+
 std::uint8_t inByte(std::string_view testo) { return inIntero<std::uint8_t>(testo); }
 
 std::int16_t inIntero16(std::string_view testo) { return inIntero<std::int16_t>(testo); }

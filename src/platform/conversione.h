@@ -10,6 +10,10 @@ namespace vaticlo {
 /// The value of a text of one to four digits and nothing else.
 [[nodiscard]] std::optional<int> cifre(std::string_view testo);
 
+/// The value of a text that is a whole number from `min` to `max`, with blanks around it at most. Nothing for
+/// any other text.
+[[nodiscard]] std::optional<int> interoTra(std::string_view testo, int min, int max);
+
 /// The value of a text that is a number: an optional sign, digits and an optional decimal comma with digits
 /// behind it, with blanks around it at most. Nothing for any other text.
 [[nodiscard]] std::optional<double> numeroDaTesto(std::string_view testo);

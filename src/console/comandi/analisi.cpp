@@ -18,8 +18,6 @@ namespace vaticlo::comandi {
 
 namespace {
 
-constexpr int kProveAlMassimo = 1'000'000;
-
 /// The methods to look at; nothing, told to the user, when the one named is not there.
 std::optional<std::vector<std::string>> metodiScelti(Sessione& sessione, const Argomenti& argomenti) {
   const auto& cartella = sessione.programma().cartella;
@@ -29,9 +27,7 @@ std::optional<std::vector<std::string>> metodiScelti(Sessione& sessione, const A
         {"Non esiste il file del metodo selezionato!", "Attenzione", Genere::Rifiuto, Icona::Esclamazione});
     return std::nullopt;
   }
-  auto elenco = CaricaElencoMetodi(cartella, {}, NomeSenzaDat::VoceVuota);
-  std::erase(elenco, "");  // a file without ".dat" is no method
-  return elenco;
+  return metodiDaGiudicare(cartella, {});
 }
 
 /// The draws from --dal to --al, by default all of them.
