@@ -1,4 +1,8 @@
+#include <fcntl.h>
+#include <sys/file.h>
+
 #include "archive/data.h"
+#include "platform/descrittore.h"
 #include "sostegno/console_prova.h"
 #include "sostegno/server_prova.h"
 
@@ -127,6 +131,32 @@ TEST_F(Console, ThePredictionThatIsModifiedKeepsWhatIsNotGiven) {
   EXPECT_EQ(esegui("previsione modifica M 1 --ambi 1-2"), 0);
   EXPECT_EQ(esegui("previsione mostra M 1"), 0);
   EXPECT_THAT(detto, EndsWith("Ruote: Ba\nColpi: 10\nAmbate: 8\nAmbi: 1-2\nSorti: \n"));
+}
+
+/// A standard output that looks, when it is given a text, whether another program could take the folder.
+struct UscitaCheGuarda : std::streambuf {
+  explicit UscitaCheGuarda(const std::filesystem::path& radice) : cartella(radice, O_RDONLY | O_DIRECTORY) {}
+  std::streamsize xsputn(const char_type* /*testo*/, std::streamsize n) override {
+    libera += ::flock(cartella.fd(), LOCK_EX | LOCK_NB) == 0 ? '1' : '0';
+    ::flock(cartella.fd(), LOCK_UN);
+    return n;
+  }
+  Descrittore cartella;
+  std::string libera;
+};
+
+TEST_F(Console, HoldsTheFolderNeverWhileItPrints) {
+  archivioDi(3).scrivi(p);
+  scriviMetodoProva(p, "M", {{.estrazione = 2, .ruote = {1}, .ambate = {8}}});
+  for (const auto* comando :
+       {"modifica 1 NUMERI", "cancella 1", "cancella 9", "previsione modifica M 1 --ambi 1-2",
+        "inserisci 14/03/2026 NUMERI", "metodo crea Nuovo", "previsione togli M 1"}) {
+    UscitaCheGuarda uscita(p.radice);
+    auto* prima = std::cout.rdbuf(&uscita);
+    esegui(comando);
+    std::cout.rdbuf(prima);
+    EXPECT_THAT(uscita.libera, MatchesRegex("1+")) << comando;
+  }
 }
 
 TEST_F(Console, TellsASuccessfulUpdateFromARefusedOne) {

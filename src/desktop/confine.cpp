@@ -29,10 +29,20 @@ void Confine::esegui(const std::function<void()>& evento) const {
   try {
     evento();
   } catch (RuntimeFailure& failure) {
+    if (failure.errore() == Errore::CartellaOccupata) return diRiprovare();
     fine_(failure.nella(finestra_));
   } catch (const std::exception& eccezione) {
     fine_(RuntimeFailure(Errore::ErroreInterno, eccezione.what()).nella(finestra_));
   }
+}
+
+// Whoever writes holds the folder first, so nothing has been done yet.
+void Confine::diRiprovare() {
+  QMessageBox box(QMessageBox::Warning, QStringLiteral("Attenzione"),
+                  QStringLiteral("Un altro programma sta scrivendo nella stessa cartella.\n\n"
+                                 "Non è stato cambiato nulla: riprovate tra qualche secondo."),
+                  QMessageBox::Ok, finestraPrincipale());
+  box.exec();
 }
 
 void Confine::terminaProgramma(const RuntimeFailure& failure) {

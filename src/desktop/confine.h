@@ -8,7 +8,8 @@
 namespace vaticlo {
 
 /// The boundary between toolkit and logic: every event of a widget reaches the logic through it. A run-time
-/// failure that nothing caught ends the program with one message box.
+/// failure that nothing caught ends the program with one message box; only that of a folder which another
+/// program holds is told, and the program goes on.
 class Confine {
  public:
   using Fine = std::function<void(const RuntimeFailure&)>;
@@ -22,6 +23,7 @@ class Confine {
   void esegui(const std::function<void()>& evento) const;
 
  private:
+  static void diRiprovare();
   [[noreturn]] static void terminaProgramma(const RuntimeFailure& failure);
 
   Fine fine_;

@@ -46,7 +46,8 @@ bool frmInsPrev::salva() {
     return true;
   } catch (const RifiutoPrevisione& rifiuto) {
     return rifiuta(rifiuto.what());
-  } catch (const RuntimeFailure&) {
+  } catch (const RuntimeFailure& failure) {
+    if (failure.errore() == Errore::CartellaOccupata) throw;  // nothing is wrong with what was typed
     return rifiuta("Errore nella creazione del metodo!");
   }
 }

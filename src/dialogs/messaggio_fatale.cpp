@@ -13,10 +13,6 @@ Spiegazione inGenerale(Errore errore) {
       return {.fatto = "Sul disco non c'è più posto.",
               .rimedio = "Liberate dello spazio e riaprite il programma.",
               .capitolo = kCapitolo};
-    case Errore::CartellaOccupata:
-      return {.fatto = "Un altro programma sta scrivendo nella stessa cartella.",
-              .rimedio = "Aspettate che abbia finito e riaprite il programma.",
-              .capitolo = kCapitolo};
     case Errore::NomeFile:
     case Errore::FileNonTrovato:
     case Errore::DispositivoIO:

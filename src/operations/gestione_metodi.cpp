@@ -2,20 +2,16 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <string_view>
 
 #include "methods/cartella_metodi.h"
 #include "methods/metodo.h"
 #include "operations/copie.h"
 #include "operations/un_passo.h"
-#include "platform/failure.h"
 #include "platform/file_intero.h"
 #include "platform/testo.h"
 
 namespace vaticlo {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -62,9 +58,7 @@ bool GestioneMetodi::elimina(const std::string& nome) {
   return inUnPasso(programma_, [&] {
     richiediMetodo(programma_, nome);
     faiCopia(programma_, GenereCopia::Metodi);
-    std::error_code codice;
-    fs::remove(fileMetodo(programma_.cartella, nome), codice);
-    if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nome);
+    eliminaFile(fileMetodo(programma_.cartella, nome));
   });
 }
 
@@ -72,7 +66,8 @@ bool GestioneMetodi::elimina(const std::string& nome) {
 // or its accents may change.
 void GestioneMetodi::richiediAmmesso(const std::string& nome, const std::string& tranne) const {
   if (nome.empty()) throw Rifiuto{"Bisogna indicare il nome del metodo!"};
-  if (!nomeDiFile(nome)) throw Rifiuto{"Il nome \"" + nome + "\" non può essere quello di un file!"};
+  if (!nomeDiFile(nome))
+    throw Rifiuto{"Il nome \"" + citazione(nome) + "\" non può essere quello di un file!"};
   if (maiuscolo(nome).find(maiuscolo(kEstensione)) != std::string::npos)
     throw Rifiuto{"Il nome del metodo non può contenere \".dat\"!"};
   const auto cercato = formaDiConfronto(nome + std::string(kEstensione));

@@ -30,9 +30,13 @@ bool nonSiMuove(int codice) {
 
 }  // namespace
 
+fs::path FileAccanto::nomeAccanto(const fs::path& destinazione) {
+  return destinazione.parent_path() /
+         ("." + destinazione.filename().string().substr(0, kMassimoNome) + ".nuovo");
+}
+
 FileAccanto::FileAccanto(const fs::path& destinazione)
-    : percorso_(destinazione.parent_path() /
-                ("." + destinazione.filename().string().substr(0, kMassimoNome) + ".nuovo")),
+    : percorso_(nomeAccanto(destinazione)),
       destinazione_(destinazione),
       file_(nuovoFile(percorso_, destinazione)) {}
 

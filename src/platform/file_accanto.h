@@ -14,6 +14,7 @@ class FileAccanto {
  public:
   /// Creates it empty. Failures of Descrittore, told of the destination.
   explicit FileAccanto(const std::filesystem::path& destinazione);
+  [[nodiscard]] static std::filesystem::path nomeAccanto(const std::filesystem::path& destinazione);
   FileAccanto(FileAccanto&&) = delete;
   FileAccanto& operator=(FileAccanto&&) = delete;
   ~FileAccanto();

@@ -38,6 +38,9 @@ void scriviFile(const std::filesystem::path& percorso, std::span<const std::uint
 /// comes back. Failure 53, 57, 61, 70 or 75: the file then has its old name.
 void rinominaFile(const std::filesystem::path& percorso, const std::filesystem::path& nuovo);
 
+/// Takes a file away, from the disk too. Failure 53, 57, 70 or 75: it is still there then.
+void eliminaFile(const std::filesystem::path& percorso);
+
 /// The longest text that is taken from a user, in bytes: far more than any that makes sense.
 inline constexpr std::size_t kMassimoTesto = std::size_t{64} << 20;
 

@@ -143,4 +143,13 @@ void rinominaFile(const fs::path& percorso, const fs::path& nuovo) {
   }
 }
 
+void eliminaFile(const fs::path& percorso) {
+  const BloccoCartella blocco(cartellaDi(percorso));
+  // Under a hidden name it can come back until the folder is on the disk.
+  const auto nascosto = FileAccanto::nomeAccanto(percorso);
+  ::unlink(nascosto.c_str());
+  rinominaFile(percorso, nascosto);
+  ::unlink(nascosto.c_str());
+}
+
 }  // namespace vaticlo

@@ -184,19 +184,9 @@ int renameat2(int da_qui, const char *da, int a_qui, const char *a, unsigned mod
   return VERO(renameat2)(da_qui, da, a_qui, a, modo);
 }
 
-int link(const char *da, const char *a) {
-  if (nostro(a)) FALLISCE("link");
-  return VERO(link)(da, a);
-}
-
 int unlink(const char *percorso) {
   if (nostro(percorso)) FALLISCE("unlink");
   return VERO(unlink)(percorso);
-}
-
-int remove(const char *percorso) {
-  if (nostro(percorso)) FALLISCE("remove");
-  return VERO(remove)(percorso);
 }
 
 int mkdir(const char *percorso, mode_t permessi) {

@@ -2,6 +2,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QScrollBar>
@@ -134,6 +135,21 @@ class RapportiGuiTest : public QObject {
     servizi.stampa("testo");
     QTRY_VERIFY(QToolTip::text().contains("Salva come PDF"));
     QToolTip::hideText();
+  }
+
+  void aFolderThatAnotherProgramHoldsIsToldAndTheProgramGoesOn() {
+    QString detto;
+    QTimer::singleShot(0, this, [&] {
+      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        detto = box->text();
+        box->accept();
+      }
+    });
+    int fine = 0;
+    Confine([&](const RuntimeFailure&) { ++fine; }).esegui([] {
+      throw RuntimeFailure(Errore::CartellaOccupata);
+    });
+    QVERIFY(detto.contains("riprovate") && fine == 0);
   }
 
   void aDownloadIsStoppedByEscAndTheScreenStaysPaintedMeanwhile() {

@@ -4,11 +4,11 @@
 #include "archive/ruota.h"
 #include "console/comandi/comandi.h"
 #include "console/cornice_vuota.h"
+#include "console/passo_muto.h"
 #include "console/sessione.h"
 #include "dialogs/frm_modifica.h"
 #include "dialogs/frm_somdif.h"
 #include "operations/copie.h"
-#include "platform/blocco.h"
 
 namespace vaticlo::comandi {
 
@@ -70,7 +70,7 @@ Esito inserisci(Sessione& sessione, const Argomenti& argomenti) {
 
 Esito modifica(Sessione& sessione, const Argomenti& argomenti) {
   const int n = argomenti.intero("N");
-  const BloccoCartella blocco(sessione.programma().cartella.radice());
+  const PassoMuto passo(sessione.programma().cartella);
   ControlliEstrazione controlli;
   gestione(sessione).Visualizza(controlli, n);
   riempi(controlli, argomenti.tutti("NUMERI"));
@@ -81,7 +81,7 @@ Esito modifica(Sessione& sessione, const Argomenti& argomenti) {
 
 Esito cancella(Sessione& sessione, const Argomenti& argomenti) {
   const int n = argomenti.intero("N");
-  const BloccoCartella blocco(sessione.programma().cartella.radice());
+  const PassoMuto passo(sessione.programma().cartella);
   const int ultima = ApriArchivio(sessione.programma().cartella).PrimoIndiceLibero() - 1;
   if (n < 1 || n > ultima) {
     sessione.servizi.mostra({"L'estrazione n° " + std::to_string(n) + " non c'è: l'archivio ne contiene " +

@@ -3,10 +3,10 @@
 
 #include "console/comandi/comandi.h"
 #include "console/cornice_vuota.h"
+#include "console/passo_muto.h"
 #include "console/sessione.h"
 #include "dialogs/frm_insprev.h"
 #include "operations/previsioni_metodo.h"
-#include "platform/blocco.h"
 
 namespace vaticlo::comandi {
 
@@ -89,7 +89,7 @@ Esito inserisciPrevisione(Sessione& sessione, const Argomenti& argomenti) {
 
 // A slot that the list does not offer stays unchosen, and the editor says what it says of that.
 Esito modificaPrevisione(Sessione& sessione, const Argomenti& argomenti) {
-  const BloccoCartella blocco(sessione.programma().cartella.radice());
+  const PassoMuto passo(sessione.programma().cartella);
   CorniceVuota cornice;
   const auto frm = apri(sessione, cornice, argomenti["METODO"]);
   if (!frm) return kFatto;
