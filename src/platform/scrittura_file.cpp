@@ -4,6 +4,9 @@
 #include <cstdio>
 #include <optional>
 #include <string>
+#include <system_error>
+#include <thread>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -64,6 +67,15 @@ void tagliaA(const Descrittore& file, std::size_t quanti, const fs::path& percor
   if (::ftruncate(file.fd(), static_cast<off_t>(quanti)) != 0) throw failureDiSistema(errno, percorso);
 }
 
+// What frees the blocks of the old file lasts longer than writing the new one. Nobody waits for it.
+void chiudiAParte(Descrittore vecchio) {
+  try {
+    std::thread([tenuto = std::move(vecchio)] {}).detach();
+  } catch (const std::system_error&) {
+    // Closed here instead.
+  }
+}
+
 /// Holds the signals off that would end the program half-way.
 class SegnaliFermi {
  public:
@@ -104,13 +116,14 @@ void scriviFile(const fs::path& percorso, std::span<const std::uint8_t> ottetti,
   const auto file = dietroILink(percorso);
   const auto cartella = cartellaDi(file);
   const BloccoCartella blocco(cartella);
-  const auto vecchio = apriVecchio(file);
+  auto vecchio = apriVecchio(file);
   if (vecchio && come == Scrittura::Nuova)
     throw RuntimeFailure(Errore::FileEsistente, file.filename().string());
   const auto lungo = vecchio ? lunghezza(*vecchio, file) : 0;
   const auto coda = come == Scrittura::Griglia && lungo > dati.size() ? lungo - dati.size() : 0;
   const bool accantoSiPuo = !vecchio || (coda <= kMassimaCoda && ::faccessat(AT_FDCWD, cartella.c_str(),
                                                                              W_OK | X_OK, AT_EACCESS) == 0);
+  bool preso = false;
   if (accantoSiPuo) {
     FileAccanto accanto(file);
     if (vecchio) accanto.prendiPermessi(*vecchio);
@@ -118,9 +131,10 @@ void scriviFile(const fs::path& percorso, std::span<const std::uint8_t> ottetti,
     if (coda > 0) accanto.scrivi(leggiPezzo(*vecchio, dati.size(), coda, file));
     accanto.finisci();
     if (come == Scrittura::Nuova) return accanto.prendiPostoLibero();
-    if (accanto.prendiIlPosto(vecchio.has_value(), blocco)) return;
+    preso = accanto.prendiIlPosto(vecchio.has_value(), blocco);
   }
-  scriviSulPosto(*vecchio, dati, come == Scrittura::Intera, file);
+  if (!preso) return scriviSulPosto(*vecchio, dati, come == Scrittura::Intera, file);
+  if (vecchio) chiudiAParte(std::move(*vecchio));
 }
 
 void rinominaFile(const fs::path& percorso, const fs::path& nuovo) {
