@@ -155,7 +155,7 @@ TEST_F(Console, HoldsTheFolderNeverWhileItPrints) {
     auto* prima = std::cout.rdbuf(&uscita);
     esegui(comando);
     std::cout.rdbuf(prima);
-    EXPECT_THAT(uscita.libera, MatchesRegex("1+")) << comando;
+    EXPECT_THAT(uscita.libera, testing::MatchesRegex("1+")) << comando;
   }
 }
 
