@@ -13,8 +13,9 @@ TEST(Manuale, NamesEveryCommandAndOption) {
     if (comando.fai == nullptr) continue;
     EXPECT_THAT(pagina, HasSubstr("\n\\fB" + comando.nome + "\\fR")) << comando.nome;
     for (const auto& parametro : comando.parametri)
-      if (parametro.nome.starts_with("--"))
+      if (parametro.nome.starts_with("--")) {
         EXPECT_THAT(pagina, HasSubstr("\\fB\\-\\-" + parametro.nome.substr(2) + "\\fR")) << parametro.nome;
+      }
   }
 }
 

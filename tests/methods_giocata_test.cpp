@@ -6,8 +6,8 @@ namespace {
 
 struct Caso {
   const char* nome;
-  TestiPrevisione testi;
-  const char* letta;  ///< "Si gioca: " in front for what is right
+  TestiPrevisione testi;  ///< number, wheels, colpi, ambate, ambi, combinations
+  const char* letta;      ///< "Si gioca: " in front for what is right
 };
 
 void PrintTo(const Caso& caso, std::ostream* dove) { *dove << caso.nome; }
@@ -23,41 +23,38 @@ TEST_P(GiocataLetta, SaysWhatIsPlayedOrWhatIsWrong) {
 INSTANTIATE_TEST_SUITE_P(
     , GiocataLetta,
     testing::Values(
-        Caso{"nothing", {.colpi = "10"}, ""},
+        Caso{"nothing", {"", "", "10", "", "", ""}, ""},
         Caso{"all_kinds",
-             {.ruote = "ba-NAZ-Tutte", .colpi = "1", .ambate = "1; 90", .ambi = "5-6", .sup = "1-2-3;4-5"},
+             {"", "ba-NAZ-Tutte", "1", "1; 90", "5-6", "1-2-3;4-5"},
              "Si gioca: ambate 1, 90 · ambo 5-6 · combinazioni 1-2-3, 4-5 · Bari, Nazionale · gli ambi anche "
              "su "
              "tutte le ruote · 1 colpo"},
         Caso{"no_bet",
-             {.ruote = "Ba", .colpi = "10"},
+             {"", "Ba", "10", "", "", ""},
              "Manca la giocata: ambate, ambi secchi o sorti superiori"},
-        Caso{"no_wheel", {.colpi = "10", .ambate = "90"}, "Mancano le ruote: per esempio Ba-Ca"},
-        Caso{
-            "above_ninety", {.ruote = "Ba", .ambate = "95"}, "95 non è un numero del Lotto: vanno da 1 a 90"},
-        Caso{"zero", {.ruote = "Ba", .ambate = "0"}, "0 non è un numero del Lotto: vanno da 1 a 90"},
-        Caso{"comma",
-             {.ruote = "Ba", .ambate = "1,31"},
-             "\"1,31\" non è un numero: qui si separano con \";\""},
+        Caso{"no_wheel", {"", "", "10", "90", "", ""}, "Mancano le ruote: per esempio Ba-Ca"},
+        Caso{"above_ninety", {"", "Ba", "", "95", "", ""}, "95 non è un numero del Lotto: vanno da 1 a 90"},
+        Caso{"zero", {"", "Ba", "", "0", "", ""}, "0 non è un numero del Lotto: vanno da 1 a 90"},
+        Caso{"comma", {"", "Ba", "", "1,31", "", ""}, "\"1,31\" non è un numero: qui si separano con \";\""},
         Caso{"two_separators",
-             {.ruote = "Ba", .ambate = "1;;2"},
+             {"", "Ba", "", "1;;2", "", ""},
              "Manca un numero: l'elenco finisce o ha due separatori di seguito"},
-        Caso{"twice", {.ruote = "Ba", .ambi = "7-7"}, "Il 7 è due volte in 7-7"},
+        Caso{"twice", {"", "Ba", "", "", "7-7", ""}, "Il 7 è due volte in 7-7"},
         Caso{"three_for_two",
-             {.ruote = "Ba", .ambi = "7-8-9"},
+             {"", "Ba", "", "", "7-8-9", ""},
              "\"7-8-9\" non è un ambo: due numeri, come 15-50"},
         Caso{"six_together",
-             {.ruote = "Ba", .sup = "1-2-3-4-5-6"},
+             {"", "Ba", "", "", "", "1-2-3-4-5-6"},
              "\"1-2-3-4-5-6\" non è una combinazione: da due a cinque numeri, come 15-50-66"},
-        Caso{"wheel_in_full", {.ruote = "Ca-Bari", .ambate = "1"}, "Bari si scrive Ba"},
-        Caso{"wheel_of_the_import", {.ruote = "Rm", .ambate = "1"}, "Roma si scrive Ro"},
+        Caso{"wheel_in_full", {"", "Ca-Bari", "", "1", "", ""}, "Bari si scrive Ba"},
+        Caso{"wheel_of_the_import", {"", "Rm", "", "1", "", ""}, "Roma si scrive Ro"},
         Caso{"tutte_without_ambi",
-             {.ruote = "Ba-Tutte", .ambate = "90"},
+             {"", "Ba-Tutte", "", "90", "", ""},
              "Tutte vale per gli ambi secchi soltanto, e qui non ce ne sono"},
         Caso{"tutte_alone",
-             {.ruote = "tutte", .ambi = "5-6"},
+             {"", "tutte", "", "", "5-6", ""},
              "Con Tutte ci vuole anche una ruota, come Ba-Tutte"}),
-    [](const auto& info) { return info.param.nome; });
+    [](const auto& caso) { return caso.param.nome; });
 
 }  // namespace
 }  // namespace vaticlo::prova

@@ -15,10 +15,7 @@ CampoTestoVista::CampoTestoVista(CampoTesto& modello, QWidget* padre) : QLineEdi
   setToolTip(QString::fromStdString(modello.esempio));
   setPlaceholderText(toolTip());
   if (modello.Locked) setFocusPolicy(Qt::ClickFocus);  // Tab does not stop at fields that only display
-  connect(this, &QLineEdit::textEdited, this, [this] {
-    modello_.Text(displayText().toStdString());
-    if (modello_.Change) modello_.Change();
-  });
+  connect(this, &QLineEdit::textEdited, this, [this] { modello_.Text(displayText().toStdString()); });
 }
 
 void CampoTestoVista::aggiorna() {
