@@ -128,6 +128,9 @@ QWidget* vista(const std::shared_ptr<frmInsPrev>& frm, const Confine& confine) {
   tutto->setSpacing(6);
   tutto->addWidget(sopra);
   tutto->addLayout(centro, 1);
+  // From field to field as one writes them; the way to another draw comes after the buttons.
+  QWidget::setTabOrder(widget->findChild<QWidget*>(QStringLiteral("btnCancella")),
+                       widget->findChild<QWidget*>(QStringLiteral("txtVai")));
   widget->setProperty(kPrimoFuoco, QStringLiteral("cmbMetodo"));
   return widget;
 }

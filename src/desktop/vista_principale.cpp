@@ -15,6 +15,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <QToolTip>
 #include <array>
 
 #include "desktop/barra_di_stato.h"
@@ -65,7 +66,11 @@ class Figlia : public QMdiSubWindow {
   void keyPressEvent(QKeyEvent* tasto) override {
     QMdiSubWindow::keyPressEvent(tasto);
     const bool fermo = QApplication::mouseButtons() == Qt::NoButton;  // Esc ends a dragging too
-    if (tasto->key() == Qt::Key_Escape && fermo) close();
+    if (tasto->key() != Qt::Key_Escape || !fermo) return;
+    if (QToolTip::isVisible())
+      QToolTip::hideText();
+    else
+      close();
   }
   // A window that is hidden, to be shown in another size or to close, does not hand its focus round.
   bool focusNextPrevChild(bool next) override {

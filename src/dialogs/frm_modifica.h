@@ -13,7 +13,7 @@ class frmModifica : public Finestra {
 
   void Form_Load() override;
   void archivioNuovo() override { btnAnnulla_Click(); }
-  void estrazioniAggiunte() override { Form_Activate(); }
+  void estrazioniAggiunte() override {}  // it takes the new last draw when it becomes the active one
   void Form_Activate() override;
   void VScroll1_Change();
   void btnSalva_Click();

@@ -67,7 +67,7 @@ class FiglieGuiTest : public QObject {
     };
     const auto prima = v.finestra.size();
     QVERIFY(prima.height() == 600 && prima.width() < 800);  // which is the width of the screen
-    for (const char* voce : {"mnu1Inserisci", "mnuUtility1", "mnuUtility2", "mnu1metodo1"}) {
+    for (const char* voce : {"mnu1Inserisci", "mnuUtility1", "mnuUtility2"}) {
       v.scegli(voce);
       QVERIFY2(dentro() && v.finestra.size() == prima, voce);
     }

@@ -122,7 +122,8 @@ class PrincipaleGuiTest : public QObject {
     auto* prova = v.finestra.findChild<QPushButton*>("inizioDimostrazione");
     prova->setFocus();
     v.premi(Qt::Key_Space);
-    QTRY_COMPARE(v.detti().size(), 1);
+    QTRY_COMPARE(v.p.servizi.messaggi.size(), 1U);
+    QVERIFY(v.detti().value(0).contains("360 estrazioni"));
     QTRY_VERIFY(testo("inizioArchivio").startsWith("360 estrazioni, l'ultima del 20/09/2001, "));
     QVERIFY(v.finestra.findChild<QPushButton*>("inizioDimostrazione") == nullptr);
     archivioDi(3).scrivi(v.p);  // by another program
