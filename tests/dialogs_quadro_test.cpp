@@ -139,7 +139,7 @@ TEST_F(Quadro, APredictionOpensTheCheckOnItsDraw) {
 }
 
 TEST_F(Quadro, AFolderOfManyMethodsYieldsToTheScreen) {
-  for (int n = 0; n < 500; ++n) scriviMetodoProva(p, "M" + std::to_string(n), {});
+  for (int n = 0; n < 500; ++n) p.scrivi("Metodi/M" + std::to_string(n) + ".dat", "");
   p.servizi.allaPausa = [&] {
     EXPECT_TRUE(frm.occupata() && frm.prgbar.Visible());
     frm.Form_Activate();  // it is under way

@@ -13,6 +13,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
 
@@ -31,6 +32,15 @@ constexpr int kColonneInPiedi = 6;     // a table with more lies across the page
 constexpr int kRigheMisurate = 200;
 constexpr int kTastiNumerati = 10;  // Ctrl+1 to Ctrl+9, then Ctrl+0
 
+/// A field keeps its distance from its neighbours.
+class CampoTabella : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  [[nodiscard]] QString displayText(const QVariant& valore, const QLocale& /*lingua*/) const override {
+    return QChar::Nbsp + valore.toString() + QChar::Nbsp;
+  }
+};
+
 }  // namespace
 
 ProspettoVista::ProspettoVista(Prospetto& modello, const Confine& confine, QWidget* padre)
@@ -40,6 +50,7 @@ ProspettoVista::ProspettoVista(Prospetto& modello, const Confine& confine, QWidg
       righe_(new ModelloProspetto(modello, confine, this)),
       ordini_(new QMenu(QStringLiteral("Ordina per"), this)) {
   setModel(righe_);
+  setItemDelegate(new CampoTabella(this));
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setSelectionMode(modello.quante() == Prospetto::Scelta::Una ? QAbstractItemView::SingleSelection
                                                               : QAbstractItemView::ExtendedSelection);
@@ -181,7 +192,21 @@ void ProspettoVista::keyPressEvent(QKeyEvent* evento) {
     apri(currentIndex());
     return;
   }
+  const bool estremo = evento->key() == Qt::Key_Home || evento->key() == Qt::Key_End;
+  if (estremo && evento->modifiers().testFlag(Qt::ControlModifier)) {
+    // With Ctrl the toolkit would go there and choose nothing.
+    QKeyEvent solo(evento->type(), evento->key(), evento->modifiers() & ~Qt::ControlModifier);
+    QTableView::keyPressEvent(&solo);
+    return;
+  }
   QTableView::keyPressEvent(evento);
+}
+
+// A row is chosen whole: its ends are no places to go to.
+QModelIndex ProspettoVista::moveCursor(CursorAction azione, Qt::KeyboardModifiers modificatori) {
+  if ((azione != MoveHome && azione != MoveEnd) || righe_->rowCount() == 0)
+    return QTableView::moveCursor(azione, modificatori);
+  return righe_->index(azione == MoveHome ? 0 : righe_->rowCount() - 1, std::max(0, currentIndex().column()));
 }
 
 void ProspettoVista::contextMenuEvent(QContextMenuEvent* evento) {

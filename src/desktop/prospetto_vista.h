@@ -23,6 +23,7 @@ class ProspettoVista : public QTableView {
  protected:
   void contextMenuEvent(QContextMenuEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
+  [[nodiscard]] QModelIndex moveCursor(CursorAction azione, Qt::KeyboardModifiers modificatori) override;
   void paintEvent(QPaintEvent* evento) override;
   bool viewportEvent(QEvent* evento) override;
   void selectionChanged(const QItemSelection& scelte, const QItemSelection& lasciate) override;

@@ -6,6 +6,7 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <initializer_list>
 
 #include "controls/xpcmdbutton.h"
 #include "desktop/legame.h"
@@ -46,14 +47,12 @@ QLayout* intervallo(Legame& legame, frmQuadro& frm) {
   return riga;
 }
 
-QWidget* conTitolo(QWidget* sopra, QWidget* tavola, QWidget* sotto) {
+QWidget* inColonna(std::initializer_list<QWidget*> widget, QWidget* elastico) {
   auto* parte = new QWidget;
   auto* colonna = new QVBoxLayout(parte);
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->setSpacing(5);
-  if (sopra != nullptr) colonna->addWidget(sopra);
-  colonna->addWidget(tavola, 1);
-  if (sotto != nullptr) colonna->addWidget(sotto);
+  for (auto* uno : widget) colonna->addWidget(uno, uno == elastico ? 1 : 0);
   return parte;
 }
 
@@ -80,11 +79,17 @@ QWidget* vista(const std::shared_ptr<frmQuadro>& frm, const Confine& confine) {
   auto* previsioni = legame->prospetto(frm->previsioni, QStringLiteral("previsioni"));
   auto* nota = legame->etichetta(frm->lblNota, QStringLiteral("lblNota"));
   nota->setWordWrap(true);
+  auto* intitolazione = new QWidget(widget);
+  auto* riga = new QHBoxLayout(intitolazione);
+  riga->setContentsMargins(0, 0, 0, 0);
+  riga->setSpacing(14);
+  riga->addWidget(titolo);
+  riga->addWidget(nota, 1);
 
   auto* divisione = new QSplitter(Qt::Vertical, widget);
   divisione->setChildrenCollapsible(false);
-  divisione->addWidget(conTitolo(nullptr, metodi, riassunto));
-  divisione->addWidget(conTitolo(titolo, previsioni, nota));
+  divisione->addWidget(inColonna({metodi, riassunto}, metodi));
+  divisione->addWidget(inColonna({intitolazione, previsioni}, previsioni));
   divisione->setStretchFactor(0, 3);
   divisione->setStretchFactor(1, 2);
 

@@ -56,7 +56,7 @@ frmQuadro::frmQuadro(Programma& programma, Cornice& cornice) : Finestra(cornice)
   txtAl.Validate = [this] { return txtAl_Validate(); };
   txtFiltro.Change = [this] { txtFiltro_Change(); };
   metodi.Change = [this] { metodi_Change(); };
-  metodi.Apri = [this] { previsioni.SetFocus(); };
+  metodi.Apri = [this] { metodi_Apri(); };
   previsioni.Change = [this] { previsioni_Change(); };
   previsioni.Apri = [this] { btnVerifica_Click(); };
   btnArchivio.Click = [this] { btnArchivio_Click(); };
@@ -73,7 +73,7 @@ frmQuadro::frmQuadro(Programma& programma, Cornice& cornice) : Finestra(cornice)
 
 void frmQuadro::Form_Load() {
   cornice().chiudiAltre(*this);
-  prendiMisure({9900, 14550, 100, 100});
+  prendiMisure({9900, 15900, 100, 100});
   tuttoArchivio();
   mostraPulsanti();
 }
@@ -272,6 +272,12 @@ void frmQuadro::txtFiltro_Change() {
 
 void frmQuadro::metodi_Change() { mostraPrevisioni(); }
 
+void frmQuadro::metodi_Apri() {
+  if (previsioni.scelte().empty() && !previsioni.mostrate().empty())
+    previsioni.scegli({previsioni.mostrate().front()});
+  previsioni.SetFocus();
+}
+
 void frmQuadro::previsioni_Change() { mostraPulsanti(); }
 
 const RigaQuadro* frmQuadro::rigaScelta() const {
@@ -378,6 +384,7 @@ bool frmQuadro::prova(const std::function<bool()>& fai) {
     rifiuta("Non è stato possibile: " + std::string(failure.what()) + ".\nI metodi sono come prima.");
   }
   aggiorna();
+  previsioni.SetFocus();  // the button may have no more use
   return fatto;
 }
 

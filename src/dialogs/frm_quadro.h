@@ -34,6 +34,7 @@ class frmQuadro : public Finestra {
   void btnArchivio_Click();
   void txtFiltro_Change();
   void metodi_Change();
+  void metodi_Apri();
   void previsioni_Change();
   void btnVerifica_Click();
   void btnTogli_Click();
