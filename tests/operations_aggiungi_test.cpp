@@ -36,12 +36,12 @@ TEST(AddedDraws, AreNoneOfABadServer) {
                             {"/vuoto", risposta("")},
                             {"/uguale", "HTTP/1.1 304 Not Modified\r\nConnection: close\r\n\r\n"}});
   for (const auto& [percorso, detto] : {std::pair{"/accesso", "una pagina web"},
-                                        {"/errore", "l'errore 503"},
+                                        {"/errore", "il codice 503"},
                                         {"/mozzo", "interrotta"},
                                         {"/sbagliato", "riga 2: attesa la forma"},
                                         {"/rovinato", "è rovinato"},
                                         {"/vuoto", "è vuoto"},
-                                        {"/uguale", "l'errore 304"}}) {
+                                        {"/uguale", "il codice 304"}}) {
     p.servizi.messaggi.clear();
     EXPECT_FALSE(estrazioniDaInternet(p.programma, server.indirizzo(percorso)));
     EXPECT_THAT(p.servizi.detti(),

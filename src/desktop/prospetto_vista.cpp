@@ -49,7 +49,10 @@ ProspettoVista::ProspettoVista(Prospetto& modello, const Confine& confine, QWidg
       confine_(confine),
       righe_(new ModelloProspetto(modello, confine, this)),
       ordini_(new QMenu(QStringLiteral("Ordina per"), this)) {
-  setModel(righe_);
+  {
+    const QScopedValueRollback disegnando(disegnando_, true);  // what is chosen already stays so
+    setModel(righe_);
+  }
   setItemDelegate(new CampoTabella(this));
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setSelectionMode(modello.quante() == Prospetto::Scelta::Una ? QAbstractItemView::SingleSelection

@@ -16,7 +16,7 @@ frmCopie::frmCopie(Programma& programma, Cornice& cornice) : Finestra(cornice), 
 }
 
 void frmCopie::Form_Load() {
-  prendiMisure({5400, 8400, 600, 1500});
+  prendiMisure({5400, 9900, 600, 1000});
   rileggi();
   if (elenco_.empty())
     lblNota.Caption(lblNota.Caption() + " Per ora non ce n'è nessuna.");

@@ -75,7 +75,7 @@ std::string motivo(CURLcode esito, long stato) {
     case CURLE_OPERATION_TIMEDOUT:
       return "il server ci mette troppo";
     case CURLE_HTTP_RETURNED_ERROR:
-      return "il server ha risposto con l'errore " + std::to_string(stato);
+      return "il server ha risposto con il codice " + std::to_string(stato);
     case CURLE_TOO_MANY_REDIRECTS:
       return "il server rimanda da un indirizzo all'altro";
     case CURLE_PEER_FAILED_VERIFICATION:

@@ -54,7 +54,6 @@ class ArchivioGuiTest : public QObject {
     QCOMPARE(colonna(v.usa<QAbstractItemView>("copie"), 0), QStringList("archivio-2026-03-14"));
     for (const auto& [risposta, estrazioni] : {std::pair{Risposta::No, 1}, {Risposta::Si, 2}}) {
       v.p.servizi.risposta = risposta;
-      v.usa<QTableView>("copie").selectRow(0);
       v.clicca("btnRipristina");
       QCOMPARE(ApriArchivio(v.p.cartella()).PrimoIndiceLibero() - 1, estrazioni);
     }
