@@ -187,7 +187,7 @@ std::vector<Copia> elencoCopie(const CartellaProgramma& cartella) {
   for (auto& copia : copie) try {
       guardaDentro(copia, leggiTutti(cartellaCopie(cartella) / copia.nome, copia.genere));
     } catch (const RuntimeFailure&) {
-      // One that can't be read is in the list, as if it held nothing.
+      copia.estrazioni = copia.metodi = 0;  // one that can't be read is in the list all the same
     }
   return copie;
 }
@@ -201,7 +201,11 @@ bool ripristinaCopia(Programma& programma, const std::string& nome) {
     if (tutti.empty()) throw Rifiuto{"La copia \"" + nome + "\" è vuota!"};
     provaAConservare(programma, copia->genere, false);
     const auto dove = luogo(programma.cartella, copia->genere);
-    for (const auto& [file, ottetti] : tutti) scriviFile(dove / file, ottetti);
+    const auto presenti = leggiTutti(dove, copia->genere);
+    for (const auto& [file, ottetti] : tutti)
+      if (const auto presente = presenti.find(file);
+          presente == presenti.end() || presente->second != ottetti)
+        scriviFile(dove / file, ottetti);
     if (copia->genere == GenereCopia::Archivio) return;
     for (const auto& file : elencaFile(dove)) {
       std::error_code codice;

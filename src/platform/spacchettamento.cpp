@@ -1,7 +1,6 @@
 #include "platform/spacchettamento.h"
 
 #include <algorithm>
-#include <array>
 #include <memory>
 #include <optional>
 #include <string_view>
