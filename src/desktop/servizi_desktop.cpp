@@ -8,10 +8,12 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProgressDialog>
+#include <QStatusBar>
 #include <QThread>
 #include <QTimer>
 #include <QToolTip>
@@ -31,6 +33,7 @@ namespace {
 constexpr int kAttesaSuggerimento = 250, kDurataSuggerimento = 10'000;  // milliseconds
 constexpr int kAttesaAvanzamento = 300;  // milliseconds; what is done sooner shows no box
 constexpr int kPassoAvanzamento = 100;   // milliseconds
+constexpr int kDurataAvviso = 30'000;    // milliseconds, in the status bar
 
 QString qt(const std::string& testo) { return QString::fromStdString(testo); }
 
@@ -182,7 +185,10 @@ void ServiziDesktop::inDisparte(const std::function<void(const LimitiScaricament
   QApplication::restoreOverrideCursor();
 }
 
-void ServiziDesktop::segnala(const std::string& testo) { suggerisci(qt(testo)); }
+void ServiziDesktop::segnala(const std::string& testo) {
+  if (auto* finestra = qobject_cast<QMainWindow*>(padre_))
+    finestra->statusBar()->showMessage(qt(testo), kDurataAvviso);
+}
 
 void ServiziDesktop::apriPagina(const std::string& indirizzo) {
   QDesktopServices::openUrl(QUrl(qt(indirizzo)));
