@@ -20,7 +20,7 @@ mv "$cartella" "$lavoro/pronta"
 # A line is a command; eval keeps the quotes of its arguments.
 comandi=("inserisci 14/03/2026$(numeri 90)" "modifica 7$(numeri 90)" "cancella 7" "importa '$lavoro/estrazioni.txt'"
   "metodo crea Nuovo" "metodo rinomina 'Metodo 1' Nuovo"
-  "previsione modifica 'Metodo 1' 1 --ruote To --ambate 9")
+  "previsione modifica 'Metodo 1' 1 --ruote To --ambate 9" "metodo elimina 'Metodo 1'")
 printf '2026/03/14\tBA\t1\t2\t3\t4\t5\n' >"$lavoro/estrazioni.txt"
 
 ## Signals, each at most 1 ms after one of the calls by which a command touches the folder.
