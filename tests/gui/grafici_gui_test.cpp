@@ -43,7 +43,9 @@ class GraficiGuiTest : public QObject {
     QCOMPARE(QToolTip::text(), QString("11: ritardo 0, massimo 0, uscito 1 volta"));
     v.premi(Qt::Key_Escape);
     QTRY_VERIFY(!QToolTip::isVisible());
-    QTest::mouseMove(&figura, figura.rect().center());
+    const QPoint centro = figura.rect().center();
+    QMouseEvent sopra(QEvent::MouseMove, centro, figura.mapToGlobal(centro), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(&figura, &sopra);
     QVERIFY(QToolTip::text().contains(": ritardo "));
   }
 
