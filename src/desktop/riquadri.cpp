@@ -68,6 +68,12 @@ QWidget* opzioniInRiga(Legame& legame, std::span<Opzione> opzioni, const QString
   return insieme;
 }
 
+void stessaAltezza(QLayout& riga) {
+  for (int n = 0; n < riga.count(); ++n)
+    if (auto* riquadro = riga.itemAt(n)->widget())
+      riquadro->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+}
+
 void inGrassetto(QWidget& widget) {
   auto carattere = widget.font();
   carattere.setBold(true);

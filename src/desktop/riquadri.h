@@ -6,6 +6,8 @@
 #include "dialogs/campi_intervallo.h"
 #include "forms/controlli_metodo.h"
 
+class QLayout;
+
 namespace vaticlo {
 
 /// The frame that chooses between all methods and one.
@@ -20,6 +22,9 @@ namespace vaticlo {
 
 /// Options side by side of which one is on; their names end in _0, _1 and so on.
 [[nodiscard]] QWidget* opzioniInRiga(Legame& legame, std::span<Opzione> opzioni, const QString& nome);
+
+/// Gives frames side by side the height of the tallest.
+void stessaAltezza(QLayout& riga);
 
 /// Lets a label stand out.
 void inGrassetto(QWidget& widget);

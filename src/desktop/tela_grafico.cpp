@@ -15,6 +15,7 @@ constexpr double kLarghezzaBarre = 0.8;  // of the distance of two places
 constexpr double kLuce = 1.08;           // above the highest value
 constexpr double kLuceConSegni = 1.2;    // the same where marks bear their text there
 constexpr double kFila = 0.09;           // between their texts, of the height
+constexpr int kTacche = 8;               // of an axis, about
 constexpr int kEtichetteVicine = 6;      // pixels between two labels
 const char* const kIndice = "indice";
 
@@ -96,14 +97,17 @@ void linee(QCustomPlot& plot, const Disegno& disegno, const Colori& colori) {
   }
 }
 
-// `fila`: how many marks already bear their text along the upper edge.
-void segna(QCustomPlot& plot, const Segno& segno, const Colori& colori, int fila) {
+void riga(QCustomPlot& plot, const Segno& segno, const Colori& colori) {
   const bool verticale = segno.verso == Segno::Verso::Verticale;
   auto* riga = new QCPItemStraightLine(&plot);
   riga->setPen(penna(colori, segno.ruolo));
   riga->point1->setCoords(verticale ? segno.dove : 0, verticale ? 0 : segno.dove);
   riga->point2->setCoords(verticale ? segno.dove : 1, verticale ? 1 : segno.dove);
+}
 
+// `fila`: how many marks already bear their text along the upper edge.
+void testo(QCustomPlot& plot, const Segno& segno, const Colori& colori, int fila) {
+  const bool verticale = segno.verso == Segno::Verso::Verticale;
   auto* testo = new QCPItemText(&plot);
   testo->setText(qt(segno.testo));
   testo->setFont(plot.font());
@@ -145,6 +149,7 @@ void numeri(QCPAxis& asse) {
   }
   const QSharedPointer<QCPAxisTickerFixed> tacche(new QCPAxisTickerFixed);
   tacche->setTickStep(1);
+  tacche->setTickCount(kTacche);
   tacche->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
   asse.setTicker(tacche);
   asse.setNumberFormat(QStringLiteral("f"));
@@ -201,7 +206,12 @@ TelaGrafico::TelaGrafico(QWidget& padre) : plot_(new QCustomPlot(&padre)) {
   plot_->plotLayout()->addElement(0, 0, titolo);
   plot_->axisRect()->insetLayout()->take(plot_->legend);
   plot_->plotLayout()->insertRow(1);
-  plot_->plotLayout()->addElement(1, 0, plot_->legend);
+  // Alone in its row it would keep the picture as narrow as its entries.
+  auto* riga = new QCPLayoutGrid;
+  plot_->plotLayout()->addElement(1, 0, riga);
+  riga->addElement(0, 0, plot_->legend);
+  riga->addElement(0, 1, new QCPLayoutElement(plot_));
+  riga->setColumnStretchFactor(0, 0.001);
   plot_->plotLayout()->setRowSpacing(0);
   plot_->plotLayout()->setRowStretchFactor(1, 0.001);
   plot_->legend->setVisible(true);
@@ -241,8 +251,9 @@ void TelaGrafico::disegna(const Disegno& disegno, const QPalette& palette, const
     barre(*plot_, disegno, colori);
     linee(*plot_, disegno, colori);
     int fila = 0;
+    for (const auto& segno : disegno.segni) riga(*plot_, segno, colori);
     for (const auto& segno : disegno.segni)
-      segna(*plot_, segno, colori, segno.verso == Segno::Verso::Verticale ? fila++ : 0);
+      testo(*plot_, segno, colori, segno.verso == Segno::Verso::Verticale ? fila++ : 0);
     if (!disegno.nomi.empty()) {
       plot_->setViewport(plot_->rect());  // the axes get their width
       plot_->replot(QCustomPlot::rpImmediateRefresh);

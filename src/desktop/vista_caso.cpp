@@ -66,8 +66,8 @@ QWidget* figure(Legame& legame, frmCaso& frm) {
   accanto->setChildrenCollapsible(false);
   accanto->addWidget(legame.grafico(frm.grafico, QStringLiteral("grafico")));
   accanto->addWidget(legame.prospetto(frm.cifre, QStringLiteral("cifre")));
-  accanto->setStretchFactor(0, 3);
-  accanto->setStretchFactor(1, 2);
+  accanto->setStretchFactor(0, 1);
+  accanto->setSizes({600, 360});
   colonna->addWidget(accanto, 1);
   return sotto;
 }
@@ -83,13 +83,14 @@ QWidget* vista(const std::shared_ptr<frmCaso>& frm, const Confine& confine) {
   scelte->addWidget(sceltaMetodo(*legame, frm->metodo), 1);
   scelte->addWidget(intervalloEstrazioni(*legame, frm->estrazioni));
   scelte->addWidget(prove(*legame, *frm));
+  stessaAltezza(*scelte);
 
   auto* divisione = new QSplitter(Qt::Vertical, widget);
   divisione->setChildrenCollapsible(false);
   divisione->addWidget(legame->prospetto(frm->confronti, QStringLiteral("confronti")));
   divisione->addWidget(figure(*legame, *frm));
-  divisione->setStretchFactor(0, 1);
-  divisione->setStretchFactor(1, 3);
+  divisione->setStretchFactor(1, 1);
+  divisione->setSizes({130, 400});
 
   auto* tutto = new QVBoxLayout(widget);
   tutto->setContentsMargins(14, 12, 14, 12);

@@ -26,6 +26,7 @@ QWidget* vista(const std::shared_ptr<frmRitardi>& frm, const Confine& confine) {
   scelte->addWidget(riquadroCon(*legame, frm->Frame3, QStringLiteral("Frame3"),
                                 opzioniInRiga(*legame, frm->optSorte, QStringLiteral("optSorte"))));
   scelte->addWidget(intervalloEstrazioni(*legame, frm->estrazioni), 1);
+  stessaAltezza(*scelte);
 
   auto* sopra = new QWidget(widget);
   auto* figura = new QVBoxLayout(sopra);
