@@ -1,7 +1,5 @@
 #include "check/previsioni_per_estrazione.h"
 
-#include <iterator>
-
 #include "archive/regole.h"
 #include "methods/giudizio.h"
 #include "methods/metodo.h"

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "analysis/confronto.h"
-#include "archive/archivio.h"
 #include "dialogs/campi_intervallo.h"
 #include "dialogs/figure_caso.h"
 #include "forms/controlli.h"
