@@ -82,9 +82,9 @@ class CampoTesto : public Controllo {
     Mask("");
     Text(std::move(testo));
   }
-  std::string esempio;           ///< what a right text looks like, shown as a hint
-  bool Locked = false;           ///< it only displays
-  bool InvioComeTab = false;     ///< Enter moves on to the next field
+  std::string esempio;        ///< what a right text looks like, shown as a hint
+  bool Locked = false;        ///< it only displays
+  bool InvioComeTab = false;  ///< Enter moves on to the next field
   /// The focus is about to leave: true keeps it in the field.
   std::function<bool()> Validate;
   std::function<void()> Change;  ///< the user has typed
