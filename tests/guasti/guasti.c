@@ -187,7 +187,15 @@ int renameat2(int da_qui, const char *da, int a_qui, const char *a, unsigned mod
 }
 
 int unlink(const char *percorso) {
-  if (nostro(percorso)) FALLISCE("unlink");
+  if (nostro(percorso)) {
+    FALLISCE("unlink");
+    if (*cosa == 'c' && quanti_mossi < NOMI) {
+      snprintf(mossi[quanti_mossi].da, sizeof mossi->da, "%s", percorso);
+      snprintf(mossi[quanti_mossi].a, sizeof mossi->a, "%s/.guasti.%d", cartella, quanti_mossi);
+      memcpy(mossi[quanti_mossi].vecchio, mossi[quanti_mossi].a, sizeof mossi->a);
+      if (VERO(link)(percorso, mossi[quanti_mossi].a) == 0) ++quanti_mossi;
+    }
+  }
   return VERO(unlink)(percorso);
 }
 
