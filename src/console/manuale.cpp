@@ -39,7 +39,9 @@ std::string sinossi(const Comando& comando) {
   std::string testo = "\\fB" + inRoff(comando.nome) + "\\fR";
   for (const auto& parametro : comando.parametri) {
     const auto valore = parametro.quanti == 0 ? "" : " \\fI" + inRoff(parametro.tipo) + "\\fR";
-    if (!opzione(parametro))
+    if (parametro.facoltativo)
+      testo += " [\\fI" + inRoff(parametro.nome) + "\\fR]";
+    else if (!opzione(parametro))
       testo += " \\fI" + inRoff(parametro.nome) + "\\fR" + (parametro.quanti > 1 ? "..." : "");
     else if (parametro.necessario)
       testo += " \\fB" + inRoff(parametro.nome) + "\\fR" + valore;
