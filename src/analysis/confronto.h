@@ -41,9 +41,9 @@ struct Confronto {
   [[nodiscard]] double probabilitaAlPiu() const { return (1.0 + alPiu) / (1.0 + prove); }
 };
 
-/// Would a blind choice have done as well? A comparison for each method that has a concluded prediction, in
-/// their order, and after them, when they are two or more, one for all together under the name "Tutti".
-/// `fermata` and `avanzamento` as for provaIlCaso().
+/// Whether a blind choice would have done as well: a comparison for each method that has a concluded
+/// prediction, in their order, and after them, when they are two or more, one for all together under the name
+/// "Tutti". `fermata` and `avanzamento` as for provaIlCaso().
 [[nodiscard]] std::vector<Confronto> confrontaColCaso(const std::vector<MetodoGiudicato>& metodi,
                                                       const ArchivioEstrazioni& archivio,
                                                       const OpzioniProve& opzioni,

@@ -12,7 +12,7 @@ namespace vaticlo {
 
 namespace {
 
-/// The hits of the winning colpo, each told once, though the statistics count some several times.
+/// The hits of the winning colpo, each named once, though the statistics count some several times.
 class Vincite : public EsitoColpo {
  public:
   [[nodiscard]] std::string testo() const {

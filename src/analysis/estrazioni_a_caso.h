@@ -8,7 +8,7 @@
 
 namespace vaticlo {
 
-/// An archive of chance that is nowhere kept: what a wheel draws is worked out from the seed, the run, the
+/// An archive of chance that is not stored: what a wheel draws is worked out from the seed, the run, the
 /// draw and the wheel alone, in any order and by any thread. All sets of five of the ninety numbers are
 /// equally likely, to one part in a thousand million.
 class EstrazioniACaso {

@@ -50,7 +50,8 @@ int cercaData(const ArchivioEstrazioni& archivio, const DataCercata& data, int u
   avanza([&](int d) { return archivio(d, 0, 4) == data.secolo; });
   avanza([&](int d) { return archivio(d, 0, 3) == data.anno; });
   avanza([&](int d) { return archivio(d, 0, 2) == data.mese; });
-  // Meant: days alone are compared here, whatever month the walk gets into.
+  // Meant: days alone are compared here, whatever month the walk gets into (guide: "La ricerca di
+  // un'estrazione").
   avanza([&](int d) { return archivio(d, 0, 1) >= data.giorno || d >= ultima; });
   return i;
 }

@@ -63,9 +63,9 @@ struct DataCercata {
 };
 
 /// The draw of a date, by four walks with one index: to its century, on to its year, to its month, then to a
-/// day not before its own. None tests again what an earlier one met, so a month that the year has not is
-/// found in a later year, and a walk goes on through the free slots. The last walk ends at draw `ultima` when
-/// one is given. MaxEstrazioni + 1 when a walk runs off the grid.
+/// day not before its own. None tests again what an earlier one found, so a month that the year does not
+/// have is found in a later year, and a walk goes on through the free slots. The last walk ends at draw
+/// `ultima` when one is given. MaxEstrazioni + 1 when a walk runs off the grid.
 [[nodiscard]] int cercaData(const ArchivioEstrazioni& archivio, const DataCercata& data,
                             int ultima = ArchivioEstrazioni::MaxEstrazioni + 1);
 

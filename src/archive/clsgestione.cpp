@@ -9,7 +9,8 @@ namespace vaticlo {
 
 namespace {
 
-// Meant: a draw of another century becomes one of 20xx with its first save.
+// Meant: a draw of another century becomes one of 20xx with its first save (guide: "Gli anni prima del
+// 2000").
 constexpr int kSecoloDiOgniSalvataggio = 20;
 
 int ruotaDelCampo(int f) { return 1 + f / ArchivioEstrazioni::Colonne; }
@@ -63,13 +64,13 @@ void clsGestione::cancella(SchedaEstrazione& frm, std::int16_t n) {
   auto archivio = ApriArchivio(cartella_);
   const int libero = archivio.PrimoIndiceLibero();
   // Meant: rows 0 to 10 move down and row 11, the Nazionale, stays, so that each later draw takes that of the
-  // draw before it.
+  // draw before it (guide: "Eliminare un'estrazione di mezzo").
   for (int r = n; r < libero; ++r)
     for (int j = 0; j < kRuote; ++j)
       for (int k = 1; k <= ArchivioEstrazioni::Colonne; ++k) archivio(r, j, k) = archivio(r + 1, j, k);
   ScriviArchivio(cartella_, archivio);
   blocco.reset();
-  // What is shown is the grid that was written: the draw is gone, and no second reading can fail to say so.
+  // Shown is the grid just written: a second reading could fail and hide that the draw is gone.
   frm.VScroll1_Max(libero - 1);
   mostra(frm, archivio, n);
 }

@@ -30,7 +30,7 @@ class SchedaEstrazione {
   virtual ~SchedaEstrazione() = default;
 
   /// Takes the mask away, then sets the text. Fails with Errore::ElementoInesistente for a field that the
-  /// dialog has not.
+  /// dialog does not have.
   virtual void txtestr_Mostra(int f, const std::string& testo) = 0;
   virtual void lbldataestr_Caption(const std::string& testo) = 0;
   virtual void lblnestr_Caption(const std::string& testo) = 0;

@@ -8,11 +8,11 @@ namespace vaticlo {
 
 using Data = std::chrono::year_month_day;
 
-/// The day of a calendar; nothing when none has it.
+/// The day with these numbers; nothing when there is no such day.
 [[nodiscard]] std::optional<Data> dataDiCalendario(int giorno, int mese, int anno);
 
 /// Day, month and year separated by "/", "-" or ".", the year in four or in two digits (00 to 29 is 20xx, 30
-/// to 99 is 19xx), with blanks around at most. Nothing for any other text and for a day that no calendar has.
+/// to 99 is 19xx), with blanks around at most. Nothing for any other text and for a day that does not exist.
 [[nodiscard]] std::optional<Data> dataDaTesto(std::string_view testo);
 
 /// A date as it is typed into a date picker: in those forms, or in eight or six digits without anything

@@ -21,7 +21,7 @@ class ErroreImportazione : public std::runtime_error {
 /// `yyyy/mm/dd<TAB>BA<TAB>58<TAB>22<TAB>47<TAB>49<TAB>69`, lines ended by LF or CR LF, with blanks and empty
 /// lines at the ends of lines and text at most. All lines of one date are one draw; a wheel without a line
 /// keeps 0 in its cells. Throws ErroreImportazione at the first line
-/// that is not right. `avanzamento` is told each percent of the text that is done.
+/// that is not right. `avanzamento` is called for each percent of the text that is done.
 [[nodiscard]] ArchivioEstrazioni importaEstrazioni(std::string_view testo,
                                                    const std::function<void(int)>& avanzamento = {});
 

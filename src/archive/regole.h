@@ -36,22 +36,22 @@ class InsiemeRuote {
   unsigned righe_;
 };
 
-/// What a hit is. The rules of the game stand here alone; when a judge stops, what it counts and what it
-/// writes is its own affair. A bet's number may be any byte: a 0 is found in an empty cell like any other
+/// What a hit is. The rules of the game are here and nowhere else; when to stop, what to count and what to
+/// write is up to each judge. A bet's number may be any byte: a 0 is found in an empty cell like any other
 /// value. What is read of a draw is kept for the next bet, so the grid must not change while the rules look
 /// at it.
 class RegoleVincita {
  public:
   explicit RegoleVincita(const ArchivioEstrazioni& archivio);
 
-  /// The number is one of the five of the wheel; the position plays no part. Wheel 0 is the date row and is
-  /// read like the others, which is meant. Failure 9 for a draw or a wheel outside the grid.
+  /// The number is one of the five of the wheel; the position plays no part. Meant: wheel 0 is the date
+  /// row and is read like the others. Fails with Errore::Indice for a draw or a wheel outside the grid.
   [[nodiscard]] bool ambata(int numero, int ruota, int estrazione) const;
 
-  /// The wheels, 1 to 11, on which both numbers are. Failure 9 for a draw outside the grid.
+  /// The wheels, 1 to 11, on which both numbers are. Fails with Errore::Indice for a draw outside the grid.
   [[nodiscard]] InsiemeRuote ambo(int a, int b, int estrazione) const;
 
-  /// The numbers of the combination that are on the wheel, in the combination's order, each place for itself;
+  /// The numbers of the combination that are on the wheel, in the combination's order, each place counted;
   /// none for a wheel that is not 1 to 11. Two to five of them are a hit (ambo, terno, quaterna, cinquina),
   /// no other count.
   [[nodiscard]] std::vector<int> sorte(std::span<const std::int16_t> combinazione, int ruota,

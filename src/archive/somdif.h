@@ -40,7 +40,7 @@ enum class TipoSomDif { Ciclometrica, Matematica, Somma };
 /// The values of one draw: [column][wheel - 1]. A missing number counts as 0, with no test.
 using ValoriSomDif = std::array<std::array<int, kRuoteSomDif>, kCoppiePosizioni.size()>;
 
-/// Failure 9 for a draw outside the grid.
+/// Fails with Errore::Indice for a draw outside the grid.
 [[nodiscard]] ValoriSomDif CalcolaSomDif(const ArchivioEstrazioni& archivio, int estrazione, TipoSomDif tipo);
 
 }  // namespace vaticlo

@@ -26,7 +26,8 @@ void clsMetodo::ricerca([[maybe_unused]] int estrazione) {
   try {
     ScorriMetodi();
   } catch (const RuntimeFailure&) {
-    // The one trap of the run.
+    // What was written stays, and the run ends here. Meant: nobody is told (guide: "La decima previsione di
+    // un metodo").
   }
 }
 
@@ -72,8 +73,8 @@ bool clsMetodo::ControllaColpi(int colpi) {
     vinto |= giudicaColpo(g_.previsione, regole_, d, FlagTutte::PrimaRuota, *this);
   }
   if (vinto) return true;
-  // One draw stricter than the play period: with all colpi played and lost, the last one on the last draw, a
-  // prediction is still in play. Meant.
+  // Meant: one draw stricter than the play period. With all colpi played and lost, the last one on the last
+  // draw, a prediction is still in play (guide: "Le parole degli esiti").
   if (g_.EstrazioneBase + ColpoCorrente_ <= g_.UltimaEstrazione) {
     rapporto_.riga(kRigaNegativo);
   } else {

@@ -33,7 +33,7 @@ struct SceltaVerifica {
 /// rilascia().
 class clsMetodo : private EsitoColpo {
  public:
-  /// Failure 75 or 76 when the archive or the report can't be opened.
+  /// Fails with Errore::AccessoAlFile or PercorsoNonTrovato when the archive or the report can't be opened.
   clsMetodo(Programma& programma, SceltaVerifica scelta);
 
   /// A whole run. Any failure inside ends it silently: what was written stays, the counters keep their
@@ -41,17 +41,17 @@ class clsMetodo : private EsitoColpo {
   void ricerca(int estrazione);
 
   /// Closes the report. Only then are report and counters final. A report that the disk did not take whole
-  /// is noted in Globals; a failing write ends no run, the last one neither.
+  /// is noted in Globals; a failing write ends no run, not even the last one.
   void rilascia();
 
   [[nodiscard]] std::string get_data(int estrazione) const { return archivio_.DataEstrazione(estrazione); }
 
-  // Evaluators and position tables that no run uses; they belong to the check all the same.
+  // Evaluators and position tables, part of the class by contract; ricerca() does without them.
 
   /// Two to five of the five numbers on the wheel; only wheels 1 to 10 are looked at.
   bool ControllaCinquina(const std::array<int, 5>& numeri, int ruota, int estrazione);
-  /// Two of the three numbers on the wheel, or all three on any wheel from 1 to 10. Failure 9 for an index
-  /// (from 1) that `Terzine` has not.
+  /// Two of the three numbers on the wheel, or all three on any wheel from 1 to 10. Fails with
+  /// Errore::Indice for an index (from 1) that `Terzine` does not have.
   bool ControllaTerzina(int ruota, int indice, int estrazione);
   void DistanzePosizioni(int estrazione);
   void DifferenzePosizioni(int estrazione);

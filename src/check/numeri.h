@@ -3,7 +3,7 @@
 namespace vaticlo {
 
 /// The number helpers of the check: relations between numbers of the game (n, a, b from 1 to 90) that players
-/// use. No report of the program needs them yet.
+/// use. Part of the check by contract, whether or not a report needs them.
 [[nodiscard]] int vert(int n);         ///< reversed: 12 gives 21; 11 gives 19 and back, 9 gives 90 and back
 [[nodiscard]] int Diametrale(int n);   ///< the number opposite on the circle of ninety
 [[nodiscard]] int Somma30(int n);      ///< the number a third of the circle on

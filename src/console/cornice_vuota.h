@@ -4,7 +4,7 @@
 
 namespace vaticlo {
 
-/// The main window of a program that has none: a dialog is alone, and closing it means nothing.
+/// The main window of a program without windows: no other dialog is open, and closing one does nothing.
 class CorniceVuota : public Cornice {
  public:
   void chiudiAltre(Finestra& /*tranne*/) override {}

@@ -26,7 +26,7 @@ ParoleDellaRiga paroleDellaRiga(std::string_view riga) {
     } else if (c == virgolette) {
       virgolette = 0;
     } else if (c == '\\' && virgolette != '\'') {
-      // Within double quotes a backslash is one, except in front of what ends or escapes them.
+      // Within double quotes a backslash stands for itself, except before a quote or a backslash.
       const bool segue = i + 1 < riga.size();
       if (!segue) return {{}, "finisce con una barra rovesciata: un comando sta su una riga sola"};
       const char prossimo = riga[i + 1];

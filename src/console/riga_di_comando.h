@@ -17,7 +17,7 @@ struct Ordine {
   std::optional<std::string> cartella;  ///< the program folder, when the line gives one
 };
 
-/// Reads command lines by the table of commands. It is made once and reads any number of them.
+/// Reads command lines by the table of commands. One object reads any number of them.
 class RigaDiComando {
  public:
   enum class Luogo { Terminale, File };  ///< a line of a file has no folder of its own and no further file

@@ -30,7 +30,7 @@ class ServiziConsole : public Servizi {
   /// What runs whenever the logic yields to pending events.
   void eventi(std::function<void()> eventi) { eventi_ = std::move(eventi); }
 
-  /// A message told of a refusal since dimentica().
+  /// A refusal has been shown since dimentica().
   [[nodiscard]] bool rifiutato() const { return rifiutato_; }
   void dimentica() { rifiutato_ = false; }
 

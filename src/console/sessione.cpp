@@ -15,8 +15,8 @@ namespace {
 
 fs::path cartellaEseguibile() { return fs::read_symlink("/proc/self/exe").parent_path(); }
 
-// The status of a command whose own text may not have reached the standard output. What is stored is stored:
-// whoever is told of an error stores it a second time.
+// The status of a command whose own text may not have reached the standard output. What was stored is
+// no error: somebody who reads of one would store it a second time.
 Esito dopoLaStampa(const Comando& comando, Esito esito) {
   std::cout.flush();
   if (std::cout) return esito;

@@ -12,7 +12,7 @@ namespace vaticlo {
 /// of scriviFile().
 void stampa(const Tabella& tabella, const Argomenti& argomenti, const std::function<void()>& testo);
 
-/// The same with the table itself as text, its columns in line.
+/// The same with the table itself as text, its columns aligned.
 void stampa(const Tabella& tabella, const Argomenti& argomenti);
 
 }  // namespace vaticlo

@@ -25,7 +25,7 @@ class ControlloDisegnato : public QAbstractButton {
   void KeyDown(int tasto, Qt::KeyboardModifiers modificatori);
   void KeyPress(const QString& carattere);
   void KeyUp(int tasto, Qt::KeyboardModifiers modificatori);
-  /// Points are in the control's coordinates. A move is told of inside the control alone.
+  /// Points are in the control's coordinates. Moves are reported inside the control only.
   void MouseDown(Qt::MouseButton pulsante, Qt::KeyboardModifiers modificatori, QPoint dove);
   void MouseMove(Qt::MouseButtons pulsanti, Qt::KeyboardModifiers modificatori, QPoint dove);
   void MouseUp(Qt::MouseButton pulsante, Qt::KeyboardModifiers modificatori, QPoint dove);

@@ -34,7 +34,7 @@ class StatoOpzione : public StatoControllo {
   /// whatever containers they stand in, and this one on. `Click` must not destroy the control.
   void clicca();
 
-  /// A move counts inside only: here, unlike on a command button, one outside does not switch `Timer1` on.
+  /// Only a move inside counts: one outside does not switch `Timer1` on, unlike on a command button.
   void MouseMove(bool dentro, bool sinistro) override;
 
   [[nodiscard]] AspettoOpzione aspetto() const;

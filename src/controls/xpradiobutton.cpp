@@ -71,7 +71,8 @@ const QWidget* xpradiobutton::finestra() const {
 std::vector<xpradiobutton*> xpradiobutton::gruppo() const {
   std::vector<xpradiobutton*> opzioni;
   for (xpradiobutton* opzione : finestra()->findChildren<xpradiobutton*>()) {
-    if (opzione->finestra() == finestra()) opzioni.push_back(opzione);  // windows nest, groups do not
+    if (opzione->finestra() == finestra())
+      opzioni.push_back(opzione);  // not those of a window inside this one
   }
   return opzioni;
 }

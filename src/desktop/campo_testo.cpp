@@ -68,7 +68,7 @@ void CampoTestoVista::paintEvent(QPaintEvent* evento) {
 void CampoTestoVista::focusInEvent(QFocusEvent* evento) {
   QLineEdit::focusInEvent(evento);
   if (evento->reason() == Qt::ActiveWindowFocusReason && selezione_.second > 0)
-    setSelection(selezione_.first, selezione_.second);  // the focus was away, but nothing was left
+    setSelection(selezione_.first, selezione_.second);  // the window was away, the field was not left
   else if (evento->reason() != Qt::ActiveWindowFocusReason && evento->reason() != Qt::MouseFocusReason &&
            !isReadOnly())
     selectAll();
@@ -90,7 +90,7 @@ void CampoTestoVista::keyPressEvent(QKeyEvent* evento) {
 
 void CampoTestoVista::mousePressEvent(QMouseEvent* evento) {
   QLineEdit::mousePressEvent(evento);
-  // The blanks of the mask behind the digits are no place to type at.
+  // The blanks of the mask after the digits are no place to type at.
   if (hasSelectedText() || maschera_.isEmpty()) return;
   auto cifre = displayText();
   while (cifre.endsWith(QLatin1Char(' '))) cifre.chop(1);

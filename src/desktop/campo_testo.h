@@ -7,7 +7,8 @@
 
 namespace vaticlo {
 
-/// A text field: masked digits, Enter as Tab, as its model asks for. What the focus finds in it is selected.
+/// A text field: masked digits, Enter as Tab, as its model asks for. Its content is selected when the focus
+/// comes.
 class CampoTestoVista : public QLineEdit {
  public:
   CampoTestoVista(CampoTesto& modello, QWidget* padre);

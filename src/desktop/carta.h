@@ -10,7 +10,7 @@ class QPagedPaintDevice;
 
 namespace vaticlo {
 
-/// The text with its lines broken so that each fits the page, behind a ";" or a blank alone: a number and a
+/// The text with its lines broken so that each fits the page, only after a ";" or a blank: a number and a
 /// bet stay whole. `entra` says whether a line fits; a piece that fits nowhere stays as it is.
 [[nodiscard]] QString spezzaRighe(const QString& testo, const std::function<bool(const QString&)>& entra);
 

@@ -50,7 +50,7 @@ void Confine::terminaProgramma(const RuntimeFailure& failure) {
                   QString::fromStdString(messaggioFatale(failure)), QMessageBox::Ok, finestraPrincipale());
   box.setTextFormat(Qt::PlainText);
   box.exec();
-  // No window lives on to meet another event, and nothing that is still open is written any more.
+  // At once: no window gets another event, and nothing that is still open is written.
   std::_Exit(EXIT_FAILURE);
 }
 

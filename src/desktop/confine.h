@@ -14,7 +14,7 @@ class Confine {
  public:
   using Fine = std::function<void(const RuntimeFailure&)>;
 
-  /// `fine` takes a failure to its end; a test gives its own.
+  /// `fine` ends the program with the failure; a test gives its own.
   explicit Confine(Fine fine = &Confine::terminaProgramma) : fine_(std::move(fine)) {}
 
   /// The same boundary for the events of a window: a failure that crosses it bears the window's caption.

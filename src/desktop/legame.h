@@ -33,8 +33,8 @@ class xpradiobutton;
 
 /// Binds the controls of a dialog to the widgets that draw them, two ways. Each call makes the widget of a
 /// model, gives it the control's name, and keeps the two alike: the model's changes are drawn, what the user
-/// does goes to the model and runs its event procedure inside the failure boundary. The dialog lives at least
-/// as long as its widgets.
+/// does goes to the model and runs its event procedure inside the failure boundary. The binding is a child of
+/// the view and keeps the dialog; it is deleted before the widgets, which then follow no control any more.
 class Legame : public QObject {
  public:
   Legame(QWidget* vista, std::shared_ptr<Finestra> finestra, const Confine& confine);

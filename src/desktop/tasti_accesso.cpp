@@ -44,7 +44,7 @@ bool TastiAccesso::premi(const QKeyEvent& tasto, bool davvero) const {
   for (auto* pulsante : area_->activeSubWindow()->findChildren<xpcmdbutton*>())
     if (pulsante->isVisible() && pulsante->shortcut() == cercata) suoi << pulsante;
   if (suoi.isEmpty()) return false;
-  // The key of a disabled button is the window's all the same: it must not open another one from the menu
+  // The key of a disabled button still belongs to the window: it must not open another one from the menu
   // bar.
   if (!davvero || tasto.isAutoRepeat()) return true;
   const bool unoSolo = suoi.size() == 1;

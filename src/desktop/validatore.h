@@ -15,7 +15,7 @@ namespace vaticlo {
 /// Lets the controls of a window validate themselves when they are left, which is when the focus comes to
 /// another control of the same window that asks for it. A control left for one that does not ask is tested
 /// as soon as the focus goes on from there. Whatever else takes the focus away (frame, menu, another window)
-/// leaves nothing. The test runs inside the event that moves the focus: a control that fails has the focus
+/// leaves no control. The test runs inside the event that moves the focus: a control that fails has the focus
 /// again, and the mouse press that led away from it is lost.
 class Validatore : public QObject {
  public:

@@ -38,7 +38,7 @@ constexpr int kBordoInferiore = 10;  // of the window manager's frame, whose siz
 
 int pixel(int twips) { return twips / kTwipsPerPixel; }
 
-// A menu takes the pointer from its button, which is not told that it has left.
+// A menu takes the pointer from its button, which gets no event for that.
 void riposaDopoIlMenu(QToolButton* bottone) {
   QObject::connect(bottone->menu(), &QMenu::aboutToHide, bottone, [bottone] {
     QTimer::singleShot(0, bottone, [bottone] {
@@ -148,7 +148,7 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
 }
 
 VistaPrincipaleQt::~VistaPrincipaleQt() {
-  area_->disconnect(this);  // it still tells of its windows when this part of the object is gone
+  area_->disconnect(this);  // its signals would still come when this part of the object is gone
   principale_.disegnataDa(nullptr);
 }
 
@@ -308,7 +308,7 @@ void VistaPrincipaleQt::togli(Finestra& finestra) {
 void VistaPrincipaleQt::abilitaComandi(bool abilitati) {
   menuBar()->setEnabled(abilitati);
   findChild<QToolBar*>()->setEnabled(abilitati);
-  // Long work may disable what has the focus, which wanders on then: it comes back behind the work.
+  // Long work may disable what has the focus, which wanders on then: it comes back after the work.
   if (!abilitati)
     fuoco_ = focusWidget();
   else if (fuoco_ && area_->activeSubWindow() != nullptr && area_->activeSubWindow()->isAncestorOf(fuoco_))

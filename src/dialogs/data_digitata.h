@@ -8,8 +8,7 @@
 namespace vaticlo {
 
 /// The focus is about to leave a date picker with a text that was typed there: a date up to the latest one
-/// becomes the picker's. True when the focus must stay there, the old date standing; the user has been told
-/// why.
+/// becomes the picker's. True when the focus must stay there, with the old date; a message has said why.
 [[nodiscard]] bool trattieneData(SelettoreData& selettore, const std::string& digitata, Servizi& servizi);
 
 }  // namespace vaticlo

@@ -49,7 +49,7 @@ void ElencoScansione::evento(const std::function<void()>& passi) {
     const Provvisorio dentro(inEvento_, true);
     passi();
   }
-  if (inEvento_) return;  // caused by another event, which goes on first
+  if (inEvento_) return;  // caused by another event, which is finished first
   while (!inAttesa_.empty()) {
     const auto primo = std::move(inAttesa_.front());
     inAttesa_.pop_front();
@@ -59,8 +59,7 @@ void ElencoScansione::evento(const std::function<void()>& passi) {
 
 void ElencoScansione::optSelMetodo_Click(int indice) {
   evento([this, indice] {
-    // With "Scegli" the list's own event may have run the scan just before: it then runs twice, which is
-    // meant.
+    // Meant: with "Scegli" the list's own event may have run the scan just before, which then runs twice.
     metodo.optSelMetodo_Click(indice);
     btnCerca_Click();
   });

@@ -48,7 +48,7 @@ class ElencoScansione : public Finestra, protected PannelloScansione {
   void cerca();
 
   bool inCorso_ = false;   ///< a scan is under way
-  bool inEvento_ = false;  ///< an event is, with what it causes
+  bool inEvento_ = false;  ///< an event is under way, with those that it causes
   std::deque<std::function<void()>> inAttesa_;
 };
 

@@ -38,8 +38,8 @@ bool frmInserisci::txtestr_Validate(int f) {
                                Icona::Esclamazione});
     return true;
   }
-  // Texts are compared, and only with the fields at the left: a digit typed in the right-hand place of the
-  // mask is another text than the same digit in the left-hand place. Meant.
+  // Meant: texts are compared, and only with the fields at the left. A digit typed in the right-hand place of
+  // the mask is another text than the same digit in the left-hand place.
   for (int i = 1; i <= f % ArchivioEstrazioni::Colonne; ++i)
     if (txtestr_Text(f) == txtestr_Text(f - i)) {
       programma_.servizi.mostra({"''" + txtestr_Text(f) + "'' è stato già inserito come estratto nella ruota",

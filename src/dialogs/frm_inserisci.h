@@ -17,7 +17,7 @@ class frmInserisci : public Finestra, private ModuloEstrazione {
   void Form_Load() override;
   void archivioNuovo() override { btnCancella_Click(); }
   void estrazioniAggiunte() override {}
-  /// The focus is about to leave field f (0 to 54). True when it must stay there; the user has been told why.
+  /// The focus is about to leave field f (0 to 54). True when it must stay there; a message has said why.
   [[nodiscard]] bool txtestr_Validate(int f);
   void btnSalva_Click();
   void btnCancella_Click();

@@ -72,7 +72,7 @@ void frmInsPrev::Form_Load() {
 
 void frmInsPrev::archivioNuovo() {
   if (modifica_) {
-    btnCancella_Click();  // the draw of the prediction shown may be another one now
+    btnCancella_Click();  // its number may stand for another draw now
     return;
   }
   mostraUltima();
@@ -120,7 +120,7 @@ void frmInsPrev::cmbMetodo_Change() { cmbPrevisione.Clear(); }
 void frmInsPrev::cmbPrevisione_Click() {
   const auto metodo = LeggiMetodo(programma_.cartella, cmbMetodo.Text());
   const int slot = cmbPrevisione.ItemDataScelta();
-  visualizza(metodo.EstrazioneCalcolo(slot));  // the scroll bar stays where it is: meant
+  visualizza(metodo.EstrazioneCalcolo(slot));  // Meant: the scroll bar stays where it is.
   const auto testi = testiDi(metodo, slot);
   txtNum.Text(testi.numero);
   txtRuote.Text(testi.ruote);

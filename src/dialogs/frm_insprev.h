@@ -53,7 +53,7 @@ class frmInsPrev : public Finestra {
   void mostraUltima();
   [[nodiscard]] TestiPrevisione testiDi(const FileMetodo& metodo, int slot) const;
   void visualizza(int n);
-  /// The save up to the writing of the file. False when it was refused; the user has been told.
+  /// The save up to the writing of the file. False when it was refused, which a message has said.
   [[nodiscard]] bool salva();
   [[nodiscard]] bool rifiutaCampiVuoti();
   [[nodiscard]] TestiPrevisione testi() const;

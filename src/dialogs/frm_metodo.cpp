@@ -88,8 +88,7 @@ void frmMetodo::VScroll1_Change() {
 }
 
 void frmMetodo::optSelMetodo_Click(int indice) {
-  // With "Scegli" the list's own event may have run the check just before: it then runs twice, which is
-  // meant.
+  // Meant: with "Scegli" the list's own event may have run the check just before, which then runs twice.
   metodo.optSelMetodo_Click(indice);
   verifica();
 }
@@ -117,6 +116,7 @@ void frmMetodo::vaiA(std::optional<int> trovata, const char* dove) {
 }
 
 void frmMetodo::btnStampa_Click() {
+  // Meant: the title, which is not the program's name.
   if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Genere::Domanda}) != Risposta::Si)
     return;
   RichTextBox1.SelLength(0);

@@ -7,7 +7,7 @@
 namespace vaticlo {
 
 /// Shows one of the two lists of the last statistics run, read anew each time the window becomes the active
-/// one. Its caption is that of its first opening, which is meant.
+/// one. Meant: its caption stays that of its first opening.
 class frmMigliore : public Finestra {
  public:
   frmMigliore(Programma& programma, Cornice& cornice);

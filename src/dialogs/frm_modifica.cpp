@@ -25,8 +25,8 @@ void frmModifica::Form_Activate() {
   auto& corrente = programma_.globals.EstrazioneCorrente;
   corrente = ApriArchivio(programma_.cartella).PrimoIndiceLibero();
   estrazione.VScroll1.Max(corrente);
-  // A change shows the last draw. Without one, the bar being at its end already, the free slot behind it is
-  // shown: meant.
+  // Meant: a bar that moves shows the last draw; when it is at its end already the free slot after it is
+  // shown (guide: "La finestra Modifica Estrazione e le altre").
   estrazione.VScroll1.Value(estrazione.VScroll1.Max());
   visualizza(corrente);
 }

@@ -17,6 +17,7 @@ std::filesystem::path frmPrev::scansione() {
 
 void frmPrev::btnStampa_Click() {
   evento([this] {
+    // Meant: the title, which is not the program's name.
     if (programma_.servizi.mostra({"Stampo la previsione?", "Ambolino", Genere::Domanda}) == Risposta::Si)
       programma_.servizi.stampa(RichTextBox1.Text());
   });

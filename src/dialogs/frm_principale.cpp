@@ -19,7 +19,7 @@ void oltreOgniFailure(Istruzione istruzione) {
   try {
     istruzione();
   } catch (const RuntimeFailure&) {
-    // The next statement runs all the same.
+    // The next statement runs nevertheless.
   }
 }
 

@@ -49,7 +49,8 @@ class frmPrincipale : public Cornice {
   /// Whether the main window may close now. When long work is under way that is asked to end, and it may be
   /// asked again.
   [[nodiscard]] bool Form_QueryUnload();
-  /// The main window closes: the report of the last check is deleted. Failure 75 when it can't be.
+  /// The main window closes: the report of the last check is deleted. Fails with
+  /// Errore::AccessoAlFile when it can't be.
   void Form_Unload();
   /// Long work is under way: only its own stop is listened to.
   [[nodiscard]] bool occupata() const;

@@ -21,7 +21,7 @@ frmSomdif::frmSomdif(Programma& programma, Cornice& cornice) : Finestra(cornice)
 }
 
 void frmSomdif::Form_Load() {
-  // The one window of the archive that leaves the other child windows open.
+  // Meant: this window alone leaves the other child windows open.
   prendiMisure({6630, 11655, 500, 50});
   mostraUltima();
 }

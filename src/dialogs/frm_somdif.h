@@ -50,8 +50,8 @@ class frmSomdif : public Finestra {
     frmSomdif& frm_;
   };
 
-  /// The window as the search by date sees it, which is not made for it: it has only the ten fields of its
-  /// first column under the name that a draw's numbers go to.
+  /// The window as the search by date sees it. Meant: a search made for 55 fields, of which this window has
+  /// ten, those of its first column (guide: "Somma e distanza").
   class EstrazioneTrovata : public SchedaEstrazione {
    public:
     explicit EstrazioneTrovata(frmSomdif& frm) : frm_(frm) {}

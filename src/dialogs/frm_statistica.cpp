@@ -136,12 +136,13 @@ bool frmStatistica::rifiutaIntervallo() {
   if (rifiutaNumero(txtestr[0], "inizio") || rifiutaNumero(txtestr[1], "fine")) return true;
   const auto a = inIntero16(txtestr[0].Text()), b = inIntero16(txtestr[1].Text());
   if (a > b || a == b) {
+    // Meant: the slip "inzio".
     programma_.servizi.mostra({std::string("L'estrazione di inzio non può essere ") +
                                    (a > b ? "maggiore dell'" : "uguale all'") + "estrazione di fine!",
                                "Attenzione", Genere::Rifiuto});
     return true;
   }
-  // The repairs come behind the comparison and no new one follows: meant.
+  // Meant: the range is repaired after the comparison and not compared again.
   if (a == 0) txtestr[0].mostra("1");
   const int ultima = programma_.globals.UltimaEstrazione;
   if (b > ultima) txtestr[1].mostra(std::to_string(ultima));
@@ -172,6 +173,7 @@ void frmStatistica::apriRisultati(bool vincite) {
 }
 
 void frmStatistica::btnStampa_Click() {
+  // Meant: the title, which is not the program's name.
   if (programma_.servizi.mostra({"Stampo la statistica?", "Ambolino", Genere::Domanda}) != Risposta::Si)
     return;
   RichTextBox1.SelLength(0);

@@ -4,7 +4,7 @@
 
 namespace vaticlo {
 
-/// The recent winners. Its print button has no command, which is meant.
+/// The recent winners. Meant: its print button does nothing (guide: "Vincenti alle Ultime Estrazioni").
 class frmVinc : public ElencoScansione {
  public:
   frmVinc(Programma& programma, Cornice& cornice);

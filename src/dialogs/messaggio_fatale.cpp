@@ -6,7 +6,7 @@ namespace {
 
 constexpr const char* kCapitolo = "Se il programma si chiude con un errore";
 
-// What a number means where nobody knew better.
+// What a number means where no explanation was added.
 Spiegazione inGenerale(Errore errore) {
   switch (errore) {
     case Errore::DiscoPieno:

@@ -10,8 +10,8 @@ namespace vaticlo {
 
 /// The search for a draw that three dialogs share: asks for a number or a date, moves the scroll bar to the
 /// draw. After a search by number `mostra` shows that draw; a search by date goes through clsGestione::Trova
-/// on `frm`. Draw 1 can't be reached by number, though prompt and message offer it: meant. Failure 6 for a
-/// number beyond 16 bits.
+/// on `frm`. Fails with Errore::Overflow for a number beyond 16 bits. Meant: draw 1 can't be reached by
+/// number, though prompt and message offer it (guide: "La ricerca di un'estrazione").
 void cercaEstrazione(Programma& programma, BarraScorrimento& VScroll1, SchedaEstrazione& frm,
                      const std::function<void(int)>& mostra);
 

@@ -9,8 +9,8 @@
 
 namespace vaticlo {
 
-/// The models of the controls of a dialog: what each one holds, without a toolkit. A model tells two
-/// listeners, inside the very statement that changes it: the view that draws it, then the dialog's event
+/// The models of the controls of a dialog: what each one holds, without a toolkit. A model calls two
+/// listeners, inside the statement that changes it: the view that draws it, then the dialog's event
 /// procedure.
 class Controllo {
  public:
@@ -19,11 +19,10 @@ class Controllo {
   Controllo& operator=(const Controllo&) = delete;
   virtual ~Controllo() = default;
 
-  /// The one view of the control, told after every change.
+  /// The one view of the control, called after every change.
   void osserva(std::function<void()> vista) { vista_ = std::move(vista); }
 
-  std::function<void()> SetFocus = [] {
-  };  ///< leads the focus to the control; the view's, nothing without one
+  std::function<void()> SetFocus = [] {};  ///< moves the focus to the control; set by the view
 
  protected:
   void cambiato() const {
@@ -62,7 +61,7 @@ class Etichetta : public Controllo {
   Proprieta<std::string> Caption{*this, ""};
 };
 
-using Riquadro = Etichetta;  ///< a frame: its caption, its being there
+using Riquadro = Etichetta;  ///< a frame: its caption, and whether it is shown
 
 /// Colours with red in the low byte.
 inline constexpr int kGrigio = 0xC0C0C0;
@@ -82,7 +81,7 @@ class CampoTesto : public Controllo {
     Mask("");
     Text(std::move(testo));
   }
-  std::string esempio;        ///< what a right text looks like, shown as a hint
+  std::string esempio;        ///< an example of a valid text, shown as a hint
   bool Locked = false;        ///< it only displays
   bool InvioComeTab = false;  ///< Enter moves on to the next field
   /// The focus is about to leave: true keeps it in the field.
@@ -128,7 +127,8 @@ class BarraScorrimento : public Controllo {
   [[nodiscard]] int Value() const { return valore_; }
   /// A value beyond the new end moves to it, which is a change.
   void Max(int massimo);
-  /// Runs Change before it returns when the value really changes. Failure 380 outside the bar.
+  /// Runs Change before it returns when the value really changes. Fails with Errore::ValoreProprieta
+  /// outside the bar.
   void Value(int valore);
 
   int SmallChange = 1;
@@ -153,7 +153,8 @@ class Elenco : public Controllo {
   void riempi(std::vector<std::string> testi);
   [[nodiscard]] const std::vector<Voce>& voci() const { return voci_; }
   [[nodiscard]] int ListIndex() const { return indice_; }  ///< from 0; -1: none chosen
-  /// Chooses an item; Click follows when the choice changes. Failure 380 for an item that is not there.
+  /// Chooses an item; Click follows when the choice changes. Fails with Errore::ValoreProprieta for an item
+  /// that is not there.
   void ListIndex(int indice);
   /// The user picks an item: Click follows in any case.
   void scegli(int indice);
@@ -162,13 +163,13 @@ class Elenco : public Controllo {
   void Text(const std::string& testo);
   /// The user types into the field: Change follows.
   void digita(const std::string& testo);
-  /// The item data of the chosen item. Failure 9 when none is chosen.
+  /// The item data of the chosen item. Fails with Errore::Indice when none is chosen.
   [[nodiscard]] int ItemDataScelta() const;
 
   std::function<void()> Click;
   std::function<void()> Change;       ///< the user has typed
   std::function<void()> DropDown;     ///< runs before the items are shown or walked
-  std::function<std::string()> Nota;  ///< what there is to say about the text, shown as a hint; often nothing
+  std::function<std::string()> Nota;  ///< a remark about the text, shown as a hint; may be empty
 
  private:
   std::vector<Voce> voci_;

@@ -7,8 +7,8 @@
 
 namespace vaticlo {
 
-/// Offers the methods of the folder in a list, read anew each time it drops down or is walked; a name that no
-/// method has is remarked on. The folder outlives it.
+/// Offers the methods of the folder in a list, read anew each time it drops down or is walked; a hint says
+/// when no method has the name typed. The folder outlives it.
 void offriMetodi(Elenco& elenco, const CartellaProgramma& cartella);
 
 /// The controls that choose between all methods and one: "Tutti" is on and the list disabled when a dialog

@@ -36,7 +36,7 @@ std::vector<std::string> metodiOfferti(const CartellaProgramma& cartella) {
       if (!nome.empty() && std::find(offerti.begin(), offerti.end(), nome) == offerti.end())
         offerti.push_back(std::move(nome));
   } catch (const RuntimeFailure&) {
-    // The two that every program folder has are offered all the same.
+    // The two that every program folder has are still offered.
   }
   return offerti;
 }

@@ -16,13 +16,13 @@ struct SceltaMetodo {
 
 /// What the listing does with a file whose name has no ".dat" in it.
 enum class NomeSenzaDat {
-  Failure,    ///< failure 5, at once
+  Failure,    ///< Errore::ArgomentoNonValido, at once
   VoceVuota,  ///< its entry stays empty and the listing goes on
 };
 
 /// The list of methods of a run: with "Tutti" the names of the files, each up to the first ".dat" (case
-/// matters), in the order of the folder; with "Scegli" the one name as it stands. Failure 5 (see above)
-/// or 75.
+/// matters), in the order of the folder; with "Scegli" the one name as it stands. Fails with
+/// Errore::ArgomentoNonValido (see above) or AccessoAlFile.
 [[nodiscard]] std::vector<std::string> CaricaElencoMetodi(const CartellaProgramma& cartella,
                                                           const SceltaMetodo& scelta,
                                                           NomeSenzaDat senzaDat = NomeSenzaDat::Failure);

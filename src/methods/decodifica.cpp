@@ -14,7 +14,7 @@ void aggiungiGruppo(std::string& testo, int gruppo) {
 void decodificaRuote(const FileMetodo& metodo, int slot, Previsione& previsione) {
   previsione.Ruote.clear();
   previsione.Tutte = false;
-  // The first cell is taken without a test for 0, which is meant: a list without wheels has the wheel 0.
+  // Meant: the first cell is taken without a test for 0, so a list without wheels has the wheel 0.
   for (int pos = 1; pos == 1 || metodo(slot, kCampoRuote, pos) != 0; ++pos) {
     const int codice = metodo(slot, kCampoRuote, pos);
     if (codice == kTutte)
@@ -28,7 +28,7 @@ void decodificaAmbate(const FileMetodo& metodo, int slot, Previsione& previsione
   previsione.Ambate.clear();
   const int prima = metodo(slot, kCampoAmbate, 1);
   if (prima != 0) previsione.Ambate.push_back(static_cast<std::uint8_t>(prima));
-  // An empty first cell does not end the list: the walk goes on from the second all the same.
+  // Meant: an empty first cell does not end the list, which is read on from the second.
   for (int pos = 2; metodo(slot, kCampoAmbate, pos) != 0; ++pos)
     previsione.Ambate.push_back(metodo(slot, kCampoAmbate, pos));
 }
@@ -83,7 +83,7 @@ void Decodificatore::DecodificaPrevisione(const FileMetodo& metodo, int slot, Pr
   previsione.Colpi = metodo(slot, kCampoColpi, 1);
 }
 
-// Of a group of three or more numbers only the first and the last reach `Ambi`: meant.
+// Meant: of a group of three or more numbers only the first and the last reach `Ambi`.
 void Decodificatore::decodificaAmbi(const FileMetodo& metodo, int slot, Previsione& previsione) {
   previsione.Ambi.clear();
   int pos = 1;

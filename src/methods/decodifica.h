@@ -9,8 +9,8 @@
 
 namespace vaticlo {
 
-/// The telephone number of a slot as text. From position 6 on a zero group ends it. Failure 9 when no group
-/// is 0.
+/// The telephone number of a slot as text. From position 6 on a zero group ends it. Fails with
+/// Errore::Indice when no group is 0.
 [[nodiscard]] std::string testoTelefono(const FileMetodo& metodo, int slot);
 
 /// Decodes slots into a Previsione. One object lives as long as a scan: its working pair of the ambi is never
@@ -18,7 +18,7 @@ namespace vaticlo {
 /// another method.
 class Decodificatore {
  public:
-  /// Failure 9 when a list fills its 180 cells and so has no end.
+  /// Fails with Errore::Indice when a list fills its 180 cells and so has no end.
   void DecodificaPrevisione(const FileMetodo& metodo, int slot, Previsione& previsione);
 
  private:

@@ -33,7 +33,7 @@ bool giudicaAmbi(const Previsione& previsione, const RegoleVincita& regole, int 
                  EsitoColpo& esito) {
   bool vinto = false;
   for (const auto& ambo : previsione.Ambi) {
-    // Ambi are played on the first wheel at least; with `Tutte` alone there is none to ask for.
+    // Meant: ambi need a first wheel, which `Tutte` alone does not give (guide: "Tutte da sola").
     if (previsione.Ruote.empty()) throw RuntimeFailure(Errore::Indice);
     const auto uscito = regole.ambo(ambo.first, ambo.second, estrazione);
     bool tutte = previsione.Tutte;

@@ -19,12 +19,12 @@ class EsitoColpo {
   virtual void sorte(const std::vector<int>& usciti, int ruota) = 0;
 };
 
-/// With which wheels of a prediction its `Tutte` flag goes along. The judges differ in it on purpose.
+/// With which wheels of a prediction its `Tutte` flag is tried. The judges differ in it on purpose.
 enum class FlagTutte { PrimaRuota, OgniRuota };
 
 /// Tries all the bets of a prediction in draw `estrazione`: ambate, ambi, sorti superiori, each in list
-/// order. No hit stops anything. True when there was one. Failure 9 for ambi without a wheel (`Tutte` alone),
-/// for an ambata on a wheel code that the grid has not, and for a draw outside the grid.
+/// order. No hit stops anything. True when there was one. Fails with Errore::Indice for ambi without a wheel
+/// (`Tutte` alone), for an ambata on a wheel code outside the grid, and for a draw outside the grid.
 bool giudicaColpo(const Previsione& previsione, const RegoleVincita& regole, int estrazione, FlagTutte flag,
                   EsitoColpo& esito);
 

@@ -25,7 +25,7 @@ void ScriviMetodo(const CartellaProgramma& cartella, std::string_view nome, cons
 
 namespace {
 
-// Far more slots than a method has.
+// Meant: far more slots than a method has.
 constexpr int kUltimoSlotDaSpostare = 2000;
 
 }  // namespace

@@ -57,12 +57,13 @@ class FileMetodo {
 /// Writes the whole grid. Failures of scriviFile(); the file is then as it was.
 void ScriviMetodo(const CartellaProgramma& cartella, std::string_view nome, const FileMetodo& metodo);
 
-// A slot bears no mark that it is taken. Three answers to "is it?" are given, and all three are wanted:
-// what a scan judges, what the editor lists, and where it stores.
+// Nothing in a slot says that it is taken. Scan, list and save each have a rule of their own, and they differ
+// on purpose.
 
 /// How many predictions every scan sees: those before the first slot whose draw number ends in 00. Fails with
 /// Errore::Indice when none of the ten does.
-/// Meant: a prediction on draw 3500 hides itself and those after it.
+/// Meant: a prediction on draw 3500 hides itself and those after it (guide: "Le estrazioni con il numero
+/// tondo", "La decima previsione di un metodo").
 [[nodiscard]] int ContaPrevisioni(const FileMetodo& metodo);
 
 /// How many predictions the editor lists: those before the first slot whose draw number is 0, so also those
@@ -70,7 +71,8 @@ void ScriviMetodo(const CartellaProgramma& cartella, std::string_view nome, cons
 [[nodiscard]] int ContaElencate(const FileMetodo& metodo);
 
 /// The slot that takes a new prediction: the first one whose draw number is below 100; 0 when there is none.
-/// Meant: a prediction on one of the first 99 draws counts as free and is written over.
+/// Meant: a prediction on one of the first 99 draws counts as free and is written over (guide: "Le prime
+/// novantanove estrazioni").
 [[nodiscard]] int PrimoSlotLibero(const FileMetodo& metodo);
 
 /// Copies all cells of slot `da` of one method into slot `a` of another. Fails with Errore::Indice for a slot
@@ -81,7 +83,7 @@ void CopiaSlot(const FileMetodo& origine, int da, FileMetodo& destinazione, int 
 void SvuotaSlot(FileMetodo& metodo, int slot);
 
 /// The predictions but that of `slot`, those after it one slot lower, as the editor's delete makes them.
-/// Meant: the walk wants far more slots than a method has, so it always fails with Errore::Indice.
+/// Meant: it goes on over far more slots than a method has, so it always fails with Errore::Indice.
 [[nodiscard]] FileMetodo SenzaPrevisione(const FileMetodo& metodo, int slot);
 
 }  // namespace vaticlo

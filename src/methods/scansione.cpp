@@ -71,7 +71,7 @@ Spiegazione ScansionePrevisioni::spiegazione(const std::string& metodo, int slot
 void ScansionePrevisioni::RiportaPrevisione(FileRapporto& rapporto, const std::string& metodo) {
   g_.TestoEsito.clear();
   const auto vincita = ControllaColpi(g_.previsione.Colpi);
-  // A first win before the limit keeps a prediction out, even if it would win again inside it: meant.
+  // Meant: a first win before the limit keeps a prediction out, even if it would win again inside it.
   const bool daRiportare = g_.SoloVincenti ? vincita && *vincita >= limite() : !vincita;
   if (daRiportare) {
     ++g_.ContaGiocabili;
@@ -129,8 +129,8 @@ void ScansionePrevisioni::amboTutte(int a, int b, int ruota) {
 
 void ScansionePrevisioni::sorte(const std::vector<int>& usciti, int ruota) {
   const int d = g_.EstrazioneBase + ColpoCorrente_;
-  // A quaterna or a cinquina gets its line only on the very draw of the limit; ambo and terno from there on.
-  // Meant.
+  // Meant: a quaterna or a cinquina gets its line only on the very draw of the limit, ambo and terno from
+  // there on (guide: "Vincenti alle Ultime Estrazioni").
   const bool conta = usciti.size() >= 4 ? d == limite() : d >= limite();
   annota(conta, rigaNumeri(inizioSorte(usciti.size()), usciti, ruota, ColpoCorrente_));
 }

@@ -46,7 +46,7 @@ class ScansionePrevisioni : private EsitoColpo {
  private:
   void scorriMetodi(const std::filesystem::path& rapporto);
   void scorriPrevisione(FileRapporto& rapporto, const FileMetodo& metodo, const std::string& nome, int slot);
-  /// What the user is told of a slot that ended the scan; slot 0: the slots could not be counted.
+  /// What the user reads about a slot that ended the scan; slot 0: the slots could not be counted.
   [[nodiscard]] Spiegazione spiegazione(const std::string& metodo, int slot) const;
   void RiportaPrevisione(FileRapporto& rapporto, const std::string& metodo);
   /// The draw of the first colpo with a hit; later colpi are not looked at.

@@ -21,7 +21,7 @@ void scriviTelefono(FileMetodo& metodo, int slot, const std::string& numero) {
   for (int pos = 3; pos <= FileMetodo::Posizioni; ++pos) metodo(slot, kCampoEstrazione, pos) = 0;
   if (numero.empty()) return;
   const auto gruppi = dividi(senzaBlanchi(numero), '.');
-  // Blanks alone are not the empty text: they have no first group, and the save fails. Meant.
+  // Meant: blanks alone are not the empty text. They have no first group, and the save fails.
   if (gruppi.empty()) throw RuntimeFailure(Errore::Indice);
   const int primo = inIntero16(gruppi[0]);
   metodo(slot, kCampoEstrazione, 3) = nellaCella(primo / 10);
@@ -40,7 +40,7 @@ std::uint8_t codiceRuota(std::string_view parola) {
 void contaCelle(std::string_view testo, const char* rifiuto) {
   std::size_t celle = 0;
   for (const auto gruppo : dividi(testo, ';')) celle += dividi(gruppo, '-').size() + 1;
-  // Exactly 180 cells are taken, though a list that long can't be read back: meant.
+  // Meant: exactly 180 cells are taken, though a list that long can't be read back.
   if (celle > static_cast<std::size_t>(FileMetodo::Posizioni)) throw RifiutoPrevisione(rifiuto);
 }
 
@@ -110,8 +110,8 @@ void scriviTesti(FileMetodo& metodo, int slot, const TestiPrevisione& testi) {
   pos = 1;
   for (const auto numero : dividi(testi.ambate, ';')) metodo(slot, kCampoAmbate, pos++) = inByte(numero);
 
-  // The ambi are counted as typed and stored trimmed, the combinations counted and stored as typed: blanks
-  // alone are no ambi, but they are a combination that is no number. Meant.
+  // Meant: the ambi are counted as typed and stored trimmed, the combinations counted and stored as typed.
+  // Blanks alone are no ambi, but they are a combination that is no number.
   contaCelle(testi.ambi, "Il numero degli ambi inseriti supera il limite massimo possibile!");
   scriviGruppi(metodo, slot, kCampoAmbi, senzaBlanchi(testi.ambi));
   contaCelle(testi.sup,

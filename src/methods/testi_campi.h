@@ -24,16 +24,19 @@ class RifiutoPrevisione : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Writes the draw and its date into a slot. Failure 6 for a year whose last two digits the cells can't take:
-/// the century is year / 100 rounded, so 1999 fails and 2005 does not.
+/// Writes the draw and its date into a slot. Fails with Errore::Overflow for a year whose last two digits the
+/// cells can't take. Meant: the century is year / 100 rounded, so 1999 fails and 2005 does not (guide: "Gli
+/// anni prima del 2000").
 void scriviEstrazione(FileMetodo& metodo, int slot, int estrazione, const Data& data);
 
-/// Writes the fields into a slot: the whole telephone number, and the cells that the lists need; cells behind
+/// Writes the fields into a slot: the whole telephone number, and the cells that the lists need; cells after
 /// the end of a list stay as they are. Throws RifiutoPrevisione for an unknown wheel word and for ambi or
-/// combinations beyond 180 cells; failure 13, 6 or 9 for anything else that the cells can't take.
+/// combinations beyond 180 cells; fails with Errore::TipoNonCorrispondente, Overflow or Indice for anything
+/// else that the cells can't take.
 void scriviTesti(FileMetodo& metodo, int slot, const TestiPrevisione& testi);
 
-/// The fields of a slot as text, with all the numbers of a group. Failure 9 when a list has no end.
+/// The fields of a slot as text, with all the numbers of a group. Fails with Errore::Indice when a list has
+/// no end.
 [[nodiscard]] TestiPrevisione leggiTesti(const FileMetodo& metodo, int slot);
 
 }  // namespace vaticlo

@@ -38,7 +38,7 @@ ArchivioEstrazioni inventaEstrazioni() {
     const Data data{giorno};
     archivio.scriviData(i, data, anno(data) / 100);
     for (int ruota = 1; ruota <= kRuote; ++ruota) {
-      // An urn of ninety: each number drawn goes out of it.
+      // An urn of ninety without replacement.
       std::array<std::uint8_t, kNumeri> urna;
       for (std::size_t n = 0; n < urna.size(); ++n) urna[n] = static_cast<std::uint8_t>(n + 1);
       for (std::size_t k = 0; k < 5; ++k) {
@@ -58,7 +58,7 @@ class Inventore {
   [[nodiscard]] std::string uscito(int estrazione, int ruota, int k) const {
     return std::to_string(archivio_(estrazione, ruota, k));
   }
-  /// A number that does not come out on the wheel in the draws behind `estrazione`, as far as there are any.
+  /// A number that does not come out on the wheel in the draws after `estrazione`, as far as there are any.
   [[nodiscard]] std::string mancato(int estrazione, int ruota, int colpi) const {
     const int ultima = std::min(estrazione + colpi, kEstrazioni);
     for (int numero = 1; numero <= kNumeri; ++numero) {

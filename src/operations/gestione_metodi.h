@@ -8,8 +8,8 @@ namespace vaticlo {
 
 /// Creates, renames and deletes methods. A name must be usable as a file name on Windows and Linux, without
 /// ".dat" inside, UTF-8, and new (upper and lower case and how accents are composed make no difference). Each
-/// tells the user why it refuses and gives false; the methods are then as they were. Failures of the disk go
-/// on to the caller.
+/// returns false when it refuses, after a message that says why; the methods are then as they were. Failures
+/// of the disk go on to the caller.
 class GestioneMetodi {
  public:
   explicit GestioneMetodi(Programma& programma) : programma_(programma) {}

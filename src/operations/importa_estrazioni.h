@@ -11,7 +11,7 @@
 namespace vaticlo {
 
 /// The archive that a public text of draws describes, given as it is or packed with zip or gzip.
-/// `avanzamento` is told each percent that is done. ErroreImportazione for what can't be taken.
+/// `avanzamento` is called for each percent that is done. ErroreImportazione for what can't be taken.
 [[nodiscard]] ArchivioEstrazioni estrazioniDa(std::string ottetti,
                                               const std::function<void(int)>& avanzamento = {});
 
@@ -33,8 +33,8 @@ inline constexpr const char* kNumeriDelleEstrazioni =
 void sostituisciArchivio(const Programma& programma, const ArchivioEstrazioni& nuovo);
 
 /// Asks for a public text file of draws and builds the archive anew from it, after a question when draws are
-/// there already. A file that can't be taken is told of, with the number of the line that is wrong, and the
-/// archive is as it was. Failures of the archive's own file go on to the caller. True when the archive is a
+/// there already. A message names a file that can't be taken and the line that is wrong, and the archive is
+/// as it was. Failures of the archive's own file go on to the caller. True when the archive is a
 /// new one.
 bool importaEstrazioniDaFile(Programma& programma);
 

@@ -14,7 +14,7 @@ struct MetodoGuasto {
 };
 
 /// Those among the methods chosen: one with ten predictions, one that can't be read, under "Tutti" a file
-/// whose name has no ".dat". A name without a file is none of them. Creates no file.
+/// whose name has no ".dat". A name without a file is not one. Creates no file.
 [[nodiscard]] std::vector<MetodoGuasto> metodiGuasti(const CartellaProgramma& cartella,
                                                      const SceltaMetodo& scelta);
 

@@ -111,7 +111,7 @@ PassoPrevisioni PrevisioniMetodo::sposta(const std::string& metodo, std::vector<
     const auto piene = richiediPiene(origine, std::move(slot));
     aggiungi(cambio, origine.prima, piene);
     togliSlot(origine, piene);
-    // What comes is written before what goes: whatever stops the program, nothing is lost.
+    // The method that gains is written first: whatever stops the program, no prediction is lost.
     PassoPrevisioni fatto = {std::move(cambio), std::move(origine)};
     scrivi(programma_, fatto);
     passo = std::move(fatto);

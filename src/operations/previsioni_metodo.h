@@ -21,7 +21,7 @@ struct CambioMetodo {
 using PassoPrevisioni = std::vector<CambioMetodo>;
 
 /// Takes predictions out of methods, copies and moves them. Those that stay close the gap, those that come go
-/// behind the last one, so that the scans see them all. A step is refused, and the user told why, before
+/// after the last one, so that the scans see them all. A step is refused, and the user sees why, before
 /// anything is written: a slot that holds no prediction, a method that is not there, one that would get a
 /// tenth prediction, which keeps it from being judged. Failures of the disk go on to the caller; all methods
 /// are then as they were.

@@ -5,7 +5,7 @@
 
 namespace vaticlo {
 
-// A refusal is told when the folder is free again: while somebody reads it, other programs may write.
+// A refusal is shown when the folder is free again: while somebody reads it, other programs may write.
 bool inUnPasso(Programma& programma, const std::function<void()>& passo) {
   try {
     const BloccoCartella blocco(programma.cartella.radice());

@@ -12,8 +12,9 @@ struct Rifiuto {
   std::string testo;
 };
 
-/// Reads, changes and writes as one step between programs. A Rifiuto that `passo` throws is told to the user,
-/// and the result is false. Failure 70 when another program holds the folder, and those of `passo`.
+/// Reads, changes and writes as one step between programs. A Rifiuto that `passo` throws is shown to the
+/// user, and the result is false. Fails with Errore::CartellaOccupata when another program holds the folder,
+/// and as `passo` does.
 bool inUnPasso(Programma& programma, const std::function<void()>& passo);
 
 /// Throws a Rifiuto when there is no such method.

@@ -9,17 +9,17 @@
 namespace vaticlo {
 
 /// Holds a folder: as long as it lives, no other program that asks holds the same one, so that what is read,
-/// changed and written meanwhile is one step. Who holds it already in this thread may hold it again. It keeps
-/// nobody from reading, makes no file, and ends with the process however that ends. Nothing is asked of a
-/// person while it is held: the other programs wait.
+/// changed and written meanwhile is one step. A thread that holds it may hold it again. It keeps nobody from
+/// reading, makes no file, and ends with the process however that ends. Ask no person anything while holding
+/// it: other programs wait.
 class BloccoCartella {
  public:
-  /// Waits up to `attesa` for another program to let go; failure 70 when it does not. Where the folder or its
-  /// file system does not offer locks, nothing is held.
+  /// Waits up to `attesa` for another program to let go; fails with Errore::CartellaOccupata when it does
+  /// not. Where the folder or its file system does not offer locks, nothing is held.
   explicit BloccoCartella(const std::filesystem::path& cartella,
                           std::chrono::milliseconds attesa = std::chrono::seconds(5));
 
-  /// Brings the names in the folder to the disk. Failure 57 or 61.
+  /// Brings the names in the folder to the disk. Fails with Errore::DispositivoIO or DiscoPieno.
   void sincronizza() const;
 
  private:

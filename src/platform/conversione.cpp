@@ -51,7 +51,7 @@ std::optional<double> numeroDaTesto(std::string_view testo) {
     resto.remove_prefix(1);
     double decimali = 0, scala = 1;
     for (; !resto.empty() && cifra(resto.front()); resto.remove_prefix(1)) {
-      if (scala >= 1e15) continue;  // digits behind the fifteenth decimal move no rounding
+      if (scala >= 1e15) continue;  // digits after the fifteenth decimal change no rounding
       decimali = decimali * 10 + (resto.front() - '0');
       scala *= 10;
     }

@@ -43,7 +43,7 @@ void Descrittore::scrivi(std::string_view dati, const std::filesystem::path& per
   while (!dati.empty()) {
     const auto scritti = ::write(fd_, dati.data(), dati.size());
     if (scritti < 0 && errno == EINTR) continue;
-    if (scritti <= 0) throw failureDiSistema(errno, percorso);
+    if (scritti <= 0) throw failureDiSistema(scritti < 0 ? errno : EIO, percorso);
     dati.remove_prefix(static_cast<std::size_t>(scritti));
   }
 }

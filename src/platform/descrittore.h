@@ -14,7 +14,8 @@ namespace vaticlo {
 /// An open file of the system, closed at the end of its life.
 class Descrittore {
  public:
-  /// Opens with the flags of open(2); never waits for the other end of a pipe. Failure 53, 75 or 76.
+  /// Opens with the flags of open(2); never waits for the other end of a pipe. Fails with
+  /// Errore::FileNonTrovato, AccessoAlFile, PercorsoNonTrovato, or as failureDiSistema() says.
   Descrittore(const std::filesystem::path& percorso, int opzioni)
       : Descrittore(percorso, opzioni, percorso) {}
   /// A failure names `nominato`, the file that the open one stands for.
@@ -24,21 +25,24 @@ class Descrittore {
   ~Descrittore();
 
   [[nodiscard]] int fd() const { return fd_; }
-  /// Writes all of `dati` at the present place. Failure 61 (no room) or 57; `percorso` is named in it.
+  /// Writes all of `dati` at the present place. Fails with Errore::DiscoPieno, DispositivoIO or AccessoAlFile
+  /// (a pipe that is full); `percorso` is named in it.
   void scrivi(std::string_view dati, const std::filesystem::path& percorso) const;
   /// Reads from the present place until `dati` is full or the file ends; how many bytes that were.
-  /// Failure 57.
+  /// Fails with Errore::DispositivoIO.
   [[nodiscard]] std::size_t leggi(std::span<std::uint8_t> dati, const std::filesystem::path& percorso) const;
-  /// Comes back when what was written is on the disk. Failure 57 or 61; none where the file system can't say.
+  /// Returns when what was written is on the disk. Fails with Errore::DispositivoIO or DiscoPieno; not where
+  /// the file system can't say.
   void sincronizza(const std::filesystem::path& percorso) const;
-  /// Closes before the end of its life, to hear of a write that failed late. Failure 57 or 61.
+  /// Closes before the end of its life, to learn of a write that failed late. Fails with
+  /// Errore::DispositivoIO or DiscoPieno.
   void chiudi(const std::filesystem::path& percorso);
 
  private:
   int fd_;
 };
 
-/// The failure that tells of `codice`, an errno, on that file.
+/// The failure that stands for `codice`, an errno, on that file.
 [[nodiscard]] RuntimeFailure failureDiSistema(int codice, const std::filesystem::path& percorso);
 
 }  // namespace vaticlo

@@ -40,10 +40,10 @@ struct Spiegazione {
 class RuntimeFailure : public std::exception {
  public:
   explicit RuntimeFailure(Errore errore);
-  /// `dettaglio` (a file's name, say) is shown behind the text of the failure.
+  /// `dettaglio` (a file's name, say) is shown after the text of the failure.
   RuntimeFailure(Errore errore, const std::string& dettaglio);
 
-  /// Adds what is known on the way up. The innermost one to speak is heard: later calls change nothing.
+  /// Adds what is known on the way up. The first call counts: later ones change nothing.
   RuntimeFailure& spiega(Spiegazione spiegazione);
   RuntimeFailure& nella(const std::string& finestra);
   [[nodiscard]] const Spiegazione& spiegazione() const { return spiegazione_; }

@@ -12,7 +12,7 @@ namespace vaticlo {
 /// that is there already is what a killed program left.
 class FileAccanto {
  public:
-  /// Creates it empty. Failures of Descrittore, told of the destination.
+  /// Creates it empty. Fails as Descrittore does, naming the destination.
   explicit FileAccanto(const std::filesystem::path& destinazione);
   [[nodiscard]] static std::filesystem::path nomeAccanto(const std::filesystem::path& destinazione);
   FileAccanto(FileAccanto&&) = delete;
@@ -23,14 +23,14 @@ class FileAccanto {
   /// there is anything to read in it.
   void prendiPermessi(const Descrittore& vecchio) const;
   void scrivi(std::string_view dati) const { file_.scrivi(dati, destinazione_); }
-  /// Brings it to the disk and closes it. Failure 57 or 61.
+  /// Brings it to the disk and closes it. Fails with Errore::DispositivoIO or DiscoPieno.
   void finisci();
 
-  /// Takes the place of a file that is there (`vecchio`) or comes where none is, and brings the folder to the
+  /// Takes the place of a file that is there (`vecchio`) or a free one, and brings the folder to the
   /// disk. False when the file that is there can't be moved away. After a failure of the disk the old file is
   /// back, where the file system can exchange two files.
   [[nodiscard]] bool prendiIlPosto(bool vecchio, const BloccoCartella& cartella) const;
-  /// The same where there must be no file: failure 58 when there is one.
+  /// The same where there must be no file: fails with Errore::FileEsistente when there is one.
   void prendiPostoLibero() const;
 
  private:

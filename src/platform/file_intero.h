@@ -9,16 +9,16 @@
 namespace vaticlo {
 
 /// Reads as many bytes as `dati` holds. A missing file is created empty; what a short one does not have is 0;
-/// what follows in a longer one is left out. A file that may only be read is read all the same, and a missing
-/// one that can't be created reads as empty. Failure 75 (no access, no plain file), 76 (no folder) or 57
-/// (reading went wrong).
+/// what follows in a longer one is left out. A file that may only be read is no failure, and a missing one
+/// that can't be created reads as empty. Fails with Errore::AccessoAlFile (no plain file either),
+/// PercorsoNonTrovato (no folder) or DispositivoIO (reading went wrong).
 void leggiFile(const std::filesystem::path& percorso, std::span<std::uint8_t> dati);
 
 /// What becomes of a file that is there already.
 enum class Scrittura {
   Griglia,  ///< it takes the new bytes and keeps what it has beyond them
   Intera,   ///< it holds the new bytes and nothing else
-  Nuova,    ///< there must be none: failure 58
+  Nuova,    ///< there must be none: Errore::FileEsistente otherwise
 };
 
 /// Writes `dati` wholly or not at all. A new file is written beside, under a name that begins with ".",
@@ -28,14 +28,16 @@ enum class Scrittura {
 /// the system allows it; a link stays a link, to the new file; other hard links keep the old one. Where
 /// nothing can be put beside (a folder that can't be written, a tail beyond 64 MiB) the bytes go over the old
 /// ones, which are put back on a failure; there alone a kill -9 may leave a mixture.
-/// Failure 57, 61 (no room), 75 (a file that can't be written is not replaced either), 76 (no folder), 58 or
-/// 70 (another program holds the folder); the file is then as it was.
+/// Fails with Errore::DispositivoIO, DiscoPieno, AccessoAlFile (a file that can't be written is not replaced
+/// either), PercorsoNonTrovato (no folder), FileEsistente or CartellaOccupata (another program holds the
+/// folder); the file is then as it was.
 void scriviFile(const std::filesystem::path& percorso, std::span<const std::uint8_t> dati,
                 Scrittura come = Scrittura::Griglia);
 
-/// Gives a file another name, where there is no file yet: failure 58 when there is one. A name that leads to
-/// the same file (upper and lower case, on some file systems) is taken. The new name is on the disk when it
-/// comes back. Failure 53, 57, 61, 70 or 75: the file then has its old name.
+/// Gives a file another name, where there is no file yet. A name that leads to the same file (upper and lower
+/// case, on some file systems) is taken. The new name is on the disk on return. Fails with
+/// Errore::FileEsistente, FileNonTrovato, DispositivoIO, DiscoPieno, CartellaOccupata or AccessoAlFile: the
+/// file then has its old name.
 void rinominaFile(const std::filesystem::path& percorso, const std::filesystem::path& nuovo);
 
 /// Takes a file away, from the disk too. Failure 53, 57, 70 or 75: it is still there then.
@@ -44,7 +46,7 @@ void eliminaFile(const std::filesystem::path& percorso);
 /// The longest text that is taken from a user, in bytes: far more than any that makes sense.
 inline constexpr std::size_t kMassimoTesto = std::size_t{64} << 20;
 
-/// The whole content of a file that must exist: failure FileNonTrovato when it does not, TestoTroppoLungo
+/// The whole content of a file that must exist. Fails with Errore::FileNonTrovato, or with TestoTroppoLungo
 /// when it has more than `massimo` bytes. A pipe or a device, which may have no end, is read up to
 /// kMassimoTesto at most.
 [[nodiscard]] std::string contenutoFile(const std::filesystem::path& percorso,

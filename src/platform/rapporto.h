@@ -12,8 +12,8 @@
 
 namespace vaticlo {
 
-/// The text of a report as a person reads it: UTF-8, lines ended by "\n". Failure 53 when there is no such
-/// file.
+/// The text of a report as a person reads it: UTF-8, lines ended by "\n". Fails with
+/// Errore::FileNonTrovato when there is no such file.
 [[nodiscard]] std::string testoRapporto(const std::filesystem::path& percorso);
 
 /// A report file: text lines in the 8-bit code page, each ended by carriage return and line feed. Opening
@@ -21,22 +21,22 @@ namespace vaticlo {
 /// its life whatever happens, so that a failure leaves every line written before it.
 class FileRapporto {
  public:
-  /// Failure 75 or 76 when the file can't be opened for writing.
+  /// Fails with Errore::AccessoAlFile or PercorsoNonTrovato when the file can't be opened for writing.
   explicit FileRapporto(const std::filesystem::path& percorso);
   FileRapporto(FileRapporto&&) = delete;
   FileRapporto& operator=(FileRapporto&&) = delete;
   ~FileRapporto();
 
-  /// Writes one line made of texts (UTF-8) and whole numbers. Failure DiscoPieno or DispositivoIO when the
-  /// disk does not take it, NomeFile when the report is closed.
+  /// Writes one line made of texts (UTF-8) and whole numbers. Fails with Errore::DiscoPieno or DispositivoIO
+  /// when the disk does not take it, with NomeFile when the report is closed.
   template <class... Pezzi>
   void riga(const Pezzi&... pezzi) {
     (aggiungi(pezzi), ...);
     fineRiga();
   }
 
-  /// Brings the last lines to the disk and closes the file, whatever happens. Failure DiscoPieno or
-  /// DispositivoIO; none the second time.
+  /// Brings the last lines to the disk and closes the file, whatever happens. Fails with Errore::DiscoPieno
+  /// or DispositivoIO; not the second time.
   void chiudi();
   /// The same for a run that no failure of its report stops: whether every line, from the first one on, has
   /// reached the disk.

@@ -145,7 +145,7 @@ Scaricato scaricaInMemoria(const std::string& indirizzo, std::int64_t seModifica
   curl.getinfo(richiesta.get(), CURLINFO_FILETIME_T, &modificato);
   if (esito != CURLE_OK) return {.motivo = motivo(esito, stato)};
   if (seModificatoDopo > 0 && immutato != 0) return {.esito = Scaricato::Esito::Immutato};
-  // The 2xx behind these carry no file, or a part of one.
+  // The other 2xx carry no file, or a part of one.
   if (stato < 200 || stato > 203) return {.motivo = motivo(CURLE_HTTP_RETURNED_ERROR, stato)};
   return {.esito = Scaricato::Esito::Arrivato,
           .contenuto = std::move(raccolta.testo),
@@ -162,7 +162,7 @@ bool scaricaInFile(const std::string& indirizzo, const std::filesystem::path& de
                Scrittura::Intera);
     return true;
   } catch (const RuntimeFailure&) {
-    return false;  // told in the same way as every other failure
+    return false;  // reported like every other failure
   }
 }
 

@@ -13,7 +13,7 @@ namespace vaticlo {
 
 /// How far a download is waited for. What goes beyond one of these is a failure.
 struct LimitiScaricamento {
-  std::size_t ottetti = std::size_t{64} << 20;  ///< no archive is anywhere near it
+  std::size_t ottetti = std::size_t{64} << 20;  ///< far more than any archive
   std::chrono::seconds collegamento{20};        ///< until the server is reached
   std::chrono::seconds silenzio{30};            ///< with next to nothing arriving
   std::chrono::seconds tutto{std::chrono::minutes{5}};

@@ -13,7 +13,7 @@ namespace vaticlo {
 /// What a message is to whoever reads it. A question has the buttons Sì and No, the others OK.
 enum class Genere {
   Notizia,
-  Rifiuto,  ///< what was asked is not done; archive and methods are as they were
+  Rifiuto,  ///< what was asked for is not done; archive and methods are as they were
   Domanda,
 };
 enum class Icona { Nessuna, Esclamazione };

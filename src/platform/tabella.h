@@ -41,7 +41,7 @@ struct Tabella {
 [[nodiscard]] std::string testoCsv(const Tabella& tabella);
 inline constexpr std::string_view kBom = "\xEF\xBB\xBF";
 
-/// The same with tabs between the fields and LF behind each line, as spreadsheets paste it. Tabs and line
+/// The same with tabs between the fields and LF after each line, as spreadsheets paste it. Tabs and line
 /// ends inside a field become blanks.
 [[nodiscard]] std::string testoDaIncollare(const Tabella& tabella);
 

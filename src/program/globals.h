@@ -30,10 +30,10 @@ struct Globals {
   int ContaGiocabili = 0;
   int ContaVincenti = 0;
   int ContaInGioco = 0;
-  std::int16_t ContaNonGiocabili = 0;  ///< reset and printed, never raised: meant
+  std::int16_t ContaNonGiocabili = 0;  ///< Meant: reset and printed, never raised.
   int AmbateVincenti = 0;
   int AmbiRuota = 0;
-  int AmbiTutte = 0;  ///< never reset while the program runs: meant
+  int AmbiTutte = 0;  ///< Meant: never reset while the program runs.
   int AmbiSorti = 0;
   int TerniSorti = 0;
   int QuaterneSorti = 0;

@@ -39,7 +39,8 @@ void clsStatistica::Inizia(std::int16_t inizio, std::int16_t fine) {
     // A folder that can't be read: a run without methods.
   }
 
-  // The methods 2 to 10 of the toolbar have no scan: totals alone, with the bets of the last scan. Meant.
+  // Meant: the methods 2 to 10 of the toolbar have no scan: totals alone, with the bets of the last scan
+  // (guide: "La statistica si apre dal menu").
   if (g_.MetodoScelto == 1) {
     frm_.prgbar_Max(fine - inizio + 1);
     azzeraGiocate();
@@ -65,7 +66,7 @@ void clsStatistica::Inizia(std::int16_t inizio, std::int16_t fine) {
 void clsStatistica::azzeraGiocate() {
   g_.AmbateVincenti = 0;
   g_.AmbiRuota = 0;
-  // AmbiTutte is not among them: it grows from run to run until the program ends. Meant.
+  // Meant: AmbiTutte is not among them, it grows from run to run (guide: "Altri limiti della statistica").
   g_.AmbiSorti = 0;
   g_.TerniSorti = 0;
   g_.QuaterneSorti = 0;

@@ -36,7 +36,7 @@ class PannelloCorsa {
 /// Inizia(), rilascia().
 class clsStatistica : private EsitoColpo {
  public:
-  /// Failure 75 or 76 when the archive or a report can't be opened.
+  /// Fails with Errore::AccessoAlFile or PercorsoNonTrovato when the archive or a report can't be opened.
   clsStatistica(Programma& programma, PannelloCorsa& frm);
 
   /// A whole run over the draws from `inizio` to `fine`. A failure inside loses the step it is in, the rest
@@ -45,7 +45,7 @@ class clsStatistica : private EsitoColpo {
   void Inizia(std::int16_t inizio, std::int16_t fine);
 
   /// Closes the reports; only then are they complete. One that the disk did not take whole is noted in
-  /// Globals; a failing write ends no run, the last one neither.
+  /// Globals; a failing write ends no run, not even the last one.
   void rilascia();
 
  private:

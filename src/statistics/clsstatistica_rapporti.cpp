@@ -10,13 +10,13 @@ namespace {
 constexpr const char* kRigaVincite = " _______________________________________________";
 constexpr const char* kRigaInGioco = " _____________________________________";
 
-// A line of the totals stands for itself: a failure in working it out loses that line and no other.
+// A failure in working out a line of the totals loses that line and no other.
 template <class Scrivi>
 void unaRiga(Scrivi scrivi) {
   try {
     scrivi();
   } catch (const RuntimeFailure&) {
-    // The next line is written all the same.
+    // The next line is still written.
   }
 }
 
@@ -67,7 +67,7 @@ void clsStatistica::scriviVincita(const std::string& metodo, bool vincente) {
   const auto& previsione = g_.previsione;
   vincite_.riga(" Previsione n.°", g_.ContaGiocabili);
   vincite_.riga(" Metodo: ", metodo);
-  if (vincente) scriviTelefono(vincite_, previsione);  // never for a negative prediction: meant
+  if (vincente) scriviTelefono(vincite_, previsione);  // Meant: not for a negative prediction.
   vincite_.riga(" Data di Calcolo: ", " Estrazione n.", g_.EstrazioneBase, " del ",
                 archivio_.DataEstrazione(g_.EstrazioneBase));
   scriviGiocate(vincite_, previsione);

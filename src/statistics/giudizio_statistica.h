@@ -12,9 +12,9 @@ struct EsitoPrevisione {
   int colpo = 0;  ///< of the win; 0 without one
 };
 
-/// Judges a prediction by the policy of the statistics, without a word about it: it ends with the first colpo
-/// that wins, all bets of it tried and told to `vincite`, or with the first one that lies behind `ultima`,
-/// the last stored draw; `Tutte` goes along with every wheel. Failures of giudicaColpo().
+/// Judges a prediction by the policy of the statistics, writing nothing: it ends with the first colpo that
+/// wins, after all its bets were tried and passed to `vincite`, or with the first one that lies after
+/// `ultima`, the last stored draw; `Tutte` is tried with every wheel. Failures of giudicaColpo().
 [[nodiscard]] EsitoPrevisione giudicaPrevisione(const Previsione& previsione, const RegoleVincita& regole,
                                                 int ultima, EsitoColpo& vincite);
 

@@ -18,7 +18,7 @@ namespace vaticlo::comandi {
 
 namespace {
 
-/// The methods to look at; nothing, told to the user, when the one named is not there.
+/// The methods to look at; nothing, after a message, when the one named is not there.
 std::optional<std::vector<std::string>> metodiScelti(Sessione& sessione, const Argomenti& argomenti) {
   const auto& cartella = sessione.programma().cartella;
   if (const auto nome = argomenti.seDato("--metodo")) {

@@ -8,8 +8,8 @@
 
 namespace vaticlo {
 
-/// Names on standard error the methods that the coming run can't judge as meant: one that does not exist or,
-/// among all, each one whose failure the run keeps to itself.
+/// Names on standard error the methods that the coming run will not judge: one that does not exist or,
+/// among all, each one whose failure the run swallows.
 void avvisaDeiMetodi(const Programma& programma, const std::optional<std::string>& metodo);
 
 /// The outcome of a run: kErrore, and their names on standard error, when the disk did not take its reports.

@@ -10,7 +10,7 @@ namespace vaticlo {
 
 class Sessione;
 
-/// Something that a command is told on its line. A name that begins with "--" is an option, any other one an
+/// Something that a command reads from its line. A name that begins with "--" is an option, any other one an
 /// argument by its place.
 struct Parametro {
   std::string nome;
@@ -37,8 +37,8 @@ struct Comando {
 /// All commands, in the order of the help.
 [[nodiscard]] std::vector<Comando> tavolaComandi();
 
-/// Each does what its command says and prints it. A refusal is told by a message of the services; what is
-/// wrong with the arguments, by UsoErrato.
+/// Each does what its command says and prints it. A refusal is a message of the services; what is wrong
+/// with the arguments, an UsoErrato.
 namespace comandi {
 
 Esito importa(Sessione& sessione, const Argomenti& argomenti);

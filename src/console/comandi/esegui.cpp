@@ -14,14 +14,14 @@ namespace vaticlo::comandi {
 
 namespace {
 
-constexpr std::size_t kMassimoRiga = std::size_t{1} << 20;  // no command comes near it
+constexpr std::size_t kMassimoRiga = std::size_t{1} << 20;  // far longer than any command
 
 /// The lines of a text that may have no end.
 class Righe {
  public:
   explicit Righe(std::istream& testo) : testo_(testo) {}
 
-  /// False at the end. UsoErrato for what can't be commands, failure DispositivoIO for a reading error.
+  /// False at the end. UsoErrato for what can't be commands. Fails with Errore::DispositivoIO.
   bool prossima(std::string& riga) {
     riga.clear();
     ++numero_;

@@ -87,7 +87,7 @@ Esito inserisciPrevisione(Sessione& sessione, const Argomenti& argomenti) {
   return kFatto;
 }
 
-// A slot that the list does not offer stays unchosen, and the editor says what it says of that.
+// A slot that the list does not offer stays unchosen, and the editor refuses.
 Esito modificaPrevisione(Sessione& sessione, const Argomenti& argomenti) {
   const PassoMuto passo(sessione.programma().cartella);
   CorniceVuota cornice;

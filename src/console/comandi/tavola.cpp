@@ -20,7 +20,7 @@ std::vector<Parametro> conCampi(std::vector<Parametro> parametri, bool nuova) {
   return parametri;
 }
 
-/// Where what a command lists goes besides the screen.
+/// Where a command writes what it lists, other than the screen.
 std::vector<Parametro> conUscite(std::vector<Parametro> parametri) {
   parametri.push_back({"--csv", "Scrive anche un file CSV (-: standard output al posto del testo)", "FILE"});
   parametri.push_back({.nome = "--json", .aiuto = "Scrive in JSON al posto del testo", .quanti = 0});
@@ -216,7 +216,7 @@ std::vector<Comando> tavolaComandi() {
        .aiuto = "Esegue i comandi di un file di testo, uno per riga",
        .fai = esegui,
        .parametri = {{"FILE", "File dei comandi (-: standard input)"}},
-       .creaCartella = true,  // each of its lines is asked for itself
+       .creaCartella = true,  // whether it may is asked again for each of its lines
        .soloDalTerminale = true},
   };
 }
