@@ -42,28 +42,9 @@ TEST_P(Comandi, SayHowTheyWent) {
 
 constexpr auto perNome = [](const auto& info) { return std::string(info.param.nome); };
 
-const std::string kVuote =
-    "Ca 0 0 0 0 0\nFi 0 0 0 0 0\nGe 0 0 0 0 0\nMi 0 0 0 0 0\nNa 0 0 0 0 0\nPa 0 0 0 0 0\nRo 0 0 0 0 0\n"
-    "To 0 0 0 0 0\nVe 0 0 0 0 0\n";
-
 INSTANTIATE_TEST_SUITE_P(
     Estrazioni, Comandi,
     testing::Values(
-        Caso{"Shown", "estrazione 2", 0,
-             "Estrazione n° 2 del 12/3/2005\nBa 1 2 4 8 16\n" + kVuote + "Naz 7 0 0 0 0\n"},
-        Caso{"OutsideTheGrid", "estrazione -1", 1, "", "Errore di run-time 9: "},
-        Caso{"NoWholeNumber", "estrazione 1,5", 2, "", "1,5"}, Caso{"NothingSought", "trova ''", 0, ""},
-        Caso{"NotFound", "trova -5", 3, "[Attenzione] Inserisci un valore corretto compreso tra 1 e 3.\n"},
-        Caso{"Stored", "inserisci 16/03/2005 NUMERI", 0, "Salvata l'estrazione n° 4\n"},
-        Caso{"TooFewNumbers", "inserisci 16/03/2005 1 2", 2, "", "NUMERI"},
-        Caso{"NoDate", "inserisci 16-3 NUMERI", 2, "", "16-3"},
-        Caso{"Changed", "modifica 3 NUMERI", 0, "Salvata l'estrazione n° 3\n"},
-        Caso{"Deleted", "cancella 3", 0, "Cancellata l'estrazione n° 3\n"},
-        Caso{"NothingToDelete", "cancella 4", 3,
-             "[Attenzione] L'estrazione n° 4 non c'è: l'archivio ne contiene 3.\n"},
-        Caso{"Imported", "importa @/uno.txt", 0, "Importate 1 estrazioni, dal 8/1/2005 al 8/1/2005\n"},
-        Caso{"ImportOfAWrongLine", "importa @/due.txt", 2, "", "due.txt, riga 2: la ruota BA"},
-        Caso{"ImportOfNothing", "importa @/manca.txt", 2, "", "file non trovato"},
         Caso{"Added", "aggiungi @/nuove.txt", 0, "Aggiunte 2 estrazioni, dal 15/3/2005 al 17/3/2005\n",
              "dopo l'ultima estrazione dell'archivio"},
         Caso{"NothingToAdd", "aggiungi @/uno.txt", 0, "Nessuna estrazione nuova\n", "finisce il 8/1/2005"},
@@ -78,60 +59,8 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{"AddedFromNowhere", "aggiungi --da http://127.0.0.1:1/", 3,
              "[Aggiungi Estrazioni] Le estrazioni non si possono scaricare: il server non risponde. "
              "L'archivio è rimasto com'era.\n"},
-        Caso{"AddedFromTwoPlaces", "aggiungi @/uno.txt --da http://127.0.0.1:1/", 2, "", "non tutti e due"},
-        Caso{"NoDemonstrationOverDraws", "dimostrazione", 3,
-             "[Attenzione] La cartella contiene già estrazioni o previsioni: la dimostrazione non le "
-             "tocca.\n"}),
+        Caso{"AddedFromTwoPlaces", "aggiungi @/uno.txt --da http://127.0.0.1:1/", 2, "", "non tutti e due"}),
     perNome);
-
-INSTANTIATE_TEST_SUITE_P(
-    Metodi, Comandi,
-    testing::Values(
-        Caso{"Made", "metodo crea ' Suo '", 0, "Creato il metodo Suo\n"},
-        Caso{"TheSameInOtherLetters", "metodo crea MIO", 3,
-             "[Attenzione] Esiste già un metodo con il nome \"MIO\"!\n"},
-        Caso{"NoUtf8", "metodo rinomina Mio a\xFF", 3,
-             "[Attenzione] Il nome \"a\xFF\" non può essere quello di un file!\n"},
-        Caso{"PredictionStored", "previsione inserisci Mio --estrazione 2 --ruote Ba --ambate 7", 0,
-             "[Vaticlo] La previsione è stata salvata!\n"},
-        Caso{"PredictionsListed", "previsione elenco Mio", 0, "Previsione n.1 del 12/03//2005\n"},
-        Caso{"PredictionShown", "previsione mostra Mio 1", 0,
-             "Estrazione: 2\nNumero 899: 899.12\nRuote: Ba-Naz\nColpi: 1\nAmbate: 8\nAmbi: 1-2\nSorti: \n"},
-        Caso{"NoSuchPrediction", "previsione mostra Mio 2", 2, "", "previsione 2"},
-        Caso{"Checked", "verifica 2", 0,
-             " Previsione n.°1\n Metodo: Mio\n Numero di Telefono di previsione: 899.12\n Ruote: Ba-Naz\n"
-             " Ambate: 8\n Ambi Secchi: 1-2\n\n Esito:\n In gioco\n___________________________________\n"
-             "Giocabili: 1\nVincenti: 0\nIn gioco: 1\n"},
-        Caso{"CheckOfNoMethod", "verifica 2 --metodo Altro", 0, "Giocabili: 0\nVincenti: 0\nIn gioco: 0\n",
-             "nessun metodo di nome \"Altro\""},
-        Caso{"NothingInPlay", "in-gioco", 0, "Non ci sono previsioni in gioco\n"},
-        Caso{"TooManyLastDraws", "vincenti --ultime 6", 2, "", "non 6"}),
-    perNome);
-
-INSTANTIATE_TEST_SUITE_P(
-    Riga, Comandi,
-    testing::Values(
-        Caso{"Version", "--version", 0, "vaticlo-cli 0.1.0\n"},
-        Caso{"UnknownCommand", "verfica 1", 2, "", "verfica (forse verifica?)"},
-        Caso{"MistypedFlag", "--versoin", 2, "", "--versoin (forse --version?)"},
-        Caso{"NothingNear", "nulla 1", 2, "", "comando sconosciuto: nulla\n"},
-        Caso{"UnknownOption", "previsione elenco Mio --spu 1", 2, "", "--spu 1\n"},
-        Caso{"MistypedOption", "previsione inserisci Mio --estrazione 2 --ruote Ba --spu 1-2", 2, "",
-             "--spu 1-2 (forse --sup?)"},
-        Caso{"TooMany", "verifica 1 2 3", 2, "", "sconosciuto: 2 3\n"},
-        Caso{"MissingArgument", "metodo rinomina Mio", 2, "", "manca NUOVO\n"},
-        Caso{"MissingOption", "previsione inserisci Mio --ruote Ba", 2, "", "manca --estrazione\n"},
-        Caso{"MissingValue", "in-gioco --metodo", 2, "", "valori sbagliato per --metodo\n"},
-        Caso{"GivenTwice", "in-gioco --metodo a --metodo b", 2, "", "valori sbagliato per --metodo\n"}),
-    perNome);
-
-TEST_F(Console, ThePredictionThatIsModifiedKeepsWhatIsNotGiven) {
-  archivioDi(3).scrivi(p);
-  scriviMetodoProva(p, "M", {{.estrazione = 2, .ruote = {1}, .ambate = {8}}});
-  EXPECT_EQ(esegui("previsione modifica M 1 --ambi 1-2"), 0);
-  EXPECT_EQ(esegui("previsione mostra M 1"), 0);
-  EXPECT_THAT(detto, EndsWith("Ruote: Ba\nColpi: 10\nAmbate: 8\nAmbi: 1-2\nSorti: \n"));
-}
 
 /// A standard output that looks, when it is given a text, whether another program could take the folder.
 struct UscitaCheGuarda : std::streambuf {
@@ -177,14 +106,6 @@ TEST_F(Console, NamesTheMethodsThatNoRunCanJudge) {
     EXPECT_THAT(errori, HasSubstr("\"Pieno\" non si può giudicare: contiene dieci previsioni"));
     EXPECT_THAT(errori, HasSubstr("\"senza\" non si può giudicare"));
   }
-}
-
-TEST_F(Console, ANameIsTheSameHoweverItsAccentsAreComposed) {
-  EXPECT_EQ(esegui("metodo crea 'Cafe\u0301'"), 0);
-  EXPECT_EQ(esegui("metodo crea 'CAF\u00C9'"), 3);
-  EXPECT_EQ(esegui("metodo rinomina 'Cafe\u0301' 'Caf\u00E9'"), 0) << "its own name is given up";
-  EXPECT_EQ(esegui("metodo elenco"), 0);
-  EXPECT_EQ(detto, "Caf\u00E9\n");
 }
 
 TEST_F(Console, TheDemonstrationHasPredictionsThatWonThatLostAndInPlay) {
