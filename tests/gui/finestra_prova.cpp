@@ -5,12 +5,13 @@
 #include <QMdiArea>
 #include <stdexcept>
 
+#include "desktop/applicazione.h"
+
 namespace vaticlo::prova {
 
 PrincipaleProva::PrincipaleProva() {
-  QApplication::setStyle("Fusion");
-  if (!italiano.load(":/traduzioni/qtbase_it.qm")) ferma("no Italian texts");
-  QApplication::installTranslator(&italiano);
+  static const bool pronta = (preparaApplicazione(*qApp), true);
+  Q_UNUSED(pronta);
   finestra.show();
   if (!QTest::qWaitForWindowActive(&finestra)) ferma("the main window does not become active");
 }
@@ -51,6 +52,14 @@ void PrincipaleProva::clicca(const QString& nome) {
   QTest::mousePress(finestra.windowHandle(), Qt::LeftButton, {}, punto);
   QCoreApplication::processEvents();  // a user holds the button down for a while
   QTest::mouseRelease(finestra.windowHandle(), Qt::LeftButton, {}, punto);
+}
+
+void PrincipaleProva::stampa() {
+  for (const auto risposta : {Risposta::No, Risposta::Si}) {
+    p.servizi.risposta = risposta;
+    clicca("btnStampa");
+  }
+  QVERIFY(p.servizi.stampati == std::vector{testo("RichTextBox1").toStdString()});
 }
 
 QString PrincipaleProva::testo(const QString& nome) const {

@@ -2,7 +2,6 @@
 
 #include <QMdiSubWindow>
 #include <QTest>
-#include <QTranslator>
 
 #include "desktop/vista_principale.h"
 #include "sostegno/scenario.h"
@@ -20,6 +19,7 @@ struct PrincipaleProva {
   void premi(Qt::Key tasto, Qt::KeyboardModifiers modificatori = {}, int volte = 1);
   void scrivi(const QString& testo);
   void clicca(const QString& nome);
+  void stampa();  ///< the print button, with a No and then with a Yes to its question
 
   /// A widget of the active child window that can be used.
   template <class T = QWidget>
@@ -41,7 +41,6 @@ struct PrincipaleProva {
   [[noreturn]] static void ferma(const QString& perche);
 
   ProgrammaProva p;
-  QTranslator italiano;
   QList<int> giunte;
   Confine confine{[this](const RuntimeFailure& failure) { giunte << failure.numero(); }};
   frmPrincipale principale{p.programma};

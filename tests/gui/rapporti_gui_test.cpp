@@ -4,18 +4,13 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
-#include <QProgressDialog>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTimer>
-#include <QToolTip>
-#include <thread>
 
 #include "desktop/carta.h"
-#include "desktop/servizi_desktop.h"
 #include "gui/finestra_prova.h"
-#include "sostegno/server_prova.h"
 
 using namespace vaticlo;
 using namespace vaticlo::prova;
@@ -55,10 +50,9 @@ class RapportiGuiTest : public QObject {
     QCOMPARE(v.area->document()->lineCount(), v.testo("RichTextBox1").count('\n') + 1);
     v.premi(Qt::Key_A, Qt::ControlModifier);
     QVERIFY(v.scelto().contains("54-55"));
-    v.clicca("btnStampa");  // the selection is reduced to nothing, and the whole text printed
-    QCOMPARE(v.detti(), QStringList("[Ambolino] Stampo la previsione?"));
+    v.stampa();  // the selection is reduced to nothing, and the whole text printed
+    QCOMPARE(v.detti(), QStringList(2, "[Ambolino] Stampo la previsione?"));
     QCOMPARE(v.scelto(), QString());
-    QCOMPARE(QString::fromStdString(v.p.servizi.stampati.at(0)), v.testo("RichTextBox1"));
     v.area->setFocus();
     v.premi(Qt::Key_F, Qt::ControlModifier);
     QCOMPARE(v.fuoco(), QString("cercaNelTesto"));
@@ -129,14 +123,6 @@ class RapportiGuiTest : public QObject {
       QCOMPARE(spezzaRighe(testo, entra), QString(spezzato));
   }
 
-  void withoutAPrinterAHintNamesTheOtherWays() {
-    PrincipaleProva v;
-    ServiziDesktop servizi;
-    servizi.stampa("testo");
-    QTRY_VERIFY(QToolTip::text().contains("Salva come PDF"));
-    QToolTip::hideText();
-  }
-
   void aFolderThatAnotherProgramHoldsIsToldAndTheProgramGoesOn() {
     QString detto;
     QTimer::singleShot(0, this, [&] {
@@ -150,25 +136,6 @@ class RapportiGuiTest : public QObject {
       throw RuntimeFailure(Errore::CartellaOccupata);
     });
     QVERIFY(detto.contains("riprovate") && fine == 0);
-  }
-
-  void aDownloadIsStoppedByEscAndTheScreenStaysPaintedMeanwhile() {
-    PrincipaleProva v;
-    const ServerProva server({});  // reached, and silent
-    ServiziDesktop servizi;
-    servizi.padre(&v.finestra);
-    QTimer tasti;
-    bool comandi = true;
-    connect(&tasti, &QTimer::timeout, this, [&] {
-      auto* box = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
-      if (box == nullptr) return;
-      QTest::keyClick(v.finestra.windowHandle(), Qt::Key_V, Qt::AltModifier);
-      comandi = !v.aperte().isEmpty();
-      QTest::keyClick(box, Qt::Key_Escape);
-    });
-    tasti.start(50);
-    QVERIFY(!servizi.scarica(server.indirizzo("/archivio"), v.p.radice / "archivion71.dat"));
-    QVERIFY(!comandi && !v.p.esiste("archivion71.dat"));
   }
 };
 

@@ -1,0 +1,178 @@
+#include <QAbstractButton>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProcess>
+#include <QProgressDialog>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolTip>
+
+#include "desktop/applicazione.h"
+#include "desktop/servizi_desktop.h"
+#include "gui/finestra_prova.h"
+#include "sostegno/server_prova.h"
+
+using namespace vaticlo;
+using namespace vaticlo::prova;
+
+namespace {
+
+/// Somebody in front of the screen, who does that to every box that comes up.
+class Qualcuno {
+ public:
+  explicit Qualcuno(const std::function<void(QDialog&)>& fai) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [fai] {
+      if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) fai(*box);
+    });
+    timer_.start(10);
+  }
+
+ private:
+  QTimer timer_;
+};
+
+/// The program of its own that a failure ends: writes what the box says.
+int finisci() {
+  const Qualcuno qualcuno([](QDialog& box) {
+    const auto& messaggio = dynamic_cast<QMessageBox&>(box);
+    std::puts(qPrintable(messaggio.text()));
+    std::fflush(stdout);
+    messaggio.buttons().at(0)->click();
+  });
+  Confine().nella("Vaticla").esegui([] { throw RuntimeFailure(Errore::Indice); });
+  return 0;
+}
+
+const Messaggio kNotizia{"<b>testo</b>", "titolo"};
+const Messaggio kRifiuto{"<b>testo</b>", "titolo", Genere::Rifiuto, Icona::Esclamazione};
+const Messaggio kDomanda{"<b>testo</b>", "titolo", Genere::Domanda};
+const Messaggio kPericolo{"<b>testo</b>", "titolo", Genere::Domanda, Icona::Nessuna, Risposta::No};
+
+}  // namespace
+
+class ServiziGuiTest : public QObject {
+  Q_OBJECT
+
+ public slots:
+  void pagina(const QUrl& indirizzo) { pagine_ << indirizzo.toString(); }
+
+ private slots:
+  void aMessageBoxAsksAndAnswersAsItShould_data() {
+    QTest::addColumn<Messaggio>("messaggio");
+    QTest::addColumn<QString>("pulsanti");
+    QTest::addColumn<int>("icona");
+    QTest::addColumn<QList<Risposta>>("risposte");  // to Enter, to Esc, to the close box
+    QTest::newRow("notice") << kNotizia << "OK" << 0 << QList<Risposta>(3, Risposta::Ok);
+    QTest::newRow("refusal") << kRifiuto << "OK" << int(QMessageBox::Warning)
+                             << QList<Risposta>(3, Risposta::Ok);
+    QTest::newRow("question") << kDomanda << "No Sì" << 0
+                              << QList<Risposta>{Risposta::Si, Risposta::No, Risposta::No};
+    QTest::newRow("dangerous question") << kPericolo << "No Sì" << 0 << QList<Risposta>(3, Risposta::No);
+  }
+  void aMessageBoxAsksAndAnswersAsItShould() {
+    QFETCH(const Messaggio, messaggio);
+    QFETCH(const QString, pulsanti);
+    QFETCH(const int, icona);
+    QFETCH(const QList<Risposta>, risposte);
+    for (int gesto = 0; gesto < 3; ++gesto) {
+      QStringList visto;
+      const Qualcuno qualcuno([&](QDialog& finestra) {
+        const auto& box = dynamic_cast<QMessageBox&>(finestra);
+        QStringList testi;
+        for (const auto* pulsante : box.buttons()) testi << pulsante->text().remove('&');
+        testi.sort();
+        visto = {box.windowTitle(), box.text(), testi.join(' ')};
+        QVERIFY(box.textFormat() == Qt::PlainText && box.icon() == icona);
+        gesto == 2 ? finestra.reject()
+                   : QTest::keyClick(&finestra, gesto == 0 ? Qt::Key_Return : Qt::Key_Escape);
+      });
+      QCOMPARE(ServiziDesktop().mostra(messaggio), risposte[gesto]);
+      QCOMPARE(visto, QStringList({"titolo", "<b>testo</b>", pulsanti}));
+    }
+  }
+
+  void whatIsTypedOrPickedCountsUnlessTheBoxIsCancelled() {
+    const QTemporaryDir cartella;
+    QFile(cartella.filePath("è.txt")).open(QIODevice::WriteOnly);
+    for (const bool annulla : {false, true}) {
+      const Qualcuno qualcuno([&](QDialog& box) {
+        if (auto* scelta = qobject_cast<QFileDialog*>(&box)) {
+          QCOMPARE(scelta->windowTitle(), QString("titolo"));
+          scelta->setDirectory(cartella.path());
+          scelta->findChild<QLineEdit*>("fileNameEdit")->setText("è.txt");
+          QMetaObject::invokeMethod(scelta, annulla ? "reject" : "accept");
+          return;
+        }
+        box.findChild<QLineEdit*>("risposta")->setText("à");
+        QTest::keyClick(&box, annulla ? Qt::Key_Escape : Qt::Key_Return);
+      });
+      QCOMPARE(ServiziDesktop().chiedi("domanda", "titolo"), annulla ? "" : "à");
+      QCOMPARE(QFile::decodeName(ServiziDesktop().scegliFile("titolo").c_str()),
+               annulla ? QString() : cartella.filePath("è.txt"));
+    }
+  }
+
+  void longWorkShowsABoxUntilItsEnd() {
+    ServiziDesktop servizi;
+    const auto box = [] { return qobject_cast<QProgressDialog*>(QApplication::activeModalWidget()); };
+    QTRY_VERIFY((servizi.avanzamento("Lavoro", 40), box() != nullptr));
+    QVERIFY(box()->value() == 40 && box()->labelText() == "Lavoro");
+    servizi.avanzamento("Lavoro", 100);
+    QVERIFY(box() == nullptr);
+  }
+
+  void thePagesGoToTheBrowserAndTheDateIsTodays() {
+    QDesktopServices::setUrlHandler("http", this, "pagina");
+    ServiziDesktop().apriPagina("http://example.org/a?b=c");
+    QDesktopServices::unsetUrlHandler("http");
+    QCOMPARE(pagine_, QStringList("http://example.org/a?b=c"));
+    const auto oggi = ServiziDesktop().oggi();
+    QCOMPARE(QDate(int(oggi.year()), int(unsigned(oggi.month())), int(unsigned(oggi.day()))),
+             QDate::currentDate());
+  }
+
+  void withoutAPrinterAHintNamesTheOtherWays() {
+    const PrincipaleProva v;
+    ServiziDesktop().stampa("testo");
+    QTRY_VERIFY(QToolTip::text().contains("Salva come PDF"));
+    QToolTip::hideText();
+  }
+
+  void aDownloadIsStoppedByEscAndNothingElseIsDoneMeanwhile() {
+    PrincipaleProva v;
+    const ServerProva server({});  // reached, and silent
+    ServiziDesktop servizi;
+    servizi.padre(&v.finestra);
+    const Qualcuno qualcuno([&](QDialog& box) {
+      QTest::keyClick(v.finestra.windowHandle(), Qt::Key_V, Qt::AltModifier);
+      QCOMPARE(v.aperte(), QStringList());
+      QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    QVERIFY(!servizi.scarica(server.indirizzo("/archivio"), v.p.radice / "archivion71.dat"));
+    QVERIFY(!v.p.esiste("archivion71.dat"));
+  }
+
+  void aFailureEndsTheProgramWithOneBoxAndStatus1() {
+    QProcess altro;
+    altro.start(QCoreApplication::applicationFilePath(), {"finisci"});
+    QVERIFY(altro.waitForFinished(60000));
+    QCOMPARE(altro.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(altro.exitCode(), 1);
+    const auto detto = QString::fromUtf8(altro.readAllStandardOutput());
+    QVERIFY2(detto.contains("Errore di run-time 9") && detto.contains("\"Vaticla\""), qPrintable(detto));
+  }
+
+ private:
+  QStringList pagine_;
+};
+
+int main(int argc, char* argv[]) {
+  QApplication applicazione(argc, argv);
+  preparaApplicazione(applicazione);
+  if (argc > 1 && std::string_view(argv[1]) == "finisci") return finisci();
+  ServiziGuiTest test;
+  return QTest::qExec(&test, argc, argv);
+}
+#include "servizi_gui_test.moc"
