@@ -29,11 +29,17 @@ ArchivioEstrazioni archivioPieno(int ultima) {
   return std::move(archivio.griglia);
 }
 
-Previsione previsione(std::vector<int> ruote, int colpi) {
+Previsione previsione(std::vector<int> ruote, int colpi, std::vector<std::uint8_t> ambate = {},
+                      std::vector<std::pair<std::int16_t, std::int16_t>> ambi = {},
+                      std::vector<std::vector<std::int16_t>> sup = {}, bool tutte = false) {
   Previsione p;
   p.EstrazioneCalcolo = 1;
   p.Colpi = static_cast<std::uint8_t>(colpi);
   p.Ruote = std::move(ruote);
+  p.Ambate = std::move(ambate);
+  p.Ambi = std::move(ambi);
+  p.Sup = std::move(sup);
+  p.Tutte = tutte;
   return p;
 }
 
@@ -42,49 +48,29 @@ double probabilita(const Previsione& p, const ArchivioEstrazioni& archivio) {
   return std::accumulate(perColpo.begin(), perColpo.end(), 0.0);
 }
 
-std::vector<std::int16_t> tutti90() {
-  std::vector<std::int16_t> numeri(90);
-  std::iota(numeri.begin(), numeri.end(), std::int16_t{1});
-  return numeri;
-}
-
 TEST(Probabilita, WorkedOutByHand) {
   const auto archivio = archivioPieno(9);
-  auto ambata = previsione({1}, 1), due = ambata, ambo = ambata, doppio = ambata, terno = ambata,
-       molti = ambata;
-  ambata.Ambate = {7, 7, 95};
-  due.Ambate = {7, 8};
-  ambo.Ambi = {{7, 8}, {7, 0}};
-  doppio.Ambi = {{7, 7}};
-  terno.Sup = {{1, 2, 3}};
-  molti.Sup = {tutti90()};
-  // All five out of the ninety with 1 among them give six places, which win nothing.
-  auto ripetuto = molti;
-  ripetuto.Sup[0].push_back(1);
-  auto tutte = ambo, naz = ambata, colpi = ambata, nulli = ambata, ruote = ambata, data = ambata;
-  tutte.Tutte = true;
-  naz.Ruote = {11};
-  colpi.Colpi = 8;
-  nulli.Colpi = 0;
-  ruote.Ruote = {1, 2, 2};
-  data = previsione({0}, 5);
-  data.Ambate = {12};
+  std::vector<std::int16_t> tutti(90);
+  std::iota(tutti.begin(), tutti.end(), std::int16_t{1});
+  auto ripetuto = tutti;  // all five of the ninety with 1 among them give six places, which win nothing
+  ripetuto.push_back(1);
   const double cinquine = 43949268;
   const std::tuple<const char*, Previsione, double> casi[] = {
-      {"ambata", ambata, 1.0 / 18},
-      {"two ambate", due, 1 - (85.0 * 84) / (90 * 89)},
-      {"ambo", ambo, 2.0 / 801},
-      {"an ambo of one number twice", doppio, 1.0 / 18},
-      {"two or three of a combination of three", terno, (3 * 109736 - 2 * 3741) / cinquine},
-      {"a combination of all numbers", molti, 1},
-      {"the same with a number twice", ripetuto, 1 - 2441626 / cinquine},
-      {"ambo on all wheels, ten of them drawn", tutte, 1 - std::pow(799.0 / 801, 10)},
-      {"a wheel that was not drawn", naz, 0},
-      {"eight colpi", colpi, 1 - std::pow(17.0 / 18, 8)},
-      {"no colpo", nulli, 0},
-      {"two wheels, one of them twice", ruote, 1 - std::pow(17.0 / 18, 2)},
-      {"the date, which is not drawn", data, 1},
-  };
+      {"ambata", previsione({1}, 1, {7, 7, 95}), 1.0 / 18},
+      {"two ambate", previsione({1}, 1, {7, 8}), 1 - (85.0 * 84) / (90 * 89)},
+      {"ambo", previsione({1}, 1, {}, {{7, 8}, {7, 0}}), 2.0 / 801},
+      {"an ambo of one number twice", previsione({1}, 1, {}, {{7, 7}}), 1.0 / 18},
+      {"two or three of a combination of three", previsione({1}, 1, {}, {}, {{1, 2, 3}}),
+       (3 * 109736 - 2 * 3741) / cinquine},
+      {"a combination of all numbers", previsione({1}, 1, {}, {}, {tutti}), 1},
+      {"the same with a number twice", previsione({1}, 1, {}, {}, {ripetuto}), 1 - 2441626 / cinquine},
+      {"ambo on all wheels, ten of them drawn", previsione({1}, 1, {}, {{7, 8}}, {}, true),
+       1 - std::pow(799.0 / 801, 10)},
+      {"a wheel that was not drawn", previsione({11}, 1, {7}), 0},
+      {"eight colpi", previsione({1}, 8, {7}), 1 - std::pow(17.0 / 18, 8)},
+      {"no colpo", previsione({1}, 0, {7}), 0},
+      {"two wheels, one of them twice", previsione({1, 2, 2}, 1, {7}), 1 - std::pow(17.0 / 18, 2)},
+      {"the date, which is not drawn", previsione({0}, 5, {12}), 1}};
   for (const auto& [nome, p, attesa] : casi) EXPECT_NEAR(probabilita(p, archivio), attesa, 1e-12) << nome;
 }
 
@@ -191,9 +177,8 @@ TEST(Prove, ARunIsJudgedAsTheRealJudgeWouldJudgeItsArchive) {
 struct Ambate {
   Ambate() : archivio(archivioPieno(60)), ruote(ruoteEstratte(archivio)), gruppi(2) {
     for (int n = 1; n <= 40; ++n) {
-      auto p = previsione({1, 2, 3}, 1);
+      auto p = previsione({1, 2, 3}, 1, {static_cast<std::uint8_t>(n)});
       p.EstrazioneCalcolo = static_cast<std::int16_t>(n);
-      p.Ambate = {static_cast<std::uint8_t>(n)};
       gruppi[n <= 10 ? 0 : 1].piani.push_back(pianoDi(p, archivio));
     }
   }
@@ -209,26 +194,20 @@ bool uguali(const EsitoProve& a, const EsitoProve& b) {
   return a.vincenti == b.vincenti && a.andamento == b.andamento;
 }
 
-TEST(Prove, AgreeWithTheExactChancesWherePredictionsShareNoDraw) {
+TEST(Prove, TheWinnersOfEachRunAreCounted) {
   const Ambate ambate;
-  const int prove = 4000;
-  const auto risultato = ambate.prova({prove, 11, 0});
-  const double p = 1 - std::pow(17.0 / 18, 3);
-  // The winners are binomial: forty times p.
-  double somma = 0, quadrati = 0, dueSuDieci = 0;
-  for (std::size_t v = 0; v < risultato.insieme.vincenti.size(); ++v) {
-    somma += static_cast<double>(v) * risultato.insieme.vincenti[v];
-    quadrati += static_cast<double>(v * v) * risultato.insieme.vincenti[v];
+  const auto risultato = ambate.prova({300, 11, 0});
+  auto attesi = std::vector<std::uint32_t>(risultato.insieme.vincenti.size());
+  for (int prova = 0; prova < 300; ++prova) {
+    std::size_t vincenti = 0;
+    for (const auto& gruppo : ambate.gruppi)
+      for (const auto& piano : gruppo.piani)
+        vincenti += colpoVincente(piano, ambate.ruote, 11, prova) > 0 ? 1 : 0;
+    ++attesi.at(vincenti);
   }
-  dueSuDieci = risultato.gruppi[0].vincenti.at(2);
-  const double media = somma / prove, varianza = quadrati / prove - media * media;
-  EXPECT_EQ(risultato.prove, prove);
-  EXPECT_NEAR(media, 40 * p, 4 * std::sqrt(40 * p * (1 - p) / prove));
-  EXPECT_NEAR(varianza, 40 * p * (1 - p), 0.1 * 40 * p * (1 - p));
-  const double due = 45 * p * p * std::pow(1 - p, 8);
-  EXPECT_NEAR(dueSuDieci, prove * due, 4 * std::sqrt(prove * due * (1 - due)));
+  EXPECT_EQ(risultato.insieme.vincenti, attesi);
+  EXPECT_EQ(risultato.insieme.andamento.back(), attesi);
   EXPECT_EQ(risultato.asse.passi(), 40);
-  EXPECT_EQ(risultato.insieme.andamento.back(), risultato.insieme.vincenti);
 }
 
 TEST(Prove, TheSeedAloneDecidesAndAStopKeepsWhatIsThere) {

@@ -37,6 +37,8 @@ TEST(ArchiveGrid, GivesTheDateOfADrawWithoutLeadingZerosButInTheYear) {
   const char* attese[] = {"5/3/2000", "31/12/2010", "9/9/1909", "0/0/000"};
   for (int i = 1; i <= 4; ++i) EXPECT_EQ(a.griglia.DataEstrazione(i), attese[i - 1]);
   EXPECT_EQ(failureDi([&] { return a.griglia.DataEstrazione(15001); }), 9);
+  for (const auto& fuori : {std::array{0, 0, 1}, {15001, 0, 1}, {1, -1, 1}, {1, 12, 1}, {1, 0, 0}, {1, 0, 6}})
+    EXPECT_EQ(failureDi([&] { return a.griglia(fuori[0], fuori[1], fuori[2]); }), 9);
 }
 
 TEST(Dates, AreReadInTheFormsOfThisCountryAndOnlyForDaysThatExist) {

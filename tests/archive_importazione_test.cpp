@@ -55,7 +55,8 @@ TEST(Import, NamesTheLineThatIsWrongAndWhatIsWrongWithIt) {
     prova("2005/01/08\t" + ruota + "\t1\t2\t3\t4\t5", "ruota sconosciuta \"" + ruota + "\"");
   for (const std::string numero : {"0", "91", "", "-2", "1a", "300"})
     prova("2005/01/08\tBA\t1\t2\t3\t4\t" + numero, "\"" + numero + "\" non è un numero");
-  prova("2005/01/08\tBA\t1\t33\t3\t4\t33", "il numero 33 è ripetuto");
+  for (const std::string numeri : {"1\t33\t3\t4\t33", "33\t33\t3\t4\t5"})
+    prova("2005/01/08\tBA\t" + numeri, "il numero 33 è ripetuto");
   prova("2005/01/05\tBA\t6\t7\t8\t9\t10", "la ruota BA è ripetuta");
   prova("2005/01/04\tCA\t1\t2\t3\t4\t5", "precedente");
   EXPECT_EQ(erroreDi("").substr(0, 8), "riga 1: ");

@@ -71,7 +71,7 @@ TEST_F(Verifica, EveryColpoIsPlayedAndEachHitWritesItsLine) {
   const std::tuple<SlotProva, int, std::string, std::string> casi[] = {
       {ambata, 104, "", " In gioco"},  // the last colpo is the last draw
       {ambata, 105, "", " Negativo"},
-      {ambata, 103, "104 Ba 7", " In gioco"},  // behind the last draw nothing is judged
+      {ambata, 103, "104 Ba 7", " In gioco"},  // after the last draw nothing is judged
       {senzaColpi, 101, "", " In gioco"},
       {senzaColpi, 102, "102 Ba 7", " Negativo"},
       {ambata, 105, "101 Ba 7,105 Ba 7", " Negativo"},

@@ -8,108 +8,85 @@
 namespace vaticlo::prova {
 namespace {
 
-/// The box of the failure in which `fai` ends.
-template <class Fai>
-std::string box(Fai fai) {
-  try {
-    fai();
-  } catch (const RuntimeFailure& failure) {
-    return messaggioFatale(failure);
-  }
-  return "no failure";
-}
+const SlotProva kNormale = {.estrazione = 101, .ruote = {1}, .colpi = 90, .ambate = {7}};
 
-TEST(MessaggioFatale, SaysWhatHappenedWhereWhatToDoAndWhichChapterOfTheGuideHelps) {
-  ProgrammaProva p;
-  p.servizi.digitato = "40000";
-  archivioDi(150).scrivi(p);
-  frmPrincipale principale(p.programma);
-  const SlotProva normale = {.estrazione = 101, .ruote = {1}, .colpi = 90, .ambate = {7}};
-  const auto scansione = [&](const std::vector<SlotProva>& slot) {
+/// A program, and what ends it.
+struct Fine {
+  Fine() { archivioDi(150).scrivi(p); }
+  void scansione(const std::vector<SlotProva>& slot) {
     scriviMetodoProva(p, "Mio", slot);
     principale.comando("mnuUtility1");
-  };
-  const std::string nove = "Errore di run-time 9: ", inGioco = "\"Previsioni in Gioco\"";
-  // What is done; the number, what the box names, the heading of the guide.
-  const std::tuple<const char*, std::function<void()>, std::string, std::vector<std::string>, std::string>
-      casi[] = {{"ten predictions",
-                 [&] { scansione(std::vector(10, normale)); },
-                 nove,
-                 {"\"Mio\"", "dieci", inGioco},
-                 "La decima previsione di un metodo"},
-                {"ten predictions in the editor",
-                 [&] {
-                   principale.comando("mnuGestione22");
-                   principale.aperta<frmInsPrev>()->cmbMetodo.scegli(2);
-                 },
-                 nove,
-                 {"\"Mio\"", "dieci"},
-                 "La decima previsione di un metodo"},
-                {"only Tutte",
-                 [&] {
-                   scansione({normale, {.estrazione = 101, .ruote = {12}, .colpi = 90, .ambi = {1, 2, 99}}});
-                 },
-                 nove,
-                 {"n. 2 del metodo \"Mio\"", "Ba-Tutte", inGioco},
-                 "Tutte da sola"},
-                {"a list without an end",
-                 [&] {
-                   scansione({{.estrazione = 101, .ruote = {1}, .colpi = 90, .ambate = std::vector(180, 7)}});
-                 },
-                 nove,
-                 {"n. 1 del metodo \"Mio\"", "liste", inGioco},
-                 "Creare una previsione"},
-                {"a stranger among the methods",
-                 [&] {
-                   p.scrivi("Metodi/nota.txt", "");
-                   principale.comando("mnuUtility1");
-                 },
-                 "Errore di run-time 5: ",
-                 {"nota.txt", inGioco},
-                 "Se il programma si chiude con un errore"},
-                {"an empty field",
-                 [&] {
-                   principale.comando("mnu1Inserisci");
-                   auto& frm = *principale.aperta<frmInserisci>();
-                   for (auto& campo : frm.txtestr) campo.Text("7");
-                   frm.txtestr[6].Text("  ");
-                   frm.btnSalva_Click();
-                 },
-                 "Errore di run-time 13: ",
-                 {"Il numero 2 di Cagliari", "55"},
-                 "Inserire un'estrazione"},
-                {"a search beyond all numbers",
-                 [&] {
-                   principale.comando("mnu1Modifica");
-                   principale.aperta<frmModifica>()->btnTrova_Click();
-                 },
-                 "Errore di run-time 6: ",
-                 {"40000"},
-                 "La ricerca di un'estrazione"},
-                {"a full archive",
-                 [&] {
-                   archivioDi(15000).scrivi(p);
-                   principale.comando("mnuMetodi");
-                 },
-                 nove,
-                 {"15.000", "\"Vaticla\""},
-                 "Il resto"},
-                {"nobody knows better",
-                 [] { throw RuntimeFailure(Errore::DiscoPieno, "Stat.txt"); },
-                 "Errore di run-time 61: ",
-                 {"Stat.txt", "posto"},
-                 "Se il programma si chiude con un errore"}};
-  std::ifstream file(VATICLO_GUIDA_MD);
-  const std::string guida{std::istreambuf_iterator<char>(file), {}};
-  for (const auto& [cosa, fai, numero, nomi, capitolo] : casi) {
-    const auto testo = box(fai);
-    EXPECT_THAT(testo, HasSubstr(numero)) << cosa;
-    EXPECT_THAT(testo, HasSubstr("restano com'erano all'ultimo salvataggio")) << cosa;
-    EXPECT_THAT(testo, HasSubstr("«" + capitolo + "»")) << cosa;
-    EXPECT_THAT(guida, HasSubstr("# " + capitolo + "\n")) << cosa;
-    for (const auto& nome : nomi) EXPECT_THAT(testo, HasSubstr(nome)) << cosa;
   }
+  void dieci() { scansione(std::vector(10, kNormale)); }
+  void soloTutte() { scansione({kNormale, {101, {}, {12}, 90, {}, {1, 2, 99}}}); }
+  void senzaFine() { scansione({{101, {}, {1}, 90, std::vector(180, 7)}}); }
+  void estraneo() {
+    p.scrivi("Metodi/nota.txt", "");
+    scansione({});
+  }
+  void dieciNellEditor() {
+    scriviMetodoProva(p, "Mio", std::vector(10, kNormale));
+    principale.comando("mnuGestione22");
+    principale.aperta<frmInsPrev>()->cmbMetodo.scegli(2);
+  }
+  void campoVuoto() {
+    principale.comando("mnu1Inserisci");
+    auto& frm = *principale.aperta<frmInserisci>();
+    for (auto& campo : frm.txtestr) campo.Text("7");
+    frm.txtestr[6].Text("  ");
+    frm.btnSalva_Click();
+  }
+  void ricerca() {
+    p.servizi.digitato = "40000";
+    principale.comando("mnu1Modifica");
+    principale.aperta<frmModifica>()->btnTrova_Click();
+  }
+  void archivioPieno() {
+    archivioDi(15000).scrivi(p);
+    principale.comando("mnuMetodi");
+  }
+  void disco() { throw RuntimeFailure(Errore::DiscoPieno, "Stat.txt"); }
+  ProgrammaProva p;
+  frmPrincipale principale{p.programma};
+};
+
+/// What ends the program, the number of its failure, what the box names, the heading of the guide.
+using Caso = std::tuple<void (Fine::*)(), int, std::vector<std::string>, std::string>;
+
+class MessaggioFatale : public testing::TestWithParam<Caso> {};
+
+TEST_P(MessaggioFatale, SaysWhatHappenedWhereWhatToDoAndWhichChapterOfTheGuideHelps) {
+  const auto& [fai, numero, nomi, capitolo] = GetParam();
+  Fine fine;
+  std::string box;
+  try {
+    (fine.*fai)();
+  } catch (const RuntimeFailure& failure) {
+    box = messaggioFatale(failure);
+  }
+  EXPECT_THAT(box, HasSubstr("Errore di run-time " + std::to_string(numero) + ": "));
+  EXPECT_THAT(box, HasSubstr("restano com'erano all'ultimo salvataggio"));
+  EXPECT_THAT(box, HasSubstr("«" + capitolo + "»"));
+  for (const auto& nome : nomi) EXPECT_THAT(box, HasSubstr(nome));
+  std::ifstream guida(VATICLO_GUIDA_MD);
+  EXPECT_THAT(std::string({std::istreambuf_iterator<char>(guida), {}}), HasSubstr("# " + capitolo + "\n"));
 }
+
+const std::string kInGioco = "\"Previsioni in Gioco\"", kDecima = "La decima previsione di un metodo";
+const std::string kErrore = "Se il programma si chiude con un errore";
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, MessaggioFatale,
+    testing::Values(Caso{&Fine::dieci, 9, {"\"Mio\"", "dieci", kInGioco}, kDecima},
+                    Caso{&Fine::dieciNellEditor, 9, {"\"Mio\"", "dieci"}, kDecima},
+                    Caso{&Fine::soloTutte, 9, {"n. 2 del metodo \"Mio\"", "Ba-Tutte"}, "Tutte da sola"},
+                    Caso{&Fine::senzaFine, 9, {"n. 1 del metodo \"Mio\"", "liste"}, "Creare una previsione"},
+                    Caso{&Fine::estraneo, 5, {"nota.txt", kInGioco}, kErrore},
+                    Caso{&Fine::campoVuoto, 13, {"Il numero 2 di Cagliari", "55"}, "Inserire un'estrazione"},
+                    Caso{&Fine::ricerca, 6, {"40000"}, "La ricerca di un'estrazione"},
+                    Caso{&Fine::archivioPieno, 9, {"15.000", "\"Vaticla\""}, "Il resto"},
+                    Caso{&Fine::disco, 61, {"Stat.txt", "posto"}, kErrore}),
+    [](const auto& caso) { return std::to_string(caso.index + 1); });
 
 }  // namespace
 }  // namespace vaticlo::prova

@@ -29,6 +29,7 @@ TEST_F(Metodi, TheirWindowRenamesAndDeletesAfterAYes) {
   p.servizi.risposta = Risposta::Si;
   frm.btnRinomina.Click();
   EXPECT_THAT(elencaFile(cartellaMetodi(p.cartella())), ElementsAre("B.dat"));
+  EXPECT_EQ(frm.cmbMetodo.Text() + frm.txtNome.Text(), "");
   frm.cmbMetodo.scegli(0);
   frm.btnElimina.Click();
   EXPECT_TRUE(frm.cmbMetodo.voci().empty() && elencaFile(cartellaMetodi(p.cartella())).empty());
@@ -37,8 +38,8 @@ TEST_F(Metodi, TheirWindowRenamesAndDeletesAfterAYes) {
 TEST_F(Metodi, ANameMustBeAFileOnEverySystemAndNew) {
   scriviMetodoProva(p, "Città", {});
   const std::string lungo(256, 'a');
-  for (const std::string nome : {"  ", "a/b", "..\\b", "a:b", "a\nb", "a?", ".a", "a.", "nul", "Com1.x",
-                                 "a.DAT", "a.dat.b", " CITTÀ ", lungo.c_str()}) {
+  for (const std::string nome : {"  ", "a/b", "..\\b", "a:b", "a\nb", "a?", ".a", "a.", "nul", "Aux",
+                                 "Com1.x", "a.DAT", "a.dat.b", " CITTÀ ", lungo.c_str()}) {
     p.servizi.messaggi.clear();
     EXPECT_FALSE(gestione.crea(nome)) << nome;
     EXPECT_THAT(p.servizi.detti(), ElementsAre(StartsWith("[Attenzione] "))) << nome;

@@ -1,6 +1,3 @@
-#include <sys/inotify.h>
-#include <unistd.h>
-
 #include "dialogs/frm_metodo.h"
 #include "sostegno/cornice_prova.h"
 #include "sostegno/logica.h"
@@ -8,66 +5,48 @@
 namespace vaticlo::prova {
 namespace {
 
-/// Counts how often the report of the check was written.
-class Spia {
- public:
-  explicit Spia(const ProgrammaProva& p) { ::inotify_add_watch(fd_, p.radice.c_str(), IN_CLOSE_WRITE); }
-  Spia(const Spia&) = delete;
-  Spia& operator=(const Spia&) = delete;
-  ~Spia() { ::close(fd_); }
-  int verifiche() {
-    alignas(inotify_event) std::array<char, 8192> eventi;
-    int quante = 0;
-    const auto letti = ::read(fd_, eventi.data(), eventi.size());
-    for (ssize_t posto = 0; posto < letti;) {
-      const auto* evento = reinterpret_cast<const inotify_event*>(&eventi[static_cast<std::size_t>(posto)]);
-      quante += std::string(evento->name) == "Esiti.txt";
-      posto += static_cast<ssize_t>(sizeof(inotify_event) + evento->len);
-    }
-    return quante;
-  }
-
- private:
-  const int fd_ = ::inotify_init1(IN_NONBLOCK);
-};
-
-TEST(Vaticla, RunsAsManyChecksForAnEventAsItIsTold) {
+TEST(Vaticla, AnEmptyArchiveIsShownAndNotChecked) {
   ProgrammaProva p;
   CorniceProva cornice;
-  Spia spia(p);
-  frmMetodo vuoto(p.programma, cornice);
-  vuoto.Form_Load();
-  EXPECT_EQ(spia.verifiche(), 0) << "an empty archive";
+  frmMetodo frm(p.programma, cornice);
+  frm.Form_Load();
+  EXPECT_EQ(frm.estrazione.lblnestr.Caption() + " " + frm.estrazione.lbldataestr.Caption(), "1 0/0/000");
+  EXPECT_FALSE(p.esiste("Esiti.txt"));
+}
+
+TEST(Vaticla, ACheckRunsWhenTheDrawOrTheChoiceOfMethodsChanges) {
+  ProgrammaProva p;
+  CorniceProva cornice;
   archivioDi(9).scrivi(p);
   frmMetodo frm(p.programma, cornice);
+  auto& barra = frm.estrazione.VScroll1;
+  auto& lista = frm.metodo.cmbMetodo;
   const auto cerca = [&](const char* testo) {
     return [&, testo] {
       p.servizi.digitato = testo;
       frm.btnTrova_Click();
     };
   };
-  const std::tuple<const char*, std::function<void()>, int> eventi[] = {
-      {"opening", [&] { frm.Form_Load(); }, 1},
-      {"the bar moves", [&] { frm.estrazione.VScroll1.Value(3); }, 1},
-      {"the bar stays", [&] { frm.estrazione.VScroll1.Value(3); }, 0},
-      {"value 2, then 1, the same draw",
-       [&] { frm.estrazione.VScroll1.Value(2), frm.estrazione.VScroll1.Value(1); }, 2},
-      {"Scegli, which changes the list", [&] { frm.optSelMetodo_Click(1); }, 2},
-      {"a name typed", [&] { frm.metodo.cmbMetodo.digita("Altro"); }, 0},
-      {"Scegli once more, which keeps the name", [&] { frm.optSelMetodo_Click(1); }, 1},
-      {"an item of the list", [&] { frm.metodo.cmbMetodo.scegli(1); }, 1},
-      {"Tutti", [&] { frm.optSelMetodo_Click(0); }, 1},
-      {"a search by number", cerca("5"), 1},
-      {"a search of the draw shown", cerca("5"), 0},
-      {"a search by date, to the first of that day", cerca("12/3/2005"), 1},
-      {"a search that is refused", cerca("x"), 0},
-      {"printing", [&] { frm.btnStampa_Click(); }, 0},
-      {"leaving", [&] { frm.btnAnnulla_Click(); }, 0}};
-  for (const auto& [cosa, fai, attese] : eventi) {
+  const std::tuple<const char*, std::function<void()>, bool> eventi[] = {
+      {"opening", [&] { frm.Form_Load(); }, true},
+      {"the bar moves", [&] { barra.Value(2); }, true},
+      {"the bar stays", [&] { barra.Value(2); }, false},
+      {"the other value of draw 1", [&] { barra.Value(1); }, true},
+      {"Scegli", [&] { frm.optSelMetodo_Click(1); }, true},
+      {"a name typed", [&] { lista.digita("Altro"); }, false},
+      {"Scegli once more", [&] { frm.optSelMetodo_Click(1); }, true},
+      {"an item of the list", [&] { lista.scegli(1); }, true},
+      {"Tutti", [&] { frm.optSelMetodo_Click(0); }, true},
+      {"a search", cerca("5"), true},
+      {"a search of the draw shown", cerca("5"), false},
+      {"a search by date", cerca("12/3/2005"), true},
+      {"a search that is refused", cerca("x"), false}};
+  for (const auto& [cosa, fai, verifica] : eventi) {
+    if (p.esiste("Esiti.txt")) p.scrivi("Esiti.txt", "as it was");
     fai();
-    EXPECT_EQ(spia.verifiche(), attese) << cosa;
-    if (std::string(cosa).starts_with("Scegli once")) {
-      EXPECT_EQ(frm.metodo.cmbMetodo.Text(), "Altro");
+    EXPECT_EQ(p.contenuto("Esiti.txt") != "as it was", verifica) << cosa;
+    if (cosa == std::string("Scegli once more")) {
+      EXPECT_EQ(lista.Text(), "Altro") << "the name stays";
     }
   }
 }

@@ -48,27 +48,19 @@ TEST_F(Modifica, OpensOnTheNewestDrawAndTheBarStandsOneAboveIt) {
 
 TEST_F(Modifica, ADrawIsFoundByNumberOrByADateFromWhichTheSearchOnlyGoesOnward) {
   const std::string campo = "Inserisci un valore corretto compreso tra 1 e 10.";
-  const std::string nessuna = "Inserisci una data corretta";
+  const std::string nessuna = "Inserisci una data corretta", numero = "Inserisci un valore numerico";
+  // What is typed, the draw shown then (6: as before), the message.
   const std::tuple<const char*, int, std::string> casi[] = {
-      // what is typed, the draw shown then (6: as before), the message
-      {"10", 10, ""},
-      {"2,5", 2, ""},
-      {"1", 6, campo},
-      {"11", 6, campo},
-      {"", 6, ""},
-      {"30/2/2004", 6, "Inserisci un valore numerico"},
-      {"14.01.1945", 2, ""},
-      {"8/1/45", 2, ""},     // the next draw of the month
-      {"1/3/45", 9, ""},     // a month of a later year
-      {"30/1/2000", 9, ""},  // a day of a later month
-      {"5/4/2001", 10, ""},  // the last draw
-      {"6/4/2001", 6, nessuna},
-      {"1/1/1944", 6, nessuna}};
+      {"10", 10, ""},       {"2,5", 2, ""},           {"1", 6, campo},         {"11", 6, campo},
+      {"", 6, ""},          {"30/2/2004", 6, numero}, {"8/1/45", 2, ""},  // the next draw of the month
+      {"1/3/45", 9, ""},                                                  // a month of a later year
+      {"30/1/2000", 9, ""},                                               // a day of a later month
+      {"5/4/2001", 10, ""}, {"6/4/2001", 6, nessuna}, {"1/1/1944", 6, nessuna}};
   ArchivioProva archivio(0);
-  for (int n = 0; const auto* testo : {"7/1/1945", "14/1/1945", "4/2/1945", "31/12/1999", "5/1/2000",
+  for (int n = 1; const auto* testo : {"7/1/1945", "14/1/1945", "4/2/1945", "31/12/1999", "5/1/2000",
                                        "12/1/2000", "29/1/2000", "2/2/2001", "31/3/2001", "5/4/2001"}) {
     const auto data = *dataDaTesto(testo);
-    archivio.data(++n, giorno(data), mese(data), anno(data));
+    archivio.griglia.scriviData(n++, data, anno(data) / 100);
   }
   archivio.scrivi(p);
   apri();
@@ -146,21 +138,28 @@ TEST_F(Modifica, ADeletionClosesTheGapOfAllRowsButTheNazionale) {
   EXPECT_EQ(p.globals().EstrazioneCorrente, 8);
 }
 
-TEST(Inserisci, ANumberIsTestedForItsRangeAndAsATextAgainstTheFieldsAtItsLeft) {
+struct Inserisci : testing::Test {
   ProgrammaProva p;
   CorniceProva cornice;
-  frmInserisci frm(p.programma, cornice);
-  frm.Form_Load();
-  EXPECT_EQ(cornice.chiesto, "altre ");
+  frmInserisci frm{p.programma, cornice};
+};
+
+TEST_F(Inserisci, ANumberIsTestedForItsRangeAndAsATextAgainstTheFieldsAtItsLeft) {
   const std::string valore = "Inserire un valore valido compreso tra 1 e 90";
-  const auto gia = [](const std::string& testo) {
-    return "''" + testo + "'' è stato già inserito come estratto nella ruota";
-  };
+  const std::string gia = " è stato già inserito come estratto nella ruota";
   // A field, what it holds then, and the message; the others keep what they have.
-  const std::tuple<std::size_t, const char*, std::string> casi[] = {
-      {0, "  ", valore},    {0, "0 ", valore},    {0, "91", valore},    {0, "90", ""},
-      {1, "5 ", ""},        {2, "90", gia("90")}, {2, "5 ", gia("5 ")}, {2, " 5", ""},
-      {4, "5 ", gia("5 ")}, {5, "90", ""},        {6, "1 ", ""},        {5, "1 ", ""}};
+  const std::tuple<std::size_t, const char*, std::string> casi[] = {{0, "  ", valore},
+                                                                    {0, "0 ", valore},
+                                                                    {0, "91", valore},
+                                                                    {0, "90", ""},
+                                                                    {1, "5 ", ""},
+                                                                    {2, "90", "''90''" + gia},
+                                                                    {2, "5 ", "''5 ''" + gia},
+                                                                    {2, " 5", ""},
+                                                                    {4, "5 ", "''5 ''" + gia},
+                                                                    {5, "90", ""},
+                                                                    {6, "1 ", ""},
+                                                                    {5, "1 ", ""}};
   for (const auto& [f, testo, messaggio] : casi) {
     p.servizi.messaggi.clear();
     frm.txtestr[f].Text(testo);
@@ -169,12 +168,13 @@ TEST(Inserisci, ANumberIsTestedForItsRangeAndAsATextAgainstTheFieldsAtItsLeft) {
   }
 }
 
-TEST(Inserisci, ADrawWithoutADateIsOfTodayAndAFullArchiveTakesNone) {
-  ProgrammaProva p;
-  CorniceProva cornice;
-  frmInserisci frm(p.programma, cornice);
+TEST_F(Inserisci, ADrawWithoutADateIsOfTodayAndAFullArchiveTakesNone) {
   for (auto& campo : frm.txtestr) campo.Text("7");
-  frm.btnSalva_Click();
+  for (const auto risposta : {Risposta::No, Risposta::Si}) {
+    EXPECT_FALSE(p.esiste("archivion71.dat"));
+    p.servizi.risposta = risposta;
+    frm.btnSalva_Click();
+  }
   EXPECT_EQ(ApriArchivio(p.cartella()).DataEstrazione(1), "14/3/2026");
   archivioDi(15000).scrivi(p);
   EXPECT_EQ(failureDi([&] { return frm.btnSalva_Click(), 0; }), 9);

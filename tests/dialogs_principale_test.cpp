@@ -116,6 +116,12 @@ TEST_F(Principale, AnUpdateLeavesTheOpenWindowWithWhatItShows) {
   EXPECT_EQ(principale.aperta<frmModifica>()->estrazione.lblnestr.Caption(), "2");
 }
 
+TEST_F(Principale, TheTwoPagesOfTheGameAreTheOnesNamed) {
+  principale.comando("mnuUtility5");
+  principale.comando("mnuUtility6");
+  EXPECT_THAT(p.servizi.pagine, ElementsAre(HasSubstr("lotto-italia.it"), HasSubstr("adm.gov.it")));
+}
+
 TEST_F(Principale, ClosingDeletesTheReportOfTheCheckAloneAndNoFolderOfItsName) {
   p.scrivi("Esiti.txt", "esiti");
   p.scrivi("Stat.txt", "totali");

@@ -73,7 +73,7 @@ TEST(MethodFile, IsTheTrimmedNameWithDatInsideTheFolderOfTheMethods) {
   EXPECT_EQ(failureDi([&] { return fileMetodo(p.cartella(), "../archivion71"); }), 52);
 }
 
-/// One scan: each prediction is decoded over what the one before it has left behind.
+/// One scan: each prediction is decoded over what the one before it has left.
 class Decoding : public testing::Test {
  protected:
   const Previsione& decodifica(const SlotProva& slot) {

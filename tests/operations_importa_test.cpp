@@ -36,6 +36,12 @@ TEST_F(Importa, FillsAnEmptyArchiveAndAsksBeforeItReplacesDraws) {
   p.servizi.risposta = Risposta::Si;
   EXPECT_THAT(importa(due), ElementsAre(HasSubstr("Sostituirle"), importate));
   EXPECT_EQ(archivio().substr(0, 3), std::string("\x07\x0E\0", 3)) << "the days of the first draws";
+  std::string lungo;  // as every real file is
+  for (int n = 0; n < 4000; ++n)
+    lungo += std::to_string(1900 + n / 480) + "/" + std::to_string(101 + n / 40 % 12).substr(1) + "/" +
+             std::to_string(101 + n / 2 % 20).substr(1) + (n % 2 == 0 ? "\tBA" : "\tCA") +
+             "\t10\t20\t30\t40\t50\n";
+  EXPECT_THAT(importa(lungo), Contains(HasSubstr("Importate 2000 estrazioni")));
 }
 
 TEST_F(Importa, TellsWhatIsWrongWithAFileAndKeepsTheArchive) {

@@ -175,11 +175,12 @@ TEST_F(Files, AReportKeepsItsLinesWhenAFailureUnwindsThroughIt) {
 }
 
 TEST_F(Files, MethodsAreListedByUpperCasedNameWithoutFoldersAndHiddenFiles) {
-  for (const auto* nome : {"é.dat", "È.dat", "b.dat", "Z.dat", "A.dat", ".nascosto.dat", "c", "ça.dat"})
+  for (const auto* nome :
+       {"é.dat", "È.dat", "b.dat", "_.dat", "z.dat", "A.dat", ".nascosto.dat", "c", "ça.dat"})
     p.scrivi(std::string("Metodi/") + nome, "");
   fs::create_directory(percorso("Metodi/B cartella.dat"));
   EXPECT_THAT(elencaFile(percorso("Metodi")),
-              ElementsAre("A.dat", "b.dat", "c", "Z.dat", "ça.dat", "È.dat", "é.dat"));
+              ElementsAre("A.dat", "b.dat", "c", "z.dat", "_.dat", "ça.dat", "È.dat", "é.dat"));
   fs::remove_all(percorso("Metodi"));
   EXPECT_THAT(elencaFile(percorso("Metodi")), IsEmpty());
   p.scrivi("Metodi", "a file in its place");

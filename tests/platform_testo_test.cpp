@@ -1,3 +1,5 @@
+#include <set>
+
 #include "platform/conversione.h"
 #include "platform/pagina_codici.h"
 #include "sostegno/logica.h"
@@ -45,8 +47,14 @@ TEST(Conversion, WritesARoundedNumberWithFifteenDigitsAndAComma) {
     EXPECT_EQ(testoDiNumero(valore), testo);
 }
 
+TEST(Failures, HaveEachATextOfItsOwn) {
+  std::set<std::string> testi = {descrizione(Errore{})};
+  for (const int numero : {5, 6, 9, 11, 13, 14, 51, 52, 53, 57, 58, 61, 70, 75, 76, 340, 380})
+    EXPECT_TRUE(testi.insert(descrizione(static_cast<Errore>(numero))).second) << numero;
+}
+
 TEST(CodePage, GivesEveryDefinedByteBackAndHasAQuestionMarkForAllElse) {
-  EXPECT_EQ(daPagina("\x80 \xE0 \xB0 \x9C"), "€ à ° œ");
+  EXPECT_EQ(daPagina("\x80 \xE0 \xB0 \x9C \x91\x92 \x93\x94 \x85 \x96\x97"), "€ à ° œ ‘’ “” … –—");
   std::string pagina = "> ";
   aggiungiInPagina(pagina, "2° a漢b 😀 \u0081 a\xFF b\xC3");
   EXPECT_EQ(pagina, "> 2\xB0 a?b ? ? a? b?");

@@ -116,7 +116,7 @@ TEST_F(Corsa, TheFirstWinningColpoIsCountedBetByBet) {
   }
 }
 
-TEST_F(Corsa, WonLostAndInPlayAreParted) {
+TEST_F(Corsa, WonLostAndInPlayAreSeparated) {
   // The predictions, what came out, how many have won and are in play, the entries. Draw 104 is the last.
   const std::tuple<Slot, const char*, int, int, const char*> casi[] = {
       {{ambata(102)}, "", 0, 0, "1M "},  // its last colpo is the last draw
@@ -132,6 +132,7 @@ TEST_F(Corsa, WonLostAndInPlayAreParted) {
     EXPECT_EQ(voci(), attese);
     EXPECT_EQ(vincite().find("Telefono") != std::string::npos, vincenti > 0) << "winners alone";
   }
+  EXPECT_THAT(stat(), HasSubstr(rapportoDi("Previsioni Vincenti: 2 (100%)|Previsioni Negative: 0 (0%)|")));
 }
 
 TEST_F(Corsa, AFailureLosesTheRestOfItsDrawAndNoMore) {
@@ -164,7 +165,7 @@ TEST_F(Corsa, AMethodIsReadWhenTheScanOfADrawReachesIt) {
   scriviMetodoProva(p, "B", std::vector<SlotProva>(10, ambata(101)));
   p.scrivi("Metodi/Z.txt", "");
   corri(101, 102);
-  EXPECT_FALSE(p.esiste("Metodi/.dat")) << "behind a method that stops each scan";
+  EXPECT_FALSE(p.esiste("Metodi/.dat")) << "after a method that stops each scan";
   scriviMetodoProva(p, "B", {ambata(101)});
   corri(101, 101);
   EXPECT_TRUE(p.esiste("Metodi/.dat")) << "a file without .dat is read under an empty name";

@@ -24,7 +24,7 @@ class VistaSplash : public QWidget {
   void avanti();
 
   std::function<void()> apriPrincipale_;
-  QTimer timer1_;
+  QTimer timer1_{this};
 };
 
 }  // namespace vaticlo

@@ -2,8 +2,6 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMenu>
-#include <QScreen>
-#include <QToolButton>
 
 #include "gui/finestra_prova.h"
 
@@ -24,39 +22,90 @@ class FiglieGuiTest : public QObject {
       v.scegli(voce);
       QCOMPARE(v.aperte(), QStringList(aperta));
       const auto* prima = &v.figlia();
+      v.figlia().showMinimized();
       v.scegli("mnuUtility3");
       QVERIFY(&v.figlia() != prima);
       v.scegli(voce);
-      QCOMPARE(&v.figlia(), prima);
+      QVERIFY(&v.figlia() == prima && !prima->isMinimized());
       QCOMPARE(v.aperte().size(), 2);
     }
-    v.figlia().close();
+    v.premi(Qt::Key_W, Qt::ControlModifier);
     QCOMPARE(v.aperte(), QStringList("Somma/Distanza Estratti"));
-    v.finestra.findChild<QToolButton*>("Info")->click();
-    QCOMPARE(v.aperte(), QStringList("Informazione su"));
-    QCOMPARE(v.testo("Label1"), QString("Vaticlo"));
   }
 
-  void everyWindowHasItsSizeAndItsPlaceAndGrowsWithNoMethodsName() {
+  void everyWindowHasItsPlaceAndItsWords_data() {
+    QTest::addColumn<QRect>("posto");
+    QTest::addColumn<QString>("parole");
+    const QString titolo = "Label1=Estrazione n°|Label13=del|", esci = "btnCancella=&Esci/";
+    const QString ruote =
+        "Label2=Bari|Label21=Cagliari|Label20=Firenze|Label19=Genova|Label18=Milano|Label17=Napoli|"
+        "Label16=Palermo|Label15=Roma|Label14=Torino|Label12=Venezia|Label3=Nazionale|";
+    const QString scelta = "Frame2=Seleziona Metodo|optSelMetodo_0=Tutti|optSelMetodo_1=Scegli|";
+    const QString editor =
+        ruote +
+        "Frame1=Seleziona Metodo|Frame2=Estrazione di Calcolo|Frame3=Previsione da Salvare|"
+        "Frame11=Numero 899|txtNum=Es. 899.11.22.33|Frame4=Ruote di gioco|txtRuote=Es.:Ba-Ca-Tutte|"
+        "Frame5=Colpi di gioco|Frame6=Combinazioni da giocare|Frame7=Ambate|txtAmbate=Es.:21;36|"
+        "Frame8=Ambi Secchi|txtAmbi=Es.:15-50;25-12;66-10|Frame9=Sorti Superiori|"
+        "txtSup=Es.:15-50-66-71;25-12-10|btnElabora=&Salva/Salva Previsione|" +
+        esci + "Chiudi la finestra";
+    const QString lista = scelta + esci + "Chiudi la finestra|btnStampa=Stampa/Stampa Previsioni";
+    QTest::newRow("mnu1Inserisci") << QRect(116, 33, 502, 365)
+                                   << ruote + "Label1=Estrazione del|btnSalva=&Salva/Salva Estrazione|" +
+                                          esci + "Esci dalla finestra";
+    QTest::newRow("mnu1Modifica")
+        << QRect(103, 33, 529, 365)
+        << titolo + ruote +
+               "btnSalva=&Salva/Salva Estrazione|btnCancella=&Elimina/Cancella l'estrazione|"
+               "btnTrova=&Trova/Trova l'estrazione|btnAnnulla=E&sci/Esci dalla finestra";
+    QTest::newRow("mnuMetodi")
+        << QRect(42, 13, 844, 464)
+        << titolo + ruote + scelta +
+               "btnTrova=Cerca Estrazione/Cerca Estrazione di gioco|btnStampa=Stampa/Stampa Previsione|"
+               "btnAnnulla=Esci/Chiudi la finestra|=Giocabili|=Vincenti|=In gioco";
+    QTest::newRow("mnu1metodo1")
+        << QRect(33, 6, 693, 519)
+        << scelta +
+               "Frame1=Opzioni di Ricerca|=Data inizio ricerca:|Label4=Es.N.|=Data fine "
+               "ricerca:|Label5=Es.N.|"
+               "btnElabora=&Elabora/Elabora Statistica|btnStop=&Interrompi/Interrompi Elaborazione|"
+               "btnVincite=&Vincite/Visualizza Vincite|btnPrev=I&n gioco/Visualizza previsioni in gioco|"
+               "btnStampa=Stampa/Stampa Statistica|" +
+               esci + "Chiudi la finestra";
+    QTest::newRow("mnuGestione21") << QRect(133, 66, 862, 598) << editor;
+    QTest::newRow("mnuGestione22")
+        << QRect(133, 66, 862, 598)
+        << editor + "|Frame10=Seleziona Previsione|btnElimina=&Elimina/Elimina la previsione";
+    QTest::newRow("mnuUtility1") << QRect(200, 66, 509, 475) << lista;
+    QTest::newRow("mnuUtility2") << QRect(200, 66, 509, 475)
+                                 << lista + "|Frame1=Ultime Estrazioni da Considerare";
+    QTest::newRow("mnuUtility3")
+        << QRect(3, 33, 777, 442)
+        << titolo +
+               "Label2=Bari|Label3=Cagliari|Label4=Firenze|Label5=Genova|Label6=Milano|Label7=Napoli|"
+               "Label8=Palermo|Label9=Roma|Label10=Torino|Label11=Venezia|Label12=1°- 2°|Label14=1°- 3°|"
+               "Label15=1°- 4°|Label16=1°- 5°|Label17=2°- 3°|Label18=2°- 4°|Label19=2°- 5°|Label20=3°- 4°|"
+               "Label21=3°- 5°|Label22=4°- 5°|=Distanza Ciclometrica|=Distanza Matematica|=Somma Matematica|"
+               "btnAnnulla=&Annulla";
+    QTest::newRow("mnuInformazioni2") << QRect(233, 60, 409, 331) << "Label1=Vaticlo";
+  }
+  void everyWindowHasItsPlaceAndItsWords() {
     PrincipaleProva v;
     archivioDi(3).scrivi(v.p);
-    v.p.scrivi("Metodi/" + std::string(200, 'm') + ".dat", "");
+    v.p.scrivi("Metodi/" + std::string(200, 'm') + ".dat", "");  // no window grows with a name
     v.finestra.resize(1100, 800);
-    for (const auto& [voce, attesa] : {std::pair{"mnu1Inserisci", QRect(116, 33, 502, 365)},
-                                       {"mnu1Modifica", QRect(103, 33, 529, 365)},
-                                       {"mnuMetodi", QRect(42, 13, 844, 464)},
-                                       {"mnu1metodo1", QRect(33, 6, 693, 519)},
-                                       {"mnuGestione21", QRect(133, 66, 862, 598)},
-                                       {"mnuGestione22", QRect(133, 66, 862, 598)},
-                                       {"mnuGestione12", QRect(233, 60, 360, 220)},
-                                       {"mnuUtility1", QRect(200, 66, 509, 475)},
-                                       {"mnuUtility2", QRect(200, 66, 509, 475)},
-                                       {"mnuUtility3", QRect(3, 33, 777, 442)},
-                                       {"mnuInformazioni2", QRect(233, 60, 409, 331)}}) {
-      v.scegli(voce);
-      QCOMPARE(v.figlia().geometry(), attesa);
-      QCOMPARE(v.finestra.size(), QSize(1100, 800));
-    }
+    v.scegli(QTest::currentDataTag());
+    QFETCH(const QRect, posto);
+    QCOMPARE(v.figlia().geometry(), posto);
+    QCOMPARE(v.finestra.size(), QSize(1100, 800));
+    QStringList lette;
+    for (const auto* widget : v.figlia().findChildren<QWidget*>())
+      for (const char* proprieta : {"text", "title", "placeholderText", "Caption"})
+        if (const auto nome = widget->objectName(), testo = widget->property(proprieta).toString();
+            widget->isVisible())
+          lette << '=' + testo << nome + '=' + testo << nome + '=' + testo + '/' + widget->toolTip();
+    QFETCH(const QString, parole);
+    for (const auto& attesa : parole.split('|')) QVERIFY2(lette.contains(attesa), qPrintable(attesa));
   }
 
   void aChildMovesIntoViewAndOneThatIsTooLargeMakesTheMainWindowGrow() {
@@ -66,11 +115,8 @@ class FiglieGuiTest : public QObject {
       return v.finestra.findChild<QMdiArea*>()->viewport()->rect().contains(v.figlia().geometry());
     };
     const auto prima = v.finestra.size();
-    QVERIFY(prima.height() == 600 && prima.width() < 800);  // which is the width of the screen
-    for (const char* voce : {"mnu1Inserisci", "mnuUtility1", "mnuUtility2"}) {
-      v.scegli(voce);
-      QVERIFY2(dentro() && v.finestra.size() == prima, voce);
-    }
+    v.scegli("mnuUtility1");
+    QVERIFY(dentro() && v.finestra.size() == prima && prima.height() == 600 && prima.width() <= 800);
     v.scegli("mnuGestione21");
     QVERIFY(dentro() || v.finestra.width() > 800);
   }
@@ -91,16 +137,9 @@ class FiglieGuiTest : public QObject {
 
   void accessKeysOfTheActiveWindowComeBeforeTheMenu() {
     PrincipaleProva v;
-    v.p.servizi.risposta = Risposta::No;
-    v.scegli("mnu1Inserisci");
-    v.scrivi("12");
-    v.premi(Qt::Key_S, Qt::AltModifier);
-    QCOMPARE(v.detti(), QStringList("[Attenzione] Sei sicuro di voler salvare l'estrazione"));
     for (const auto& [voce, lettera, primo, secondo] :
          {std::tuple{"mnu1Modifica", Qt::Key_S, "btnSalva", "btnAnnulla"},
-          {"mnuGestione22", Qt::Key_E, "btnElimina", "btnCancella"},
-          {"mnu1metodo1", Qt::Key_E, "btnCancella",
-           "btnElabora"}}) {  // it opens with the focus on btnElabora
+          {"mnu1metodo1", Qt::Key_E, "btnCancella", "btnElabora"}}) {  // which has the focus first
       v.scegli(voce);
       for (const char* nome : {primo, secondo, primo}) {
         v.premi(lettera, Qt::AltModifier);

@@ -54,23 +54,19 @@ class StatisticaGuiTest : public QObject {
     Statistica v;
     QCOMPARE(v.stato(), QString("RichTextBox1 Elabora Cancella menu"));
     v.intervallo("101", "110");
-    const std::pair<const char*, std::function<void()>> modi[] = {
-        {"its letter", [&] { v.premi(Qt::Key_I, Qt::AltModifier); }},
-        {"the focus, which goes there", [&] { v.premi(Qt::Key_Space); }},
-        {"the mouse", [&] { v.clicca("btnStop"); }}};
-    for (const auto& [come, ferma] : modi) {
+    for (const bool conTasti : {true, false}) {
       QString durante;
       v.p.servizi.pause = 0;
-      v.p.servizi.allaPausa = [&, &ferma = ferma] {
+      v.p.servizi.allaPausa = [&] {
         QCoreApplication::processEvents();
         if (v.p.servizi.pause != 3) return;
         durante = v.stato();
-        ferma();
+        conTasti ? v.premi(Qt::Key_Space) : v.clicca("btnStop");  // the focus goes there
       };
       v.usa("btnElabora").setFocus();
       v.premi(Qt::Key_Return);
       QCOMPARE(durante, QString("prgbar Stop "));
-      QVERIFY2(v.p.servizi.pause == 3, come);
+      QCOMPARE(v.p.servizi.pause, 3);
       QCOMPARE(v.stato(), QString("Elabora Cancella menu"));
       QCOMPARE(v.p.contenuto("Stat.txt"), std::string());
       QVERIFY(v.p.contenuto("Vincite.txt").starts_with(" Previsione n."));  // of the draws before the stop
@@ -97,14 +93,10 @@ class StatisticaGuiTest : public QObject {
     const QString uguale = inizio + "uguale all'estrazione di fine!";
     // The range typed, its refusal, what the fields show then, the lists that can be opened.
     const std::tuple<const char*, const char*, QString, const char*, const char*> casi[] = {
-        {"6", "5", maggiore, "6 5", ""},
-        {"5", "5", uguale, "5 5", ""},
-        {"0", "0", uguale, "0 0", ""},
-        {"0", "1", "", "1 1", ""},
-        {"0", "111", "", "1 110", "Vincite Prev "},
-        {"104", "106", "", "104 106", ""},
-        {"120", "130", "", "120 110", ""},
-        {"-3", "2", "", "-3 2", ""}};
+        {"104", "106", "", "104 106", ""}, {"6", "5", maggiore, "6 5", ""},
+        {"5", "5", uguale, "5 5", ""},     {"0", "0", uguale, "0 0", ""},
+        {"0", "1", "", "1 1", ""},         {"0", "111", "", "1 110", "Vincite Prev "},
+        {"120", "130", "", "120 110", ""}, {"-3", "2", "", "-3 2", ""}};
     for (const auto& [da, a, rifiuto, campi, liste] : casi) {
       v.intervallo(da, a);
       v.clicca("btnElabora");
@@ -115,10 +107,7 @@ class StatisticaGuiTest : public QObject {
                               : QString("Elabora Cancella menu"));
       QCOMPARE(v.p.contenuto("Stat.txt") == "\r\n", !rifiuto.isEmpty());
     }
-    for (const auto& [da, a, campo] : {std::tuple{"", "x", "txtestr_0"},
-                                       {"1", "", "txtestr_1"},
-                                       {"1", "x", "txtestr_1"},
-                                       {"40000", "1", "txtestr_0"}}) {
+    for (const auto& [da, a, campo] : {std::tuple{"", "x", "txtestr_0"}, {"1", "x", "txtestr_1"}}) {
       v.intervallo(da, a);
       v.clicca("btnElabora");
       QVERIFY(v.detti().join('|').startsWith(QString("[Attenzione] \"Es.N.\" della data di ") +
@@ -133,10 +122,9 @@ class StatisticaGuiTest : public QObject {
     QCOMPARE(v.testo("txtestr_0") + ' ' + v.testo("DTInizio"), QString("3 03/01/2000"));
     QCOMPARE(v.testo("txtestr_1") + ' ' + v.testo("DTFine"), QString("110 14/03/2026"));
     for (const auto& [giorno, numero] : {std::pair{"3/1/1899", "1"},
+                                         {"9/1/1999", "2"},
                                          {"28/1/2000", "3"},
                                          {"31/1/2000", "5"},  // only days are compared from here on
-                                         {"1/3/2000", "4"},
-                                         {"13/3/2005", "104"},
                                          {"21/3/2005", "110"},
                                          {"1/2/1899", "15001"}}) {
       v.clicca("DTInizio");
@@ -151,18 +139,16 @@ class StatisticaGuiTest : public QObject {
     v.premi(Qt::Key_Tab);
     QCOMPARE(v.testo("txtestr_0"), QString("9"));  // the date that stood there is no change
     v.clicca("DTFine");
-    for (const char* giorno : {"14/3/2026", "15/3/2026", "14/3/2062"}) {
-      v.scrivi(giorno);
-      v.premi(Qt::Key_Return);
-      QCOMPARE(v.testo("DTFine"), QString("14/03/2026"));
-    }
-    QCOMPARE(v.detti().size(), 2);
+    v.scrivi("15/3/2026");
+    v.premi(Qt::Key_Return);
+    QCOMPARE(v.testo("DTFine"), QString("14/03/2026"));
+    QCOMPARE(v.detti().size(), 1);
     v.scrivi("29/1/2000");
     QCOMPARE(v.testo("txtestr_1"), QString("110"));
     v.premi(Qt::Key_E, Qt::AltModifier);
     QCOMPARE(v.testo("txtestr_1"), QString("3"));
     v.premi(Qt::Key_Return);
-    QCOMPARE(v.detti().size(), 1);  // the range, whose start lies behind it
+    QCOMPARE(v.detti().size(), 1);  // the range, whose start lies after it
   }
 
   void aRunIsPrintedAndItsListsOpenInOneWindowThatReadsItsFileAtEachActivation() {
@@ -177,10 +163,9 @@ class StatisticaGuiTest : public QObject {
     QVERIFY(v.testo("RichTextBox1").contains("Previsioni Giocabili: 3\n"));
     auto& totali = v.usa<QPlainTextEdit>("RichTextBox1");
     totali.selectAll();
-    v.clicca("btnStampa");
+    v.stampa();
     QVERIFY(!totali.textCursor().hasSelection());
-    QCOMPARE(v.detti(), QStringList("[Ambolino] Stampo la statistica?"));
-    QCOMPARE(QString::fromStdString(v.p.servizi.stampati.at(0)), v.testo("RichTextBox1"));
+    QCOMPARE(v.detti(), QStringList(2, "[Ambolino] Stampo la statistica?"));
     v.premi(Qt::Key_N, Qt::AltModifier);
     QCOMPARE(v.figlia().windowTitle(), QString("Previsioni ancora in gioco"));
     QCOMPARE(v.figlia().geometry(), QRect(166, 80, 583, 336));

@@ -14,7 +14,7 @@
 
 namespace vaticlo::prova {
 
-/// Services that answer as they are told and remember what they were asked.
+/// Services that give the answers a test has set and remember what they were asked.
 class ServiziProva : public Servizi {
  public:
   Risposta mostra(const Messaggio& messaggio) override {
@@ -36,7 +36,7 @@ class ServiziProva : public Servizi {
     return scaricaInMemoria(indirizzo, seModificatoDopo);
   }
   void segnala(const std::string& testo) override { segnalati.push_back(testo); }
-  void apriPagina(const std::string& /*indirizzo*/) override {}
+  void apriPagina(const std::string& indirizzo) override { pagine.push_back(indirizzo); }
   [[nodiscard]] std::chrono::year_month_day oggi() const override { return giornoDiOggi; }
   void eventiInAttesa() override {
     ++pause;
@@ -58,7 +58,7 @@ class ServiziProva : public Servizi {
   std::function<void()> allaPausa;
   std::vector<Messaggio> messaggi;
   std::vector<std::pair<std::string, std::string>> domande;
-  std::vector<std::string> stampati, scaricati, segnalati;
+  std::vector<std::string> stampati, scaricati, segnalati, pagine;
   std::vector<int> percenti;
   int pause = 0;
 };

@@ -8,7 +8,8 @@
 /// What the tests of the logic start with.
 namespace vaticlo::prova {
 
-using testing::Each, testing::ElementsAre, testing::HasSubstr, testing::IsEmpty, testing::Pair;
+using testing::Contains, testing::Each, testing::ElementsAre, testing::HasSubstr, testing::IsEmpty,
+    testing::Pair;
 using testing::EndsWith, testing::StartsWith;
 using Celle = std::vector<int>;
 

@@ -36,7 +36,7 @@ struct SlotProva {
 [[nodiscard]] FileMetodo metodoProva(const std::vector<SlotProva>& slot);
 void scriviMetodoProva(const ProgrammaProva& p, std::string_view nome, const std::vector<SlotProva>& slot);
 
-/// The bytes of a report in its code page, its lines parted by "|" and ended by CR LF.
+/// The bytes of a report in its code page, its lines separated by "|" and ended by CR LF.
 [[nodiscard]] std::string rapportoDi(const std::string& testo);
 
 }  // namespace vaticlo::prova
