@@ -1,5 +1,4 @@
 #include "archive/regole.h"
-#include "archive/somdif.h"
 #include "sostegno/logica.h"
 
 namespace vaticlo::prova {
@@ -47,20 +46,6 @@ TEST_F(HitRules, ASorteGivesTheNumbersFoundInTheOrderOfTheCombination) {
   EXPECT_THAT(sorte({10, 10, 50}, 11), ElementsAre(10, 10, 50));
   EXPECT_THAT(sorte({12, 3}, 0), IsEmpty());
   EXPECT_THAT(sorte({10, 20}, 12), IsEmpty());
-}
-
-TEST(SumsAndDistances, OfTwoNumbersTurnAtTheEndOfTheirCircle) {
-  const std::array<int, 5> casi[] = {{1, 90, 1, 89, 1},    {90, 1, 1, 89, 1},  {10, 55, 45, 45, 65},
-                                     {10, 56, 44, 46, 66}, {45, 45, 0, 0, 90}, {0, 60, 30, 60, 60},
-                                     {0, 0, 0, 0, 0}};
-  for (const auto& [a, b, ciclometrica, matematica, somma] : casi) {
-    ArchivioProva archivio(4);
-    archivio.ruota(4, 10, {1, a, 1, 1, b});
-    const auto valore = [&](TipoSomDif tipo) { return CalcolaSomDif(archivio.griglia, 4, tipo)[6][9]; };
-    EXPECT_EQ(valore(TipoSomDif::Ciclometrica), ciclometrica) << a << ' ' << b;
-    EXPECT_EQ(valore(TipoSomDif::Matematica), matematica) << a << ' ' << b;
-    EXPECT_EQ(valore(TipoSomDif::Somma), somma) << a << ' ' << b;
-  }
 }
 
 }  // namespace

@@ -12,9 +12,9 @@ class Verifica : public testing::Test {
     p.globals().apriSullUltima(ultima + 1);
   }
   /// The report of the check of a draw.
-  std::string verifica(int estrazione, const std::string& lblnestr, const SceltaMetodo& scelta = {}) {
+  std::string verifica(int estrazione, const std::string& lblnestr) {
     p.globals().mostra(estrazione);
-    clsMetodo controllo(p.programma, {scelta, lblnestr});
+    clsMetodo controllo(p.programma, {{}, lblnestr});
     controllo.ricerca(0);
     controllo.rilascia();
     return p.contenuto("Esiti.txt");
@@ -33,33 +33,6 @@ const std::string kFine = "|" + std::string(35, '_');
 SlotProva gioca(std::vector<int> ruote, std::vector<int> ambate, std::vector<int> ambi = {},
                 std::vector<int> sup = {}, int colpi = 3) {
   return {101, {}, std::move(ruote), colpi, std::move(ambate), std::move(ambi), std::move(sup)};
-}
-
-TEST_F(Verifica, TheReportHasAnEntryForEachPredictionOfTheDraw) {
-  scriviMetodoProva(p, "Metodo 1",
-                    {{5432, {89, 9, 12, 34}, {1, 2, 11}, 10, {12, 34}, {12, 34, 99, 5, 6, 99}, {1, 2, 3, 99}},
-                     {.estrazione = 5433, .ruote = {1}, .ambate = {12}},
-                     {.estrazione = 5432, .ruote = {1, 12}, .colpi = 3, .ambi = {8, 9, 99}}});
-  scriviMetodoProva(p, "Metodo 2", {{.estrazione = 5432, .ruote = {1}, .colpi = 4, .ambi = {7, 99}}});
-  archivio(5436, "5434 Ba 12, 5434 Ca 5 6, 5436 Naz 3 1 2");
-  // The lone 7 of an ambo goes with the 9 of the pair before it, of another method.
-  EXPECT_EQ(verifica(5432, "5432"),
-            rapportoDi(" Previsione n.°1| Metodo: Metodo 1| Numero di Telefono di previsione: 899.12.34|"
-                       " Colpi ancora in gioco: 6| Ruote: Ba-Ca-Naz| Ambate: 12-34|"
-                       " Ambi Secchi: 12-34;5-6| Sorti Superiori: 1-2-3||"
-                       " Esito:| Ambata 12 Ba al 2°colpo| Ambo 5-6 Ca al 2°colpo|"
-                       " Terno in sorti superiori 1 2 3 Naz al 4° colpo" +
-                       kFine +
-                       "| Previsione n.°2| Metodo: Metodo 1| Ruote: Ba-Tutte| Ambi Secchi: 8-9||"
-                       " Esito:| Negativo" +
-                       kFine +
-                       "| Previsione n.°3| Metodo: Metodo 2| Ruote: Ba| Ambi Secchi: 7-9|| Esito:| In gioco" +
-                       kFine));
-  attende(3, 1, 1);
-  EXPECT_THAT(verifica(5432, "5432", {false, "Metodo 2"}),
-              StartsWith(rapportoDi(" Previsione n.°1| Metodo: Metodo 2")));
-  EXPECT_EQ(verifica(5431, "5431"), "") << "a draw without predictions";
-  attende(0, 0, 0);
 }
 
 TEST_F(Verifica, EveryColpoIsPlayedAndEachHitWritesItsLine) {

@@ -18,10 +18,10 @@ struct Caso {
   std::vector<Passo> passi;
 };
 
-/// The cases of a script. "== " begins one with its name, "$ " a command, "> " a file with its text. After a
-/// command stands what it says ("..." for any lines), "! " a part of what it says of an error, "? " its
-/// status when that is not 0. What comes before the first case is done before each. "DATI" is the folder of
-/// the scripts.
+/// The cases of a script. "== " begins one with its name, "$ " a command, "> " a file with its text, "< " a
+/// report and what is in it. After a command stands what it says ("..." for any lines), "! " a part of what
+/// it says of an error, "? " its status when that is not 0. What comes before the first case is done before
+/// each. "DATI" is the folder of the scripts.
 std::vector<Caso> casiDi(const std::filesystem::path& file) {
   std::vector<Caso> casi(1);
   std::ifstream testo(file);
@@ -29,10 +29,10 @@ std::vector<Caso> casiDi(const std::filesystem::path& file) {
     const auto resto = riga.size() < 2 ? "" : riga.substr(2);
     if (riga.starts_with("== "))
       casi.push_back({riga.substr(3), casi[0].passi});
-    else if (riga.starts_with("$ ") || riga.starts_with("> "))
+    else if (riga.starts_with("$ ") || riga.starts_with("> ") || riga.starts_with("< "))
       casi.back().passi.push_back({riga.starts_with("$") ? resto : riga});
-    else if (casi.back().passi.empty())
-      continue;  // a comment at the top
+    else if (riga.starts_with("# "))
+      continue;
     else if (riga.starts_with("! "))
       casi.back().passi.back().errori.push_back(resto);
     else if (riga.starts_with("? "))
@@ -70,6 +70,10 @@ class Copione : public Console {
         p.scrivi(passo.comando.substr(2), passo.detto);
         continue;
       }
+      if (passo.comando.starts_with("< ")) {
+        EXPECT_TRUE(uguali(testoRapporto(p.radice / passo.comando.substr(2)), passo.detto));
+        continue;
+      }
       EXPECT_EQ(esegui(std::regex_replace(passo.comando, std::regex("DATI"), VATICLO_COPIONI)), passo.stato);
       EXPECT_TRUE(uguali(detto, passo.detto)) << detto;
       for (const auto& parte : passo.errori) EXPECT_THAT(errori, HasSubstr(parte));
@@ -82,7 +86,7 @@ class Copione : public Console {
 };
 
 const bool kRegistrati = [] {
-  for (const char* nome : {"comandi", "analisi"})
+  for (const char* nome : {"comandi", "rapporti", "analisi"})
     for (const auto& caso : casiDi(std::filesystem::path(VATICLO_COPIONI) / (std::string(nome) + ".txt")))
       testing::RegisterTest(nome, caso.nome.c_str(), nullptr, nullptr, __FILE__, __LINE__,
                             [caso]() -> Console* { return new Copione(caso); });

@@ -45,6 +45,9 @@ TEST(Vaticla, ACheckRunsWhenTheDrawOrTheChoiceOfMethodsChanges) {
     if (p.esiste("Esiti.txt")) p.scrivi("Esiti.txt", "as it was");
     fai();
     EXPECT_EQ(p.contenuto("Esiti.txt") != "as it was", verifica) << cosa;
+    if (cosa == std::string("a search")) {
+      EXPECT_THAT(p.servizi.domande[0].first, HasSubstr("dell'estrazione (compreso tra 1 e 9) da"));
+    }
     if (cosa == std::string("Scegli once more")) {
       EXPECT_EQ(lista.Text(), "Altro") << "the name stays";
     }

@@ -46,37 +46,6 @@ TEST_F(Modifica, OpensOnTheNewestDrawAndTheBarStandsOneAboveIt) {
   EXPECT_EQ(vista(), "4/4 n.4 0/0/000") << "active again with the bar at its end already";
 }
 
-TEST_F(Modifica, ADrawIsFoundByNumberOrByADateFromWhichTheSearchOnlyGoesOnward) {
-  const std::string campo = "Inserisci un valore corretto compreso tra 1 e 10.";
-  const std::string nessuna = "Inserisci una data corretta", numero = "Inserisci un valore numerico";
-  // What is typed, the draw shown then (6: as before), the message.
-  const std::tuple<const char*, int, std::string> casi[] = {
-      {"10", 10, ""},       {"2,5", 2, ""},           {"1", 6, campo},         {"11", 6, campo},
-      {"", 6, ""},          {"30/2/2004", 6, numero}, {"8/1/45", 2, ""},  // the next draw of the month
-      {"1/3/45", 9, ""},                                                  // a month of a later year
-      {"30/1/2000", 9, ""},                                               // a day of a later month
-      {"5/4/2001", 10, ""}, {"6/4/2001", 6, nessuna}, {"1/1/1944", 6, nessuna}};
-  ArchivioProva archivio(0);
-  for (int n = 1; const auto* testo : {"7/1/1945", "14/1/1945", "4/2/1945", "31/12/1999", "5/1/2000",
-                                       "12/1/2000", "29/1/2000", "2/2/2001", "31/3/2001", "5/4/2001"}) {
-    const auto data = *dataDaTesto(testo);
-    archivio.griglia.scriviData(n++, data, anno(data) / 100);
-  }
-  archivio.scrivi(p);
-  apri();
-  for (const auto& [digitato, trovata, messaggio] : casi) {
-    frm.estrazione.VScroll1.Value(7);
-    p.servizi.messaggi.clear();
-    p.servizi.digitato = digitato;
-    frm.btnTrova_Click();
-    EXPECT_THAT(vista(), StartsWith(std::to_string(trovata + 1) + "/11 n." + std::to_string(trovata) + " "))
-        << digitato;
-    EXPECT_EQ(p.globals().EstrazioneCorrente, trovata) << digitato;
-    EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, messaggio) << digitato;
-  }
-  EXPECT_THAT(p.servizi.domande[0].first, HasSubstr("dell'estrazione (compreso tra 1 e 10) da"));
-}
-
 TEST_F(Modifica, ASavedDrawKeepsItsDateButForTheCentury) {
   ArchivioProva archivio(2);
   archivio.data(1, 3, 3, 1946).griglia(1, 0, 5) = 9;

@@ -34,28 +34,6 @@ class Scans : public testing::Test {
   PannelloProva frm;
 };
 
-TEST_F(Scans, InPlayIsWrittenEntryByEntryAcrossTheMethods) {
-  archivioDi(5437).scrivi(p);
-  scriviMetodoProva(p, "Altro", {{.estrazione = 5437, .ruote = {12}, .ambate = {90}, .ambi = {77, 88, 99}}});
-  scriviMetodoProva(p, "Metodo 1",
-                    {{.estrazione = 5427, .ruote = {1}, .ambate = {1}},
-                     {.estrazione = 5430, .ruote = {1}, .colpi = 7, .ambate = {1}},
-                     {5432, {89, 9, 12, 34}, {1, 2, 11}, 10, {12, 34}, {12, 99, 5, 6, 99}, {1, 2, 3, 99}},
-                     {.estrazione = 5430, .ruote = {12, 3}, .colpi = 8, .ambi = {7, 8, 99}}});
-  // The lone 12 of an ambo goes with the 88 of the pair before it, of another method.
-  EXPECT_EQ(inGioco(),
-            voce(" Previsione n.°1| Metodo: Altro| Colpi ancora in gioco: 10| Ruote: Tutte| Ambate: 90"
-                 "| Ambi Secchi: 77-88|") +
-                voce(" Previsione n.°2| Metodo: Metodo 1| Numero di Telefono di previsione: 899.12.34"
-                     "| Colpi ancora in gioco: 5| Ruote: Ba-Ca-Naz| Ambate: 12-34| Ambi Secchi: 12-88;5-6"
-                     "| Sorti Superiori: 1-2-3|") +
-                voce(" Previsione n.°3| Metodo: Metodo 1| Colpi ancora in gioco: 1| Ruote: Fi-Tutte"
-                     "| Ambi Secchi: 7-8|"));
-  EXPECT_EQ(p.globals().ContaGiocabili, 3);
-  EXPECT_EQ(frm.eventi, "0 max2 1 2 report");
-  EXPECT_EQ(p.servizi.pause, 2);
-}
-
 TEST_F(Scans, InPlayLeavesOutWhatHasWonByTheRulesOfItsBets) {
   archivioDi(103, "101 Ba 33, 102 Ba 1 2, 102 Ro 5 6 7").scrivi(p);
   // Ruote, ambate, ambi, sorti; whether the prediction is still in play.

@@ -49,45 +49,9 @@ class Corsa : public testing::Test {
   PannelloProva frm;
 };
 
-const std::string kFineVincite = "| " + std::string(47, '_'), kFineInGioco = "| " + std::string(37, '_');
-
 SlotProva ambata(int estrazione, int colpi = 2) { return {estrazione, {89, 9}, {1}, colpi, {7}}; }
 SlotProva ambo(int estrazione, std::vector<int> ruote, std::vector<int> ambi) {
   return {.estrazione = estrazione, .ruote = std::move(ruote), .colpi = 2, .ambi = std::move(ambi)};
-}
-
-TEST_F(Corsa, LeavesTotalsEndedPredictionsAndThoseInPlay) {
-  scriviMetodoProva(p, "Metodo 1",
-                    {{5432, {89, 9, 12, 34}, {1, 2}, 3, {12}, {5, 6, 99}, {1, 2, 3, 99}},
-                     {.estrazione = 5433, .ruote = {8, 12}, .colpi = 2, .ambi = {8, 9, 99}},
-                     {.estrazione = 5434, .ruote = {11}, .colpi = 5, .ambate = {7}}});
-  archivio(archivioDi(5436, "5434 Ba 12,5434 Ca 5 6 1 2 3").data(5433, 15, 3, 2005).data(5434, 17, 3, 2005));
-  corri(5432, 5434);
-  EXPECT_EQ(vincite(),
-            rapportoDi(" Previsione n.°1| Metodo: Metodo 1| Numero di Telefono di previsione: 899.12.34|"
-                       " Data di Calcolo:  Estrazione n.5432 del 12/3/2005| Ruote: Ba-Ca| Ambate: 12|"
-                       " Ambi Secchi: 5-6| Sorti Superiori: 1-2-3||"
-                       " Esito:  E 12 Ba ** A 5-6 Ca ** Tl 1 2 3 Ca ** 2° colpo|" +
-                       kFineVincite +
-                       "| Previsione n.°2| Metodo: Metodo 1|"
-                       " Data di Calcolo:  Estrazione n.5433 del 15/3/2005| Ruote: Ro-Tutte|"
-                       " Ambi Secchi: 8-9|| Esito: Negativo" +
-                       kFineVincite));
-  EXPECT_EQ(p.contenuto("PrevGioco.txt"),
-            rapportoDi(" Previsione n.°1| Metodo: Metodo 1| Calcolata nell'estrazione n° 5434 del  17/3/2005|"
-                       " Colpi ancora in gioco: 3| Ruote: Naz| Ambate: 7" +
-                       kFineInGioco));
-  EXPECT_EQ(stat(),
-            rapportoDi("Estrazione di Inizio statistica:  n° 5432 del 12/3/2005|"
-                       "Estrazione di fine statistica:  n° 5434 del 17/3/2005||Previsioni Giocabili: 3|"
-                       "Previsioni Non Giocabili: 0|Previsioni Vincenti: 1 (50%)|"
-                       "Previsioni Negative: 1 (50%)|Previsioni in gioco: 1||Ambate vincenti: 1 (16,7%)|"
-                       "Ambi secchi vincenti a ruota: 1 (16,7%)|Ambi secchi vincenti a tutte: 0 (0%)|"
-                       "Ambi vincenti in sorti superiori: 3 (50%)|"
-                       "Terni vincenti in sorti superiori: 1 (16,7%)|"
-                       "Quaterne vincenti in sorti superiori: 0 (0%)|"
-                       "Cinquine vincenti in sorti superiori: 0 (0%)||"));
-  EXPECT_EQ(frm.eventi, " 0 iniziata max3 1 2 3");
 }
 
 TEST_F(Corsa, TheFirstWinningColpoIsCountedBetByBet) {
