@@ -1,6 +1,7 @@
 #include <fstream>
 #include <regex>
 
+#include "platform/rapporto.h"
 #include "sostegno/console_prova.h"
 
 namespace vaticlo::prova {
