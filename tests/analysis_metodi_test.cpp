@@ -39,23 +39,6 @@ class Metodi : public testing::Test {
 const std::string kColonne =
     "Metodo;Previsioni;Giocate;Vincenti;Negative;In gioco;Vincenti %;Attese %;Colpo medio;Stato\r\n";
 
-TEST_F(Metodi, AreCountedAsTheStatisticsCountEachAlone) {
-  scriviMetodoProva(p, "A", {ambata(101), ambata(102), ambata(105), ambata(109), ambata(110)});
-  // It stops the scan of its draw, is taken itself, and passes for lost; chance leaves it out.
-  scriviMetodoProva(p, "B", {amboSuTutte(101), ambata(101), ambata(102)});
-  // Without an end it is not even taken.
-  scriviMetodoProva(p, "C",
-                    {{.estrazione = 101, .ruote = {1}, .ambi = std::vector<int>(180, 7)}, ambata(105)});
-  scriviMetodoProva(p, "D", {});
-  // Two colpi on one wheel: 1 - (17/18)^2 = 10.8 %.
-  EXPECT_EQ(quadro(), kColonne +
-                          "A;5;5;2;1;2;66,7;10,8;1,5;\r\nB;3;2;1;1;0;50;10,8;1;\r\n"
-                          "C;2;1;0;1;0;0;10,8;;\r\nD;0;0;0;0;0;;;;\r\n");
-  EXPECT_EQ(quadro(102, 104), kColonne +
-                                  "A;5;1;1;0;0;100;10,8;1;\r\nB;3;1;1;0;0;100;10,8;1;\r\n"
-                                  "C;2;0;0;0;0;;;;\r\nD;0;0;0;0;0;;;;\r\n");
-}
-
 TEST_F(Metodi, ThatNobodyJudgesAreNamedAndHoldUpNoOther) {
   scriviMetodoProva(p, "A", Slot(10, ambata(101)));
   scriviMetodoProva(p, "B", {ambata(101), ambata(200), ambata(105)});

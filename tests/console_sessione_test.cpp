@@ -25,28 +25,10 @@ TEST(RefusedMessage, IsNotForgottenByOnesThatFollow) {
             "[Attenzione] notizia\n[Vaticlo] rifiuto\n[Vaticlo] notizia\n");
 }
 
-TEST_F(Console, AFileOfCommandsIsOneProcess) {
-  archivioDi(110, "102 Ba 5 6").scrivi(p);
-  scriviMetodoProva(p, "M", {{.estrazione = 101, .ruote = {1, 12}, .ambi = {5, 6, 99}}});
-  const std::string due = "\xEF\xBB\xBF# nota\n\nstatistica 101 102\r\nstatistica 101 102\n";
-  EXPECT_EQ(eseguiFile(due + "trova 1\nstatistica 101 102 --metodo X\nestrazione 15001\nmetodo crea Mai\n"),
-            1);
-  for (const char* testo :
-       {"a tutte: 1 (50%)", "a tutte: 2 (66,7%)", "a tutte: 2 (100%)", "[Attenzione] Inserisci un valore"})
-    EXPECT_THAT(detto, HasSubstr(testo));
-  EXPECT_EQ(eseguiFile("trova 1\nmetodo elenco"), 0);
-  EXPECT_EQ(eseguiFile("metodo elenco\ntrova 1"), 3);
-}
-
-TEST_F(Console, AFileOfCommandsStopsAtALineThatIsNone) {
-  for (const auto& [riga, errore] : {std::pair{std::string("metodo nulla"), "riga 2: comando sconosciuto"},
-                                     {"'metodo", "riga 2: virgolette"},
-                                     {"metodo crea Mai\\", "riga 2: finisce con una barra"},
-                                     {"esegui @", "riga 2: comando sconosciuto"},
-                                     {std::string(std::size_t{2} << 20, 'x'), "riga 2: più lunga"}}) {
-    EXPECT_EQ(eseguiFile("metodo elenco\n" + riga + "\nmetodo crea Mai\n"), 2);
-    EXPECT_THAT(errori, StartsWith(errore));
-  }
+TEST_F(Console, AFileOfCommandsThatHasNoEndOrIsNoTextIsRefused) {
+  EXPECT_EQ(eseguiFile("metodo elenco\n" + std::string(std::size_t{2} << 20, 'x') + "\nmetodo crea Mai\n"),
+            2);
+  EXPECT_THAT(errori, StartsWith("riga 2: più lunga"));
   EXPECT_EQ(eseguiFile("\xFF\xFEm\0"), 2);
   EXPECT_THAT(errori, HasSubstr("UTF-16"));
   std::filesystem::resize_file(p.radice / "comandi.txt", kMassimoTesto + 1);

@@ -55,27 +55,6 @@ class InsPrev : public testing::Test {
   std::unique_ptr<frmInsPrev> frm;
 };
 
-TEST_F(InsPrev, WhatCantBeSavedIsRefusedAndChangesNothing) {
-  const std::tuple<const char*, std::array<const char*, 5>, std::string> casi[] = {
-      {" ", {"", "", "", "", ""}, "Bisogna scegliere il metodo al quale deve appartenere la previsione!"},
-      {"Manca", {"", "  ", "", "", ""}, "Attenzione scegliere almeno una ruota di gioco!"},
-      {"Manca", {"", "Ba", "", " ", " "}, "Scegliere almeno una combinazione da giocare!"},
-      {"Manca", {"", "Ba", "7", "", ""}, "Non esiste il file del metodo selezionato!"},
-      {"Metodo 1", {"", "Ba - Ca", "7", "", ""}, "Errore nell'inserimento delle ruote!"},
-      {"Metodo 1", {" ", "Ba", "7", "", ""}, "Errore nella creazione del metodo!"}};
-  const auto prima = file();
-  for (const auto& [metodo, testi, messaggio] : casi) {
-    auto& f = apri(false);
-    f.cmbMetodo.Text(metodo);
-    compila(testi);
-    f.btnElabora_Click();
-    detto("[Attenzione] " + messaggio,
-          messaggio.starts_with("Non esiste") ? Icona::Nessuna : Icona::Esclamazione);
-    EXPECT_EQ(cornice.chiesto, "altre ");
-    EXPECT_TRUE(file() == prima && !p.esiste("Metodi/Manca.dat"));
-  }
-}
-
 TEST_F(InsPrev, ANewPredictionTakesTheFirstSlotWithoutHundreds) {
   scriviMetodoProva(p, "Metodo 1", {kAltra, {57, {89, 9}, {1, 2}, 5, {1, 2, 3}, {4, 5, 99}}});
   apri(false).btnElabora_Click();
