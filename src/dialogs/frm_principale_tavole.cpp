@@ -42,7 +42,7 @@ void apreLaPagina(frmPrincipale& principale) {
 // Meant: unlike an import, an update leaves the open windows with what they show.
 void aggiorna(frmPrincipale& principale) { aggiornaArchivio(principale.programma()); }
 
-// The toolbar's button leaves the chosen method as it was.
+// Meant: the toolbar's button leaves the chosen method as it was (guide: "La statistica si apre dal menu").
 void statisticaDelPrimoMetodo(frmPrincipale& principale) {
   principale.programma().globals.MetodoScelto = 1;
   principale.apri<frmStatistica>();
