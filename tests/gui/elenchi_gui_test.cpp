@@ -102,6 +102,7 @@ class ElenchiGuiTest : public QObject {
       QVERIFY(lista.findChild<QListWidget*>("suggerimenti") == nullptr);
     }
     lista.setFocus();
+    lista.lineEdit()->selectAll();
     v.scrivi("ze");
     v.premi(Qt::Key_Down);
     v.premi(Qt::Key_Return);
