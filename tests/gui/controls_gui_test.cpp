@@ -71,7 +71,8 @@ class ControlsGuiTest : public QObject {
     QCOMPARE(f.pulsante->aspetto(), AspettoPulsante::Premuto);
     QTest::keyRelease(f.pulsante, Qt::Key_Space);
     QTest::mouseClick(f.pulsante, Qt::LeftButton, {}, kDentro);
-    QTest::mouseClick(f.pulsante, Qt::RightButton, {}, kDentro);
+    QTest::mousePress(f.pulsante, Qt::RightButton, {}, kDentro);
+    QVERIFY(f.pulsante->aspetto() != AspettoPulsante::Premuto);
     QTest::keyClick(f.pulsante, Qt::Key_Return);  // no key of the control's own
     QCOMPARE(visti, QList<AspettoPulsante>(3, AspettoPulsante::Normale));
   }

@@ -76,6 +76,10 @@ class FiglieGuiTest : public QObject {
     QTest::newRow("mnuGestione22")
         << QRect(133, 66, 862, 598)
         << editor + "|Frame10=Seleziona Previsione|btnElimina=&Elimina/Elimina la previsione";
+    QTest::newRow("mnuGestione12")
+        << QRect(233, 60, 360, 220)
+        << "Frame1=Seleziona Metodo|Frame2=Nuovo nome|btnRinomina=&Rinomina/Cambia il nome del metodo|"
+           "btnElimina=E&limina/Elimina il metodo con le sue previsioni|btnEsci=&Esci/Chiudi la finestra";
     QTest::newRow("mnuUtility1") << QRect(200, 66, 509, 475) << lista;
     QTest::newRow("mnuUtility2") << QRect(200, 66, 509, 475)
                                  << lista + "|Frame1=Ultime Estrazioni da Considerare";
