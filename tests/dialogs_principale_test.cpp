@@ -117,8 +117,8 @@ TEST_F(Principale, AnUpdateLeavesTheOpenWindowWithWhatItShows) {
 }
 
 TEST_F(Principale, TheTwoPagesOfTheGameAreTheOnesNamed) {
-  principale.comando("mnuUtility5");
   principale.comando("mnuUtility6");
+  principale.comando("mnuUtility7");
   EXPECT_THAT(p.servizi.pagine, ElementsAre(HasSubstr("lotto-italia.it"), HasSubstr("adm.gov.it")));
 }
 
