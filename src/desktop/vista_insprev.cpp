@@ -37,7 +37,7 @@ QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
   testa->addLayout(
       intestazione(legame, frm.Label1, frm.estrazione.lblnestr, frm.Label13, frm.estrazione.lbldataestr), 1);
   auto* vai = legame.campo(frm.txtVai, QStringLiteral("txtVai"));
-  vai->setFixedWidth(vai->fontMetrics().horizontalAdvance(QStringLiteral("numero o data__")));
+  vai->setFixedWidth(vai->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000__")));
   vai->setToolTip(QStringLiteral("Scrivete il numero o la data di un'estrazione e premete Invio"));
   auto* etichettaVai = new QLabel(QStringLiteral("Vai a:"), gruppo);
   etichettaVai->setBuddy(vai);
@@ -48,6 +48,8 @@ QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
   return gruppo;
 }
 
+constexpr int kIntornoAllaSigla = 8;
+
 // A help for the mouse: the keyboard types the wheels, so Tab does not stop at them.
 QLayout* ruote(Legame& legame, frmInsPrev& frm) {
   auto* riga = new QHBoxLayout;
@@ -55,6 +57,9 @@ QLayout* ruote(Legame& legame, frmInsPrev& frm) {
   for (std::size_t n = 0; n < frm.btnRuota.size(); ++n) {
     auto* pulsante = legame.pulsanteBreve(frm.btnRuota[n], QStringLiteral("btnRuota_%1").arg(n + 1));
     pulsante->setFocusPolicy(Qt::NoFocus);
+    pulsante->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(pulsante->text()) +
+                              kIntornoAllaSigla);
     riga->addWidget(pulsante);
   }
   return riga;

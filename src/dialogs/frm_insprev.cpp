@@ -47,7 +47,7 @@ frmInsPrev::frmInsPrev(Programma& programma, Cornice& cornice) : Finestra(cornic
   btnElabora.Click = [this] { btnElabora_Click(); };
   btnElimina.Click = [this] { btnElimina_Click(); };
   btnCancella.Click = [this] { btnCancella_Click(); };
-  txtVai.esempio = "numero o data";
+  txtVai.esempio = "n. o data";
   txtVai.Invio = [this] { txtVai_Invio(); };
   for (int codice = 1; codice <= kTutte; ++codice) {
     auto& pulsante = btnRuota.at(static_cast<std::size_t>(codice - 1));
