@@ -234,10 +234,10 @@ TEST_F(Mano, ADateOfTheStatisticsFillsItsNumber) {
 
 TEST_F(Mano, TheFrameClosesAFreshEntryWindow) {
   s.apri("Insert");
-  attendi("the window", [&] { return !vuoto("txtestr_0"); });
+  attendi("the window", [&] { return !vuoto("btnSalva"); });
   s.punta("titolo");  // from there the pointer jumps, without a step between
   s.clicca("chiudi");
-  attendi("the empty main window", [&] { return vuoto("txtestr_0"); });
+  attendi("the empty main window", [&] { return vuoto("btnSalva"); });
 }
 
 TEST_F(Mano, AMessageLeavesFieldsAndButtonsAsTheyWereDrawn) {
