@@ -14,6 +14,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <cstdlib>
@@ -63,6 +64,7 @@ class Fotografo {
   }
 
   void tutte();
+  QPixmap principale();
 
  private:
   void salva(const QString& nome, const QPixmap& figura) const {
@@ -165,7 +167,17 @@ void Fotografo::previsione(int estrazione, const QStringList& testi, int colpi, 
   conRiquadro({}, {}, [&] { premi("btnElabora"); });
 }
 
+// The main window, with the folder of somebody in its status bar.
+QPixmap Fotografo::principale() {
+  for (auto* scorciatoia : finestra_.findChildren<QShortcut*>())
+    if (scorciatoia->key() == QKeySequence(Qt::Key_F5)) Q_EMIT scorciatoia->activated();
+  posa();
+  finestra_.findChild<QLabel*>("statoCartella")->setText("/home/anna/Vaticlo");
+  return finestra_.grab();
+}
+
 void Fotografo::tutte() {
+  salva("inizio", principale());
   scegli("mnu1Inserisci");
   for (const auto& [campo, numero] : {std::pair{0, 58}, {1, 22}, {2, 47}, {3, 49}, {4, 69}, {5, 27}, {6, 57}})
     scrivi(QString("txtestr_%1").arg(campo), QString::number(numero));
@@ -173,7 +185,7 @@ void Fotografo::tutte() {
   scatta("inserisci");
   scegli("mnu1Modifica");
   scatta("modifica");
-  salva("principale", finestra_.grab());
+  salva("principale", principale());
   conRiquadro("cerca", "315", [&] { premi("btnTrova"); });
   conRiquadro("aggiornamento", {}, [&] { scegli("mnu1Aggiorna"); });
 
