@@ -10,11 +10,13 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <cstdlib>
@@ -173,6 +175,7 @@ QPixmap Fotografo::principale() {
     if (scorciatoia->key() == QKeySequence(Qt::Key_F5)) Q_EMIT scorciatoia->activated();
   posa();
   finestra_.findChild<QLabel*>("statoCartella")->setText("/home/anna/Vaticlo");
+  finestra_.statusBar()->layout()->activate();
   return finestra_.grab();
 }
 
