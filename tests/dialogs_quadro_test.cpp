@@ -129,7 +129,9 @@ TEST_F(Quadro, AFailureOfTheDiskIsToldAndTheWindowLivesOn) {
   EXPECT_FALSE(frm.btnAnnulla.Enabled());
 }
 
-TEST_F(Quadro, APredictionOpensTheCheckOnItsDraw) {
+TEST_F(Quadro, APredictionOpensTheCheckOnItsDrawAndAMethodItsComparison) {
+  frm.btnCaso_Click();
+  EXPECT_THAT(cornice.chiesto, EndsWith("confronto A "));
   frm.previsioni.apri(1);
   EXPECT_THAT(cornice.chiesto, EndsWith("verifica A 105 "));
   scriviMetodoProva(p, "A", {ambata(111)});

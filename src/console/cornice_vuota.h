@@ -11,6 +11,7 @@ class CorniceVuota : public Cornice {
   void chiudi(Finestra& /*finestra*/) override {}
   void riapri(Finestra& /*finestra*/) override {}
   void apriRisultati() override {}
+  void apriConfronto(const Finestra& /*chiede*/, const std::string& /*metodo*/) override {}
   void apriVerifica(const Finestra& /*chiede*/, const std::string& /*metodo*/, int /*estrazione*/) override {}
   void lavoro(bool /*inCorso*/) override {}
   void archivioNuovo() override {}

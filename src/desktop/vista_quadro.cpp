@@ -101,6 +101,7 @@ QWidget* vista(const std::shared_ptr<frmQuadro>& frm, const Confine& confine) {
     pulsanti->addWidget(fatto);
     return fatto;
   };
+  pulsante(frm->btnCaso, "btnCaso");
   sulle << pulsante(frm->btnVerifica, "btnVerifica");
   pulsanti->addSpacing(10);
   auto* togli = pulsante(frm->btnTogli, "btnTogli");

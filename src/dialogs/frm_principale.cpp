@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "check/clsmetodo.h"
+#include "dialogs/frm_caso.h"
 #include "dialogs/frm_metodo.h"
 #include "dialogs/frm_migliore.h"
 #include "dialogs/frm_statistica.h"
@@ -136,16 +137,25 @@ void frmPrincipale::riapri(Finestra& finestra) {
 
 void frmPrincipale::apriRisultati() { apri<frmMigliore>(); }
 
-void frmPrincipale::apriVerifica(const Finestra& chiede, const std::string& metodo, int estrazione) {
+template <class F>
+F& frmPrincipale::apriAccanto(const Finestra& chiede) {
   resta_ = &chiede;
   try {
-    apri<frmMetodo>();
+    apri<F>();
   } catch (const RuntimeFailure&) {
     resta_ = nullptr;
     throw;
   }
   resta_ = nullptr;
-  aperta<frmMetodo>()->mostra(metodo, estrazione);
+  return *aperta<F>();
+}
+
+void frmPrincipale::apriVerifica(const Finestra& chiede, const std::string& metodo, int estrazione) {
+  apriAccanto<frmMetodo>(chiede).mostra(metodo, estrazione);
+}
+
+void frmPrincipale::apriConfronto(const Finestra& chiede, const std::string& metodo) {
+  apriAccanto<frmCaso>(chiede).metodo.scegliNome(metodo);
 }
 
 void frmPrincipale::chiudiTutte(const Finestra* tranne) {

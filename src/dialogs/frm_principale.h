@@ -60,6 +60,7 @@ class frmPrincipale : public Cornice {
   void riapri(Finestra& finestra) override;
   void apriRisultati() override;
   void apriVerifica(const Finestra& chiede, const std::string& metodo, int estrazione) override;
+  void apriConfronto(const Finestra& chiede, const std::string& metodo) override;
   void lavoro(bool inCorso) override;
 
   /// Opens the window of that class, or brings up the one that is open.
@@ -98,6 +99,9 @@ class frmPrincipale : public Cornice {
   [[nodiscard]] std::vector<Aperta>::const_iterator postoDi(const Finestra& finestra) const;
   void portaSu(Finestra& finestra);
   void apriNuova(Fabbrica fabbrica);
+  /// Opens a window, and the one that asks for it stays.
+  template <class F>
+  F& apriAccanto(const Finestra& chiede);
 
   Programma& programma_;
   VistaPrincipale* vista_ = nullptr;

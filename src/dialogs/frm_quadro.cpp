@@ -61,6 +61,7 @@ frmQuadro::frmQuadro(Programma& programma, Cornice& cornice) : Finestra(cornice)
   previsioni.Apri = [this] { btnVerifica_Click(); };
   btnArchivio.Click = [this] { btnArchivio_Click(); };
   btnVerifica.Click = [this] { btnVerifica_Click(); };
+  btnCaso.Click = [this] { btnCaso_Click(); };
   btnTogli.Click = [this] { btnTogli_Click(); };
   btnCopia.Click = [this] { btnCopia_Click(); };
   btnSposta.Click = [this] { btnSposta_Click(); };
@@ -196,6 +197,7 @@ void frmQuadro::mostraPulsanti() {
   const bool scelte = !previsioni.scelte().empty();
   for (auto* pulsante : {&btnTogli, &btnCopia, &btnSposta, &btnDuplica}) pulsante->Enabled(scelte);
   btnVerifica.Enabled(previsioni.scelte().size() == 1);
+  btnCaso.Enabled(rigaScelta() != nullptr);
   btnAnnulla.Enabled(!fatti_.empty());
   btnAnnulla.ToolTipText(fatti_.empty() ? "Non c'è niente da annullare"
                                         : "Annulla l'ultima modifica: " + fatti_.back().testo);
@@ -303,6 +305,10 @@ void frmQuadro::btnVerifica_Click() {
     rifiuta("L'estrazione n. " + std::to_string(estrazione) + " non è nell'archivio!");
   else
     cornice().apriVerifica(*this, scelto->metodo, estrazione);
+}
+
+void frmQuadro::btnCaso_Click() {
+  if (const auto* riga = rigaScelta()) cornice().apriConfronto(*this, riga->metodo);
 }
 
 void frmQuadro::btnTogli_Click() {

@@ -37,6 +37,7 @@ class frmQuadro : public Finestra {
   void metodi_Apri();
   void previsioni_Change();
   void btnVerifica_Click();
+  void btnCaso_Click();
   void btnTogli_Click();
   void btnCopia_Click();
   void btnSposta_Click();
@@ -50,6 +51,7 @@ class frmQuadro : public Finestra {
   Prospetto metodi, previsioni{Prospetto::Scelta::Diverse};
   Etichetta lblMetodi, lblPrevisioni, lblNota, lblFatto;
   Avanzamento prgbar;
+  Pulsante btnCaso{"Con&fronta...", "Confronta il metodo con il caso"};
   Pulsante btnVerifica{"&Verifica", "Apre la verifica sull'estrazione della previsione"};
   Pulsante btnTogli{"&Togli", "Toglie dal metodo le previsioni selezionate"};
   Pulsante btnCopia{"&Copia in...", "Copia le previsioni selezionate in un altro metodo"};

@@ -20,6 +20,8 @@ class Cornice {
   virtual void apriRisultati() = 0;
   /// Opens the check on a draw with a method chosen, and leaves the window that asks for it open.
   virtual void apriVerifica(const Finestra& chiede, const std::string& metodo, int estrazione) = 0;
+  /// Opens the comparison of a method with chance, and leaves the window that asks open.
+  virtual void apriConfronto(const Finestra& chiede, const std::string& metodo) = 0;
   /// Long work begins or ends in one of the windows: meanwhile the main window takes no command.
   virtual void lavoro(bool inCorso) = 0;
   /// The archive was replaced as a whole; draws were added at its end: the open windows are told.

@@ -15,6 +15,9 @@ class CorniceProva : public Cornice {
   void apriRisultati() override { chiesto += "risultati "; }
   void archivioNuovo() override { chiesto += "nuovo "; }
   void estrazioniAggiunte() override { chiesto += "aggiunte "; }
+  void apriConfronto(const Finestra& /*chiede*/, const std::string& metodo) override {
+    chiesto += "confronto " + metodo + " ";
+  }
   void apriVerifica(const Finestra& /*chiede*/, const std::string& metodo, int estrazione) override {
     chiesto += "verifica " + metodo + " " + std::to_string(estrazione) + " ";
   }
