@@ -25,6 +25,7 @@ TEST_F(Metodi, TheirWindowRenamesAndDeletesAfterAYes) {
   p.servizi.risposta = Risposta::No;
   frm.btnRinomina.Click();
   frm.btnElimina.Click();
+  EXPECT_EQ(p.servizi.messaggi.back().predefinita, Risposta::No);
   EXPECT_THAT(elencaFile(cartellaMetodi(p.cartella())), ElementsAre("A.dat"));
   p.servizi.risposta = Risposta::Si;
   frm.btnRinomina.Click();

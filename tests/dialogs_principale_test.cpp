@@ -62,9 +62,9 @@ TEST_F(Principale, TheEditorKeepsItsVariantUntilTheMenuAsksForTheOther) {
   scriviMetodoProva(p, "Metodo 1", {slot});
   principale.comando("mnuGestione22");
   const auto editor = [&] { return principale.aperta<frmInsPrev>(); };
+  p.globals().PrevisioneInModifica = false;  // whoever sets it, the window is what it was opened as
   editor()->cmbMetodo.scegli(0);
   editor()->cmbPrevisione.scegli(0);
-  p.globals().PrevisioneInModifica = false;  // whoever sets it, the window is what it was opened as
   editor()->btnElabora_Click();
   EXPECT_EQ(LeggiMetodo(p.cartella(), "Metodo 1").EstrazioneCalcolo(2), 0) << "no second prediction";
   EXPECT_EQ(aperte(), "Modifica Previsione|") << "the window that follows a save";

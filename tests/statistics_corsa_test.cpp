@@ -64,8 +64,8 @@ TEST_F(Corsa, TheFirstWinningColpoIsCountedBetByBet) {
       {ambi, "102 Ba 5 6", " A 5-6 Ba ** A 5-6 Tu(Ba) ** A 5-6 Tu(Ba) ** 1", "0 1 2 0 0 0 0"},
       {ambi, "102 Naz 5 6", " A 5-6 Tu(Naz) ** A 5-6 Tu(Naz) ** 1", "0 0 2 0 0 0 0"},
       {sorte, "102 Ba 1 2,102 Ca 3 1", " Al 1 2 Ba ** Al 1 3 Ca ** 1", "0 0 0 2 0 0 0"},
-      {sorte, "102 Ba 1 2 3 4", " Ql 1 2 3 4 Ba ** 1", "0 0 0 6 4 1 0"},
-      {sorte, "102 Ba 5 4 3 2 1", " Cl 1 2 3 4 5 Ba ** 1", "0 0 0 10 10 5 1"}};
+      {sorte, "102 Ba 5 4 3 2 1", " Cl 1 2 3 4 5 Ba ** 1", "0 0 0 10 10 5 1"},
+      {sorte, "102 Ba 1 2 3 4", " Ql 1 2 3 4 Ba ** 1", "0 0 0 6 4 1 0"}};
   for (const auto& [slot, uscite, esito, attesi] : casi) {
     auto& g = p.globals();
     g.AmbiTutte = 0;
@@ -95,6 +95,11 @@ TEST_F(Corsa, WonLostAndInPlayAreSeparated) {
     EXPECT_EQ(p.globals().ContaInGioco, inGioco);
     EXPECT_EQ(voci(), attese);
     EXPECT_EQ(vincite().find("Telefono") != std::string::npos, vincenti > 0) << "winners alone";
+    EXPECT_EQ(p.contenuto("PrevGioco.txt").find("Telefono") != std::string::npos, inGioco > 0);
+    if (vincenti == 1) {
+      EXPECT_THAT(stat(),
+                  HasSubstr(rapportoDi("Previsioni Vincenti: 1 (33,3%)|Previsioni Negative: 2 (66,7%)|")));
+    }
   }
   EXPECT_THAT(stat(), HasSubstr(rapportoDi("Previsioni Vincenti: 2 (100%)|Previsioni Negative: 0 (0%)|")));
 }
