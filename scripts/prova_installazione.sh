@@ -29,6 +29,7 @@ rinnova_e_confronta() {
 
 DESTDIR=$prova/sistema cmake --install "$build" --prefix /usr >/dev/null
 posto='bin/vaticlo(-cli)?|lib/vaticlo/([^/]+|(Metodi|guida)/.*)|share/(applications|doc/vaticlo|icons/.*/apps)/[^/]+'
+posto+='|share/(man/man1|bash-completion/completions|zsh/site-functions|fish/vendor_completions\.d)/[^/]+'
 altrove=$(cd "$prova/sistema" && find . -type f | grep -vxE "\./usr/($posto)") || true
 [ -z "$altrove" ] || sbaglio "these have no place in a system: $altrove"
 comando=$prova/sistema/usr/bin/vaticlo-cli
