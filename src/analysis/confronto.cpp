@@ -1,6 +1,5 @@
 #include "analysis/confronto.h"
 
-#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -139,6 +138,7 @@ std::vector<Confronto> confrontaColCaso(const std::vector<MetodoGiudicato>& meto
   auto risultato = provaIlCaso(gruppi, ruote, opzioni, std::move(fermata), avanzamento);
   for (auto& campione : campioni) campione.confronto.andamento = andamentoDi(campione, risultato.asse);
   std::vector<Confronto> confronti;
+  confronti.reserve(campioni.size() + 1);
   for (auto& campione : campioni) confronti.push_back(campione.confronto);
   for (std::size_t n = 0; n < confronti.size(); ++n)
     metti(confronti[n], std::move(risultato.gruppi[n]), risultato.prove);

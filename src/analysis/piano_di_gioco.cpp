@@ -3,7 +3,6 @@
 #include <array>
 
 #include "analysis/conteggio.h"
-#include "archive/regole.h"
 #include "archive/ruota.h"
 
 namespace vaticlo {
@@ -55,7 +54,8 @@ std::vector<double> probabilitaPerColpo(const PianoDiGioco& piano, const RuoteEs
   perColpo.reserve(static_cast<std::size_t>(piano.colpi));
   double finora = 1;  // the chance that nothing has won yet
   for (int colpo = 1; colpo <= piano.colpi; ++colpo) {
-    const unsigned estratte = ruote[static_cast<std::size_t>(piano.estrazione + colpo)];
+    const unsigned estratte =
+        ruote[static_cast<std::size_t>(piano.estrazione) + static_cast<std::size_t>(colpo)];
     double senza = suRuote[quante(estratte & piano.ruote)];
     if (anche) senza *= altrove[quante(estratte & ~unsigned{piano.ruote})];
     if (colpo == piano.colpoDellaData) senza = 0;

@@ -75,6 +75,7 @@ class Serie {
         opzioni_.fili != 0 ? opzioni_.fili : std::max(1U, std::thread::hardware_concurrency());
     attivi_ = static_cast<int>(nuclei);
     std::vector<std::jthread> fili;
+    fili.reserve(nuclei);
     for (unsigned n = 0; n < nuclei; ++n) fili.emplace_back([this] { lavora(); });
     for (std::unique_lock guardia(mutex_); attivi_ > 0;) {
       finito_.wait_for(guardia, kIntervallo, [this] { return attivi_ == 0; });

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "analysis/giocata.h"
 #include "analysis/ruote_estratte.h"
 #include "archive/ruota.h"
 

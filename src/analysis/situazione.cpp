@@ -5,7 +5,6 @@
 
 #include "analysis/metodi_giudicati.h"
 #include "methods/catalogo.h"
-#include "platform/failure.h"
 
 namespace vaticlo {
 

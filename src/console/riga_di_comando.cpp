@@ -1,8 +1,6 @@
 #include "console/riga_di_comando.h"
 
-#include <algorithm>
 #include <map>
-#include <utility>
 
 #include <CLI/CLI.hpp>
 

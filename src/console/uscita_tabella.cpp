@@ -39,6 +39,7 @@ std::size_t larghezza(const std::string& testo) {
 
 void stampaAllineata(const Tabella& tabella) {
   std::vector<std::size_t> larghezze;
+  larghezze.reserve(tabella.colonne.size());
   for (const auto& colonna : tabella.colonne) larghezze.push_back(larghezza(colonna.nome));
   for (const auto& celle : tabella.righe)
     for (std::size_t n = 0; n < celle.size(); ++n)
