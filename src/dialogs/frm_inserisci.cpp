@@ -2,7 +2,6 @@
 
 #include "archive/ruota.h"
 #include "dialogs/data_digitata.h"
-#include "forms/controlli_estrazione.h"
 #include "platform/conversione.h"
 
 namespace vaticlo {

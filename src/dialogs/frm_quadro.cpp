@@ -41,7 +41,9 @@ std::string lePrevisioni(const std::vector<int>& slot) {
   return testo;
 }
 
-std::string maiuscoloInizio(std::string testo) { return maiuscolo(testo.substr(0, 1)) + testo.substr(1); }
+std::string maiuscoloInizio(const std::string& testo) {
+  return maiuscolo(testo.substr(0, 1)) + testo.substr(1);
+}
 
 }  // namespace
 

@@ -69,6 +69,7 @@ bool precede(const Chiave& a, const Chiave& b) {
 void Prospetto::mostra(Tabella tabella) {
   if (tabella == tabella_) return;
   std::vector<std::string> nomi;
+  nomi.reserve(scelte_.size());
   for (const auto riga : scelte_) nomi.push_back(testoCella(cella(riga, 0)));
   tabella_ = std::move(tabella);
   if (ordine_.colonna && *ordine_.colonna >= tabella_.colonne.size()) ordine_ = {};
