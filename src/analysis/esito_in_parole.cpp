@@ -43,11 +43,11 @@ class Vincite : public EsitoColpo {
   std::vector<std::string> voci_;
 };
 
+}  // namespace
+
 std::string ancora(int colpi) {
   return colpi == 1 ? "ancora 1 colpo" : "ancora " + std::to_string(colpi) + " colpi";
 }
-
-}  // namespace
 
 std::string esitoInParole(const Previsione& previsione, const RegoleVincita& regole, int ultima) {
   Vincite vincite;

@@ -33,7 +33,7 @@ QLabel* etichetta(const std::string& testo, double grandezza = 1, bool grassetto
 }  // namespace
 
 VistaInizio::VistaInizio(QWidget* area, frmPrincipale& principale, const Confine& confine)
-    : QScrollArea(area), principale_(principale), confine_(confine), colonna_(nullptr) {
+    : QScrollArea(area), principale_(principale), confine_(confine) {
   setObjectName(QStringLiteral("inizio"));
   setAccessibleName(QStringLiteral("Pagina iniziale"));
   setFrameShape(QFrame::NoFrame);
@@ -55,9 +55,9 @@ void VistaInizio::mostra(const PaginaIniziale& pagina) {
   auto* foglio = new QWidget;
   foglio->setAutoFillBackground(true);
   foglio->setBackgroundRole(QPalette::Window);
-  colonna_ = new QVBoxLayout(foglio);
-  colonna_->setContentsMargins(kMargine, kMargine, kMargine, kMargine);
-  colonna_->setSpacing(4);
+  auto* colonna = new QVBoxLayout(foglio);
+  colonna->setContentsMargins(kMargine, kMargine, kMargine, kMargine);
+  colonna->setSpacing(4);
 
   auto* testata = new QHBoxLayout;
   auto* segno = new QLabel;
@@ -68,21 +68,21 @@ void VistaInizio::mostra(const PaginaIniziale& pagina) {
   auto* archivio = etichetta(pagina.archivio, kTitolo, true);
   archivio->setObjectName(QStringLiteral("inizioArchivio"));
   testata->addWidget(archivio, 1);
-  colonna_->addLayout(testata);
+  colonna->addLayout(testata);
 
   for (const auto& sezione : pagina.sezioni) {
-    colonna_->addSpacing(kTraSezioni);
-    colonna_->addWidget(etichetta(sezione.titolo, kSezione, true));
-    for (const auto& riga : sezione.righe) colonna_->addWidget(etichetta(riga));
+    colonna->addSpacing(kTraSezioni);
+    colonna->addWidget(etichetta(sezione.titolo, kSezione, true));
+    for (const auto& riga : sezione.righe) colonna->addWidget(etichetta(riga));
   }
 
-  colonna_->addSpacing(kTraSezioni);
+  colonna->addSpacing(kTraSezioni);
   auto* pulsanti = new QHBoxLayout;
   for (const auto& uno : pulsantiIniziali())
     if (!uno.soloSeVuoto || pagina.archivioVuoto) pulsanti->addWidget(pulsante(uno));
   pulsanti->addStretch(1);
-  colonna_->addLayout(pulsanti);
-  colonna_->addStretch(1);
+  colonna->addLayout(pulsanti);
+  colonna->addStretch(1);
   setWidget(foglio);
   if (auto* ancora = nomeConFuoco.isEmpty() ? nullptr : findChild<QWidget*>(nomeConFuoco)) ancora->setFocus();
 }

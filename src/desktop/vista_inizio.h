@@ -4,8 +4,6 @@
 
 #include "desktop/confine.h"
 
-class QVBoxLayout;
-
 namespace vaticlo {
 
 class frmPrincipale;
@@ -27,7 +25,6 @@ class VistaInizio : public QScrollArea {
 
   frmPrincipale& principale_;
   const Confine& confine_;
-  QVBoxLayout* colonna_;
 };
 
 }  // namespace vaticlo

@@ -8,6 +8,7 @@
 #include "methods/spiegazioni.h"
 #include "platform/blocco.h"
 #include "platform/conversione.h"
+#include "platform/due_cifre.h"
 #include "platform/failure.h"
 #include "platform/testo.h"
 
@@ -17,8 +18,6 @@ namespace {
 
 constexpr int kColpiOfferti = 30;
 constexpr int kColpiIniziali = 10;
-
-std::string dueCifre(int valore) { return (valore < 10 ? "0" : "") + std::to_string(valore); }
 
 // Meant: the double slash before the year.
 std::string voceDiElenco(const FileMetodo& metodo, int slot) {

@@ -3,9 +3,11 @@
 #include <array>
 #include <sstream>
 
+#include "analysis/esito_in_parole.h"
 #include "dialogs/frm_principale.h"
 #include "methods/giocata_in_parole.h"
 #include "operations/dimostrazione.h"
+#include "platform/due_cifre.h"
 #include "platform/failure.h"
 
 namespace vaticlo {
@@ -13,8 +15,6 @@ namespace vaticlo {
 namespace {
 
 constexpr std::size_t kRigheAlMassimo = 6;  // of a section
-
-std::string dueCifre(int valore) { return (valore < 10 ? "0" : "") + std::to_string(valore); }
 
 std::string migliaia(int valore) {
   auto testo = std::to_string(valore);
@@ -44,10 +44,6 @@ std::string rigaArchivio(const Situazione& situazione, const Data& oggi) {
   if (const auto& data = situazione.ultima)
     testo += ", l'ultima del " + dataScritta(*data) + quantoFa(*data, oggi);
   return testo;
-}
-
-std::string ancora(int colpi) {
-  return colpi == 1 ? "ancora 1 colpo" : "ancora " + std::to_string(colpi) + " colpi";
 }
 
 template <class Voci, class Riga>

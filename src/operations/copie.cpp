@@ -18,6 +18,7 @@
 #include "platform/blocco.h"
 #include "platform/conversione.h"
 #include "platform/descrittore.h"
+#include "platform/due_cifre.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
 #include "platform/testo.h"
@@ -53,8 +54,6 @@ fs::path cartellaCopie(const CartellaProgramma& cartella) { return cartella.file
 fs::path luogo(const CartellaProgramma& cartella, GenereCopia genere) {
   return genere == GenereCopia::Archivio ? cartella.radice() : cartellaMetodi(cartella);
 }
-
-std::string dueCifre(int numero) { return (numero < 10 ? "0" : "") + std::to_string(numero); }
 
 std::string nomeDi(GenereCopia genere, const Data& giornata, int numero) {
   return std::string(natura(genere).nome) + "-" + std::to_string(anno(giornata)) + "-" +
