@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "analysis/giocata.h"
+#include "archive/ruota.h"
 
 namespace vaticlo {
 

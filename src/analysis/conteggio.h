@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "analysis/giocata.h"
+#include "archive/ruota.h"
 
 namespace vaticlo {
 

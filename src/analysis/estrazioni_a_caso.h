@@ -4,7 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "analysis/giocata.h"
+#include "analysis/insieme_numeri.h"
+#include "archive/ruota.h"
 
 namespace vaticlo {
 

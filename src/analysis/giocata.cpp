@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <span>
 
+#include "archive/ruota.h"
+
 namespace vaticlo {
 
 namespace {

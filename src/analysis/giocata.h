@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "analysis/insieme_numeri.h"
-#include "archive/ruota.h"
 #include "program/previsione.h"
 
 namespace vaticlo {

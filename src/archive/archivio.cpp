@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/cartella.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
 

@@ -8,9 +8,10 @@
 #include <string_view>
 
 #include "archive/data.h"
-#include "platform/cartella.h"
 
 namespace vaticlo {
+
+class CartellaProgramma;
 
 inline constexpr std::string_view kFileArchivio = "archivion71.dat";
 

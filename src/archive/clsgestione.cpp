@@ -2,8 +2,10 @@
 
 #include "archive/ruota.h"
 #include "platform/blocco.h"
+#include "platform/cartella.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"
+#include "platform/servizi.h"
 
 namespace vaticlo {
 

@@ -6,9 +6,11 @@
 #include "archive/archivio.h"
 #include "archive/data.h"
 #include "archive/somdif.h"
-#include "platform/servizi.h"
 
 namespace vaticlo {
+
+class CartellaProgramma;
+class Servizi;
 
 inline constexpr int kCampiEstrazione = 55;  ///< field f: wheel 1 + f div 5, position 1 + f mod 5
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPainter>
+#include <QPalette>
 
 #include "controls/pittura.h"
 

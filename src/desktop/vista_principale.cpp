@@ -25,6 +25,7 @@
 #include "desktop/vista_guida.h"
 #include "desktop/vista_inizio.h"
 #include "desktop/viste.h"
+#include "dialogs/frm_principale_tavole.h"
 #include "dialogs/pagina_iniziale.h"
 
 namespace vaticlo {

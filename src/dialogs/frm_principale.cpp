@@ -7,6 +7,7 @@
 #include "dialogs/frm_caso.h"
 #include "dialogs/frm_metodo.h"
 #include "dialogs/frm_migliore.h"
+#include "dialogs/frm_principale_tavole.h"
 #include "dialogs/frm_statistica.h"
 #include "platform/failure.h"
 

@@ -5,7 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "dialogs/frm_principale_tavole.h"
 #include "forms/finestra.h"
 #include "program/programma.h"
 
