@@ -14,6 +14,7 @@
 #include "desktop/colori.h"
 #include "desktop/ricerca_testo.h"
 #include "desktop/salva_con_nome.h"
+#include "desktop/voce_contestuale.h"
 
 namespace vaticlo {
 
@@ -56,24 +57,17 @@ AreaRapporto::AreaRapporto(AreaTesto& modello, QWidget* padre)
   setUndoRedoEnabled(false);
   setLineWrapMode(QPlainTextEdit::NoWrap);
 
-  const auto voce = [this](const char* nome, const char* caption, auto fai) {
-    auto* azione = new QAction(QString::fromUtf8(caption), this);
-    azione->setObjectName(QLatin1String(nome));
-    connect(azione, &QAction::triggered, this, fai);
-    addAction(azione);
-    return azione;
-  };
-  auto* trova = voce("trova", "Trova...", [this] { apriRicerca(); });
+  auto* trova = voceContestuale(*this, "trova", "Trova...", [this] { apriRicerca(); });
   trova->setShortcut(QKeySequence::Find);
   trova->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-  voce("salvaPdf", "Salva come PDF...", [this] {
+  voceContestuale(*this, "salvaPdf", "Salva come PDF...", [this] {
     salvaConNome(*this, QStringLiteral("Salva come PDF"), accessibleName(), QStringLiteral("pdf"),
                  [this](const QString& file) {
                    return salvaPdf(file,
                                    [this](QPagedPaintDevice& carta) { stampaSu(carta, toPlainText()); });
                  });
   });
-  voce("salvaTesto", "Salva come testo...", [this] {
+  voceContestuale(*this, "salvaTesto", "Salva come testo...", [this] {
     salvaConNome(*this, QStringLiteral("Salva come testo"), accessibleName(), QStringLiteral("txt"),
                  [this](const QString& file) { return salvaOttetti(file, toPlainText().toUtf8()); });
   });

@@ -16,6 +16,7 @@
 #include "desktop/carta.h"
 #include "desktop/salva_con_nome.h"
 #include "desktop/suggerimento.h"
+#include "desktop/voce_contestuale.h"
 
 namespace vaticlo {
 
@@ -44,24 +45,17 @@ GraficoVista::GraficoVista(Grafico& modello, QWidget* padre)
   tutto->setContentsMargins(kBordo, kBordo, kBordo, kBordo);
   tutto->addWidget(&tela_.widget());
 
-  const auto voce = [this](const char* nome, const char* caption, auto fai) {
-    auto* azione = new QAction(QString::fromUtf8(caption), this);
-    azione->setObjectName(QLatin1String(nome));
-    connect(azione, &QAction::triggered, this, fai);
-    addAction(azione);
-    return azione;
-  };
-  auto* copia = voce("copiaFigura", "Copia la figura", [this] {
+  auto* copia = voceContestuale(*this, "copiaFigura", "Copia la figura", [this] {
     perCarta(
         [&](const TelaGrafico& tela) { QApplication::clipboard()->setImage(tela.immagine(size(), kScala)); });
   });
   copia->setShortcut(QKeySequence::Copy);
   copia->setShortcutContext(Qt::WidgetShortcut);
-  voce("salvaPng", "Salva come PNG...", [this] {
+  voceContestuale(*this, "salvaPng", "Salva come PNG...", [this] {
     salvaConNome(*this, QStringLiteral("Salva come PNG"), accessibleName(), QStringLiteral("png"),
                  [this](const QString& file) { return salvaOttetti(file, png()); });
   });
-  voce("salvaPdf", "Salva come PDF...", [this] {
+  voceContestuale(*this, "salvaPdf", "Salva come PDF...", [this] {
     salvaConNome(*this, QStringLiteral("Salva come PDF"), accessibleName(), QStringLiteral("pdf"),
                  [this](const QString& file) { return salvaOttetti(file, pdf()); });
   });

@@ -21,6 +21,7 @@
 #include "desktop/carta.h"
 #include "desktop/salva_con_nome.h"
 #include "desktop/suggerimento.h"
+#include "desktop/voce_contestuale.h"
 
 namespace vaticlo {
 
@@ -79,21 +80,13 @@ ProspettoVista::ProspettoVista(Prospetto& modello, const Confine& confine, QWidg
   });
   connect(this, &QTableView::doubleClicked, this, &ProspettoVista::apri);
 
-  auto* copia = voce("copia", QStringLiteral("Copia"), &ProspettoVista::copia);
+  auto* copia = voceContestuale(*this, "copia", "Copia", [this] { this->copia(); });
   copia->setShortcut(QKeySequence::Copy);
   copia->setShortcutContext(Qt::WidgetShortcut);
   addAction(ordini_->menuAction());
-  voce("salvaCsv", QStringLiteral("Salva come CSV..."), &ProspettoVista::salvaCsv);
-  voce("salvaPdf", QStringLiteral("Salva come PDF..."), &ProspettoVista::salvaComePdf);
-  voce("stampa", QStringLiteral("Stampa..."), &ProspettoVista::stampa);
-}
-
-QAction* ProspettoVista::voce(const char* nome, const QString& caption, void (ProspettoVista::*fai)()) {
-  auto* azione = new QAction(caption, this);
-  azione->setObjectName(QLatin1String(nome));
-  connect(azione, &QAction::triggered, this, fai);
-  addAction(azione);
-  return azione;
+  voceContestuale(*this, "salvaCsv", "Salva come CSV...", [this] { salvaCsv(); });
+  voceContestuale(*this, "salvaPdf", "Salva come PDF...", [this] { salvaComePdf(); });
+  voceContestuale(*this, "stampa", "Stampa...", [this] { stampa(); });
 }
 
 void ProspettoVista::aggiorna() {

@@ -30,7 +30,6 @@ class ProspettoVista : public QTableView {
   void changeEvent(QEvent* evento) override;
 
  private:
-  QAction* voce(const char* nome, const QString& caption, void (ProspettoVista::*fai)());
   void segnaOrdine();
   void aggiornaOrdini();
   void misura();

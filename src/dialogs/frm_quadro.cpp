@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "analysis/elenco_previsioni.h"
 #include "analysis/tabelle.h"
 #include "methods/cartella_metodi.h"
 #include "methods/catalogo.h"
-#include "platform/conversione.h"
 #include "platform/failure.h"
 #include "platform/testo.h"
 
@@ -217,7 +217,7 @@ void frmQuadro::mostraIntervallo() {
 }
 
 bool frmQuadro::txtDal_Validate() {
-  if (!leggiEstremo(txtDal, intervallo_.dal, &frmQuadro::primaDal)) return true;
+  if (!leggiEstremo(txtDal, intervallo_.dal, Estremo::Primo)) return true;
   if (intervallo_.dal > intervallo_.al) intervallo_.al = ultima_;  // the other end gives way
   mostraIntervallo();
   aggiorna();
@@ -225,23 +225,16 @@ bool frmQuadro::txtDal_Validate() {
 }
 
 bool frmQuadro::txtAl_Validate() {
-  if (!leggiEstremo(txtAl, intervallo_.al, &frmQuadro::ultimaFinoAl)) return true;
+  if (!leggiEstremo(txtAl, intervallo_.al, Estremo::Ultimo)) return true;
   if (intervallo_.al < intervallo_.dal) intervallo_.dal = 1;
   mostraIntervallo();
   aggiorna();
   return false;
 }
 
-bool frmQuadro::leggiEstremo(CampoTesto& campo, int& estremo, Estremo delGiorno) {
+bool frmQuadro::leggiEstremo(CampoTesto& campo, int& estremo, Estremo quale) {
   if (campo.Text() == std::to_string(estremo)) return true;
-  std::optional<int> letto;
-  if (const auto data = dataDigitata(campo.Text())) {
-    letto = (this->*delGiorno)(*data);
-  } else if (const auto numero = numeroDaTesto(campo.Text());
-             numero && *numero >= 1 && *numero <= ultima_ && *numero == static_cast<int>(*numero)) {
-    letto = static_cast<int>(*numero);
-  }
-  if (letto) {
+  if (const auto letto = estremoDigitato(campo.Text(), quale, archivio_, ultima_)) {
     estremo = *letto;
     return true;
   }
@@ -249,18 +242,6 @@ bool frmQuadro::leggiEstremo(CampoTesto& campo, int& estremo, Estremo delGiorno)
           std::to_string(ultima_) + ", oppure una data, per esempio 28/02/2026.");
   campo.Text(std::to_string(estremo));
   return false;
-}
-
-std::optional<int> frmQuadro::primaDal(const Data& data) const {
-  for (int n = 1; n <= ultima_; ++n)
-    if (const auto sua = dataDaTesto(archivio_.DataEstrazione(n)); sua && *sua >= data) return n;
-  return std::nullopt;
-}
-
-std::optional<int> frmQuadro::ultimaFinoAl(const Data& data) const {
-  for (int n = ultima_; n >= 1; --n)
-    if (const auto sua = dataDaTesto(archivio_.DataEstrazione(n)); sua && *sua <= data) return n;
-  return std::nullopt;
 }
 
 void frmQuadro::btnArchivio_Click() {

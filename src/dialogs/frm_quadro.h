@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "analysis/elenco_previsioni.h"
 #include "analysis/quadro.h"
 #include "archive/archivio.h"
+#include "dialogs/estremo_digitato.h"
 #include "forms/controlli.h"
 #include "forms/finestra.h"
 #include "forms/prospetto.h"
@@ -71,7 +71,6 @@ class frmQuadro : public Finestra {
     std::string testo;  ///< "spostata la previsione n. 3 da «A» a «B»"
     PassoPrevisioni passo;
   };
-  using Estremo = std::optional<int> (frmQuadro::*)(const Data&) const;
 
   void tuttoArchivio();
   void aggiorna();
@@ -83,9 +82,7 @@ class frmQuadro : public Finestra {
   [[nodiscard]] std::string riassunto() const;
   [[nodiscard]] std::string nota(const RigaQuadro& riga) const;
   /// False, the user told and the old draw shown again, when the text is no draw.
-  [[nodiscard]] bool leggiEstremo(CampoTesto& campo, int& estremo, Estremo delGiorno);
-  [[nodiscard]] std::optional<int> primaDal(const Data& data) const;
-  [[nodiscard]] std::optional<int> ultimaFinoAl(const Data& data) const;
+  [[nodiscard]] bool leggiEstremo(CampoTesto& campo, int& estremo, Estremo quale);
   [[nodiscard]] const RigaQuadro* rigaScelta() const;
   [[nodiscard]] std::optional<Bersaglio> bersaglio() const;
   [[nodiscard]] std::string chiediMetodo(const std::string& domanda, const std::string& titolo,
