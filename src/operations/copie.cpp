@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
-#include <map>
 #include <optional>
 #include <string_view>
 #include <system_error>
@@ -16,6 +15,7 @@
 #include "methods/metodo.h"
 #include "operations/un_passo.h"
 #include "platform/blocco.h"
+#include "platform/cartella_intera.h"
 #include "platform/conversione.h"
 #include "platform/descrittore.h"
 #include "platform/due_cifre.h"
@@ -31,9 +31,6 @@ namespace {
 
 constexpr std::size_t kUltime = 10;
 constexpr std::size_t kMargine = std::size_t{256} << 10;  // what a file system needs besides the bytes
-
-/// Grids by the names of their files: what a copy holds, or what there is to be copied.
-using Contenuto = std::map<std::string, std::vector<std::uint8_t>>;
 
 struct Natura {
   std::string_view nome;
@@ -89,8 +86,9 @@ std::vector<Copia> copieSenzaContenuto(const CartellaProgramma& cartella) {
 
 bool diMetodo(const std::string& file) { return file.find(".dat") != std::string::npos; }
 
-Contenuto leggiTutti(const fs::path& cartella, GenereCopia genere) {
-  Contenuto tutti;
+/// Grids by the names of their files: what a copy holds, or what there is to be copied.
+FilePerNome leggiTutti(const fs::path& cartella, GenereCopia genere) {
+  FilePerNome tutti;
   for (const auto& nome : elencaFile(cartella))
     if (genere == GenereCopia::Metodi ? diMetodo(nome) : nome == kFileArchivio)
       leggiFile(cartella / nome, tutti.try_emplace(nome, natura(genere).griglia).first->second);
@@ -101,7 +99,7 @@ Contenuto leggiTutti(const fs::path& cartella, GenereCopia genere) {
 }
 
 // The operation that follows needs as much room again: no copy takes it away from it.
-void richiediPosto(const fs::path& dove, const Contenuto& tutti) {
+void richiediPosto(const fs::path& dove, const FilePerNome& tutti) {
   std::uintmax_t servono = 0;
   for (const auto& [nome, ottetti] : tutti) servono += ottetti.size() + 4096;
   if (fs::space(dove).available < 2 * servono + kMargine) throw RuntimeFailure(Errore::DiscoPieno);
@@ -131,17 +129,7 @@ void conserva(const Programma& programma, GenereCopia genere, bool unaAlGiorno) 
   if (tutti.empty() || std::ranges::any_of(copie, stessa)) return;
   richiediPosto(cartella.radice(), tutti);
   const auto nome = nomeDi(genere, oggi, numero);
-  const auto copia = cartellaCopie(cartella) / nome, accanto = cartellaCopie(cartella) / ".nuova";
-  fs::remove_all(accanto);
-  fs::create_directories(accanto);
-  try {
-    for (const auto& [file, ottetti] : tutti) scriviFile(accanto / file, ottetti);
-    rinominaFile(accanto, copia);
-  } catch (const RuntimeFailure&) {
-    std::error_code ignorato;
-    fs::remove_all(accanto, ignorato);
-    throw;
-  }
+  scriviCartella(cartellaCopie(cartella) / nome, tutti);
   sfoltisci(cartella, genere, nome);
 }
 
@@ -160,7 +148,7 @@ void provaAConservare(const Programma& programma, GenereCopia genere, bool unaAl
   }
 }
 
-void guardaDentro(Copia& copia, const Contenuto& tutti) {
+void guardaDentro(Copia& copia, const FilePerNome& tutti) {
   for (const auto& [nome, ottetti] : tutti)
     if (copia.genere == GenereCopia::Archivio) {
       ArchivioEstrazioni archivio;

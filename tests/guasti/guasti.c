@@ -161,6 +161,13 @@ int fsync(int fd) {
   return *cosa == 's' ? VERO(fsync)(fd) : 0;
 }
 
+int syncfs(int fd) {
+  if (!nostra(fd)) return VERO(syncfs)(fd);
+  FALLISCE("syncfs");
+  memset(sporco, 0, sizeof sporco);
+  return *cosa == 's' ? VERO(syncfs)(fd) : 0;
+}
+
 /* Remembers how a name is given back when the power goes before the folder is synced. */
 static void mosso(const char *da, const char *a) {
   if (*cosa != 'c' || quanti_mossi == NOMI) return;

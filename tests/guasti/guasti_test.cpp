@@ -9,6 +9,7 @@
 #include <sys/wait.h>
 
 #include "archive/clsgestione.h"
+#include "operations/copie.h"
 #include "sostegno/logica.h"
 #include "sostegno/server_prova.h"
 
@@ -176,6 +177,10 @@ class Guasti : public testing::TestWithParam<Caso>, public ProgrammaVero {
     }
     EXPECT_TRUE(esito == 0 ? ora == dopo : aPezzi || inTutti || ora == prima || (puoEsserci && ora == dopo))
         << "status " << esito;
+    for (const auto& copia : elencoCopie(p.cartella())) {  // whole, or not there
+      if (copia.genere == GenereCopia::Archivio) continue;
+      EXPECT_EQ(contenuto(copia), GetParam().vuota ? "2 metodi, 0 previsioni" : "2 metodi, 1 previsioni");
+    }
     // The names that stand in for a sync are the library's own.
     for (const auto& file : accanto())
       if (file.filename().string().starts_with(".guasti")) fs::remove(file);
