@@ -12,7 +12,11 @@ install(FILES pacchetto/qt.conf pacchetto/LEGGIMI.txt DESTINATION . ${in_libreri
 
 set(plugins
   platforms/libqxcb.so
+  platforms/libqwayland-generic.so
   platforms/libqoffscreen.so
+  platformthemes/libqgtk3.so
+  platformthemes/libqxdgdesktopportal.so
+  wayland-shell-integration/libxdg-shell.so
   platforminputcontexts/libcomposeplatforminputcontextplugin.so
   platforminputcontexts/libibusplatforminputcontextplugin.so
   printsupport/libcupsprintersupport.so

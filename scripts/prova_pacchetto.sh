@@ -36,14 +36,26 @@ printf '2026/03/14\tBA\t1\t2\t3\t4\t5\n' >"$prova/una.txt"
 env -i LD_DEBUG=files "$cartella/vaticlo-cli" --cartella "$prova/zip" importa "$prova/una.zip" >/dev/null 2>"$prova/caricate"
 grep -qF "calling init: $cartella/lib/libarchive.so.13" "$prova/caricate" || sbaglio "unpacks with another libarchive"
 
-env -i QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$prova" "$cartella/vaticlo" &
-programma=$!
-for _ in $(seq 100); do  # until it has read its plugins, 20 seconds at most
-  sleep 0.2
-  kill -0 "$programma" 2>/dev/null || sbaglio "the desktop program does not stay up"
-  ! grep -q platforms/ "/proc/$programma/maps" || break
-done
-sleep 1
+# avvia VARIABLE=VALUE ...: the desktop program without a screen, up to where it has read its plugins (20 seconds at most).
+avvia() {
+  env -i QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$prova" "$@" "$cartella/vaticlo" 2>"$prova/detto" &
+  programma=$!
+  for _ in $(seq 100); do
+    sleep 0.2
+    kill -0 "$programma" 2>/dev/null || sbaglio "the desktop program does not stay up: $* $(cat "$prova/detto")"
+    ! grep -q platforms/ "/proc/$programma/maps" || break
+  done
+  sleep 1
+  kill -0 "$programma" 2>/dev/null || sbaglio "the desktop program does not stay up: $* $(cat "$prova/detto")"
+}
+
+mkdir "$prova/guaste"
+for nome in libgtk-3.so.0 libwayland-client.so.0; do echo "no library" >"$prova/guaste/$nome"; done
+avvia LD_LIBRARY_PATH="$prova/guaste" QT_QPA_PLATFORMTHEME=gtk3
+kill "$programma"
+wait "$programma" || true
+
+avvia
 sed -n 's/^[^/]*\(\/.*\.so[.0-9]*\)$/\1/p' "/proc/$programma/maps" | sort -u >"$prova/mappate"
 grep -qxF "$cartella/lib/plugins/platforms/libqoffscreen.so" "$prova/mappate" || sbaglio "its plugins are others"
 while IFS= read -r file; do

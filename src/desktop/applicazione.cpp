@@ -11,6 +11,7 @@ namespace vaticlo {
 
 void preparaApplicazione(QApplication& applicazione) {
   QApplication::setApplicationName(QStringLiteral("Vaticlo"));
+  QApplication::setDesktopFileName(QStringLiteral("vaticlo"));  // by it Wayland finds name and picture
   QApplication::setWindowIcon(immagine(QStringLiteral("vaticlo")));
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "desktop/applicazione.h"
+#include "desktop/aspetto.h"
 #include "desktop/confine.h"
 #include "desktop/servizi_desktop.h"
 #include "desktop/vista_principale.h"
@@ -32,6 +33,13 @@ const char* rispostaSenzaSchermo(int argc, char* argv[]) {
   return nullptr;
 }
 
+// GNOME gives Wayland's windows no frame, and those of X its own.
+void preferisciCornici() {
+  if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QStringLiteral("GNOME")) &&
+      !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -42,8 +50,10 @@ int main(int argc, char* argv[]) {
   }
   // A limit on the size of files shows as a write that fails, not as the end of the process.
   std::signal(SIGXFSZ, SIG_IGN);
+  preferisciCornici();
   QApplication applicazione(argc, argv);
   preparaApplicazione(applicazione);
+  const Aspetto aspetto;
   // Nothing is remembered between runs: the file dialog would otherwise keep its last folders in a file of
   // settings.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));

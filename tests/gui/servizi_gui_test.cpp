@@ -10,6 +10,8 @@
 #include <QToolTip>
 
 #include "desktop/applicazione.h"
+#include "desktop/aspetto.h"
+#include "desktop/colori.h"
 #include "desktop/servizi_desktop.h"
 #include "gui/finestra_prova.h"
 #include "sostegno/server_prova.h"
@@ -59,6 +61,16 @@ class ServiziGuiTest : public QObject {
   void pagina(const QUrl& indirizzo) { pagine_ << indirizzo.toString(); }
 
  private slots:
+  void darkColoursAreReadableAndGoAgain() {
+    const auto prima = QApplication::palette().color(QPalette::Window);
+    vestiDiScuro(true);
+    const auto ora = QApplication::palette();
+    QVERIFY(scuro(ora.color(QPalette::Window)) && scuro(ora.color(QPalette::Base)));
+    QVERIFY(!scuro(ora.color(QPalette::WindowText)) && !scuro(ora.color(QPalette::Text)));
+    vestiDiScuro(false);
+    QCOMPARE(QApplication::palette().color(QPalette::Window), prima);
+  }
+
   void aMessageBoxAsksAndAnswersAsItShould_data() {
     QTest::addColumn<Messaggio>("messaggio");
     QTest::addColumn<QString>("pulsanti");

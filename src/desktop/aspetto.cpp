@@ -1,0 +1,69 @@
+#include "desktop/aspetto.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QPalette>
+
+#include "desktop/colori.h"
+
+namespace vaticlo {
+
+namespace {
+
+constexpr uint kPreferisceScuro = 1;
+
+QPalette tavolozzaScura() {
+  const QColor finestra(62, 62, 62), foglio(34, 34, 34), testo(240, 240, 240), scelta(42, 118, 172);
+  QPalette scura(finestra, finestra);
+  for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText,
+                           QPalette::HighlightedText})
+    scura.setColor(ruolo, testo);
+  scura.setColor(QPalette::Base, foglio);
+  scura.setColor(QPalette::AlternateBase, QColor(43, 43, 43));
+  scura.setColor(QPalette::ToolTipBase, finestra);
+  scura.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
+  scura.setColor(QPalette::Highlight, scelta);
+  scura.setColor(QPalette::Link, QColor(110, 180, 240));
+  scura.setColor(QPalette::LinkVisited, QColor(190, 150, 230));
+  for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    scura.setColor(QPalette::Disabled, ruolo, QColor(130, 130, 130));
+  scura.setColor(QPalette::Disabled, QPalette::Highlight, QColor(80, 80, 80));
+  return scura;
+}
+
+}  // namespace
+
+void vestiDiScuro(bool scuro) {
+  static bool nostra = false;
+  if (scuro == nostra || (scuro && vaticlo::scuro(QApplication::palette().color(QPalette::Window)))) return;
+  nostra = scuro;
+  QApplication::setPalette(scuro ? tavolozzaScura() : QPalette());
+}
+
+Aspetto::Aspetto() {
+  chiedi();
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState stato) {
+    if (stato == Qt::ApplicationActive) chiedi();
+  });
+}
+
+void Aspetto::chiedi() {
+  auto domanda = QDBusMessage::createMethodCall(
+      QStringLiteral("org.freedesktop.portal.Desktop"), QStringLiteral("/org/freedesktop/portal/desktop"),
+      QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("Read"));
+  domanda << QStringLiteral("org.freedesktop.appearance") << QStringLiteral("color-scheme");
+  auto* attesa = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(domanda), this);
+  connect(attesa, &QDBusPendingCallWatcher::finished, this, [attesa] {
+    attesa->deleteLater();
+    const QDBusPendingReply<QDBusVariant> risposta = *attesa;
+    if (risposta.isError()) return;
+    const auto valore = risposta.value().variant().value<QDBusVariant>().variant();
+    vestiDiScuro(valore.toUInt() == kPreferisceScuro);
+  });
+}
+
+}  // namespace vaticlo

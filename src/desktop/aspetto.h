@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QObject>
+
+namespace vaticlo {
+
+/// Dark colours for the whole program, or those that the toolkit has found for itself. Where these are dark
+/// already they stay.
+void vestiDiScuro(bool scuro);
+
+/// Asks the desktop's portal whether its user wants dark colours: at the start, and whenever the program
+/// comes to the front again, so that a change is followed. Nobody waits for the answer, and without a portal
+/// there is none: the toolkit alone decides then.
+class Aspetto : public QObject {
+ public:
+  Aspetto();
+
+ private:
+  void chiedi();
+};
+
+}  // namespace vaticlo
