@@ -23,13 +23,12 @@ fi
 cmake --install build/release --component cartella --prefix "$cartella" >/dev/null
 echo "Vaticlo è in $cartella, con l'archivio e i metodi: non sono mai toccati, i programmi sì."
 
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  exec "$cartella/vaticlo"
+fi
 if [ ! -s "$cartella/archivion71.dat" ]; then
   echo "Prima esecuzione: non ci sono ancora estrazioni, eccone di inventate per provare."
   "$cartella/vaticlo-cli" dimostrazione || true
-fi
-
-if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-  exec "$cartella/vaticlo"
 fi
 echo
 echo "Nessuno schermo: una verifica nel terminale."

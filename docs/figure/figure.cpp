@@ -24,12 +24,14 @@
 #include <iostream>
 #include <utility>
 
+#include "archive/archivio.h"
 #include "desktop/applicazione.h"
 #include "desktop/servizi_desktop.h"
 #include "desktop/vista_principale.h"
 #include "desktop/vista_splash.h"
 #include "dialogs/frm_principale.h"
 #include "methods/cartella_metodi.h"
+#include "operations/copie.h"
 #include "operations/dimostrazione.h"
 
 namespace vaticlo {
@@ -47,9 +49,13 @@ class ServiziFigure : public ServiziDesktop {
   bool scarica(const std::string& /*indirizzo*/, const std::filesystem::path& /*dove*/) override {
     return true;
   }
+  Scaricato preleva(const std::string& /*indirizzo*/, std::int64_t /*seModificatoDopo*/) override {
+    return {.esito = Scaricato::Esito::Arrivato, .contenuto = pubblicate};
+  }
   std::filesystem::path scegliFile(const std::string& /*titolo*/) override { return fileDaImportare; }
 
   std::filesystem::path fileDaImportare;
+  std::string pubblicate;  // what the public archive holds
 };
 
 [[noreturn]] void ferma(const QString& perche) {
@@ -157,6 +163,28 @@ std::string fileDiEstrazioni() {
   return righe.toStdString();
 }
 
+/// The public text of an archive: it has one number that this one has not, and two draws more.
+std::string conDueNuove(const ArchivioEstrazioni& archivio) {
+  QString righe;
+  const int ultima = archivio.PrimoIndiceLibero() - 1;
+  auto giorno = QDate();
+  for (int n = 1; n <= ultima + 2; ++n) {
+    giorno = n <= ultima ? QDate::fromString(QString::fromStdString(archivio.DataEstrazione(n)), "d/M/yyyy")
+                         : giorno.addDays(1);
+    int ruota = 0;
+    for (const char* sigla : {"BA", "CA", "FI", "GE", "MI", "NA", "PA", "RM", "TO", "VE", "RN"}) {
+      righe += giorno.toString("yyyy/MM/dd") + '\t' + sigla;
+      ++ruota;
+      for (int k = 1; k <= 5; ++k) {
+        const bool diverso = n == ultima - 3 && ruota == 2 && k == 4;
+        righe += '\t' + QString::number(diverso ? 90 : archivio(n <= ultima ? n : n - ultima, ruota, k));
+      }
+      righe += '\n';
+    }
+  }
+  return righe.toStdString();
+}
+
 /// Saves a prediction of the example; `testi` are number, wheels, ambate, ambi and sorti.
 void Fotografo::previsione(int estrazione, const QStringList& testi, int colpi, const QString& figura) const {
   static const QStringList campi{"txtNum", "txtRuote", "txtAmbate", "txtAmbi", "txtSup"};
@@ -245,6 +273,14 @@ void Fotografo::tutte() {
   posa();
   salva("guida", conTitolo(guida));
   conRiquadro("importa", {}, [&] { scegli("mnu1Importa"); });
+
+  scegli("mnu1Aggiungi");
+  premi("btnInternet");
+  scatta("aggiungi");
+  conRiquadro({}, {}, [&] { premi("btnAggiungi"); });
+  faiCopia(principale_.programma(), GenereCopia::Metodi);
+  scegli("mnu1Copie");
+  scatta("torna-a-una-copia");
 }
 
 }  // namespace
@@ -270,6 +306,7 @@ int main(int argc, char* argv[]) {
   std::ofstream(servizi.fileDaImportare) << fileDiEstrazioni();
   std::ostream nessuno(nullptr);
   creaDimostrazione(programma, nessuno);
+  servizi.pubblicate = conDueNuove(ApriArchivio(programma.cartella));
   VistaSplash splash([] {});
   splash.grab().save(uscita + QStringLiteral("/splash.png"));
   Fotografo(programma, servizi, uscita).tutte();

@@ -57,17 +57,17 @@ AreaRapporto::AreaRapporto(AreaTesto& modello, QWidget* padre)
   setUndoRedoEnabled(false);
   setLineWrapMode(QPlainTextEdit::NoWrap);
 
-  auto* trova = voceContestuale(*this, "trova", "Trova...", [this] { apriRicerca(); });
+  auto* trova = voceContestuale(*this, "trova", "Tro&va...", [this] { apriRicerca(); });
   trova->setShortcut(QKeySequence::Find);
   trova->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-  voceContestuale(*this, "salvaPdf", "Salva come PDF...", [this] {
+  voceContestuale(*this, "salvaPdf", "Salva come P&DF...", [this] {
     salvaConNome(*this, QStringLiteral("Salva come PDF"), accessibleName(), QStringLiteral("pdf"),
                  [this](const QString& file) {
                    return salvaPdf(file,
                                    [this](QPagedPaintDevice& carta) { stampaSu(carta, toPlainText()); });
                  });
   });
-  voceContestuale(*this, "salvaTesto", "Salva come testo...", [this] {
+  voceContestuale(*this, "salvaTesto", "Salva come te&sto...", [this] {
     salvaConNome(*this, QStringLiteral("Salva come testo"), accessibleName(), QStringLiteral("txt"),
                  [this](const QString& file) { return salvaOttetti(file, toPlainText().toUtf8()); });
   });

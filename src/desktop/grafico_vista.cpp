@@ -45,17 +45,17 @@ GraficoVista::GraficoVista(Grafico& modello, QWidget* padre)
   tutto->setContentsMargins(kBordo, kBordo, kBordo, kBordo);
   tutto->addWidget(&tela_.widget());
 
-  auto* copia = voceContestuale(*this, "copiaFigura", "Copia la figura", [this] {
+  auto* copia = voceContestuale(*this, "copiaFigura", "&Copia la figura", [this] {
     perCarta(
         [&](const TelaGrafico& tela) { QApplication::clipboard()->setImage(tela.immagine(size(), kScala)); });
   });
   copia->setShortcut(QKeySequence::Copy);
   copia->setShortcutContext(Qt::WidgetShortcut);
-  voceContestuale(*this, "salvaPng", "Salva come PNG...", [this] {
+  voceContestuale(*this, "salvaPng", "Salva come P&NG...", [this] {
     salvaConNome(*this, QStringLiteral("Salva come PNG"), accessibleName(), QStringLiteral("png"),
                  [this](const QString& file) { return salvaOttetti(file, png()); });
   });
-  voceContestuale(*this, "salvaPdf", "Salva come PDF...", [this] {
+  voceContestuale(*this, "salvaPdf", "Salva come P&DF...", [this] {
     salvaConNome(*this, QStringLiteral("Salva come PDF"), accessibleName(), QStringLiteral("pdf"),
                  [this](const QString& file) { return salvaOttetti(file, pdf()); });
   });

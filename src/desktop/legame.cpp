@@ -148,12 +148,15 @@ xpcmdbutton* Legame::pulsante(Pulsante& modello, const QString& nome) {
     widget->setVisible(modello.Visible());
   });
   connect(widget, &xpcmdbutton::Click, this, [this, &modello] { premuto(modello); });
-  if (!modello.tasto.empty()) {
-    auto* tasto = new QShortcut(QKeySequence(testo(modello.tasto)), vista_);
-    tasto->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(tasto, &QShortcut::activated, widget, [widget] { widget->click(); });
-  }
+  dalTasto(modello, widget);
   return widget;
+}
+
+void Legame::dalTasto(const Pulsante& modello, QAbstractButton* widget) {
+  if (modello.tasto.empty()) return;
+  auto* tasto = new QShortcut(QKeySequence(testo(modello.tasto)), vista_);
+  tasto->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(tasto, &QShortcut::activated, widget, [widget] { widget->click(); });
 }
 
 QToolButton* Legame::pulsanteBreve(Pulsante& modello, const QString& nome) {
@@ -178,6 +181,7 @@ QToolButton* Legame::pulsanteConImmagine(Pulsante& modello, const QString& nome,
     widget->setEnabled(modello.Enabled());
   });
   connect(widget, &QToolButton::clicked, this, [this, &modello] { premuto(modello); });
+  dalTasto(modello, widget);
   return widget;
 }
 

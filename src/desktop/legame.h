@@ -11,6 +11,7 @@
 #include "forms/controlli.h"
 #include "forms/finestra.h"
 
+class QAbstractButton;
 class QGroupBox;
 class QLabel;
 class QPlainTextEdit;
@@ -66,6 +67,7 @@ class Legame : public QObject {
   template <class Widget>
   Widget* chiamato(Widget* widget, const QString& nome);
   void premuto(Pulsante& modello);
+  void dalTasto(const Pulsante& modello, QAbstractButton* widget);
   void segui(Controllo& modello, std::function<void()> disegna);
 
   QWidget* vista_;

@@ -49,7 +49,7 @@ ProspettoVista::ProspettoVista(Prospetto& modello, const Confine& confine, QWidg
       modello_(modello),
       confine_(confine),
       righe_(new ModelloProspetto(modello, confine, this)),
-      ordini_(new QMenu(QStringLiteral("Ordina per"), this)) {
+      ordini_(new QMenu(QStringLiteral("&Ordina per"), this)) {
   {
     const QScopedValueRollback disegnando(disegnando_, true);  // what is chosen already stays so
     setModel(righe_);
@@ -80,13 +80,13 @@ ProspettoVista::ProspettoVista(Prospetto& modello, const Confine& confine, QWidg
   });
   connect(this, &QTableView::doubleClicked, this, &ProspettoVista::apri);
 
-  auto* copia = voceContestuale(*this, "copia", "Copia", [this] { this->copia(); });
+  auto* copia = voceContestuale(*this, "copia", "&Copia", [this] { this->copia(); });
   copia->setShortcut(QKeySequence::Copy);
   copia->setShortcutContext(Qt::WidgetShortcut);
   addAction(ordini_->menuAction());
-  voceContestuale(*this, "salvaCsv", "Salva come CSV...", [this] { salvaCsv(); });
-  voceContestuale(*this, "salvaPdf", "Salva come PDF...", [this] { salvaComePdf(); });
-  voceContestuale(*this, "stampa", "Stampa...", [this] { stampa(); });
+  voceContestuale(*this, "salvaCsv", "&Salva come CSV...", [this] { salvaCsv(); });
+  voceContestuale(*this, "salvaPdf", "Salva come P&DF...", [this] { salvaComePdf(); });
+  voceContestuale(*this, "stampa", "S&tampa...", [this] { stampa(); });
 }
 
 void ProspettoVista::aggiorna() {

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -21,6 +22,13 @@ QGroupBox* sceltaMetodo(Legame& legame, ControlliMetodo& metodo) {
   lista->setAccessibleName(riquadro->title());
   lista->setMinimumContentsLength(10);
   riga->addWidget(lista, 1);
+  // Its captions have no access keys: they are given.
+  auto* tasto = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_M), legame.vista());
+  tasto->setContext(Qt::WidgetWithChildrenShortcut);
+  QObject::connect(tasto, &QShortcut::activated, riquadro, [riquadro] {
+    for (auto* opzione : riquadro->findChildren<QRadioButton*>())
+      if (opzione->isChecked()) opzione->setFocus(Qt::ShortcutFocusReason);
+  });
   return riquadro;
 }
 
@@ -30,7 +38,7 @@ QGroupBox* riquadroCon(Legame& legame, Riquadro& riquadro, const QString& nome, 
   colonna->setContentsMargins(9, 5, 9, 6);
   colonna->addWidget(dentro);
   gruppo->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);  // as tall as a line
-  dentro->setAccessibleName(gruppo->title());
+  dentro->setAccessibleName(gruppo->title().remove(u'&'));
   return gruppo;
 }
 
@@ -46,7 +54,7 @@ QGroupBox* intervalloEstrazioni(Legame& legame, CampiIntervallo& campi) {
     ++n;
     etichetta->setBuddy(campo);
     campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 8);
-    campo->setAccessibleName(QStringLiteral("Estrazioni ") + etichetta->text());
+    campo->setAccessibleName(QStringLiteral("Estrazioni ") + etichetta->text().remove(u'&'));
     riga->addWidget(etichetta);
     riga->addWidget(campo);
   }

@@ -163,7 +163,7 @@ void ServiziDesktop::inDisparte(const std::function<void(const LimitiScaricament
   attesa.exec(QEventLoop::ExcludeUserInputEvents);
   if (!lavoro->isFinished()) {
     QProgressDialog box(QStringLiteral("Scaricamento in corso... Esc lo interrompe."),
-                        QStringLiteral("Interrompi"), 0, 0, padre_);
+                        QStringLiteral("&Interrompi"), 0, 0, padre_);
     box.setWindowTitle(QApplication::applicationName());
     box.setWindowModality(Qt::ApplicationModal);
     box.setMinimumDuration(0);

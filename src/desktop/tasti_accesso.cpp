@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QToolButton>
 
 #include "controls/xpcmdbutton.h"
@@ -18,7 +19,7 @@ bool TastiAccesso::eventFilter(QObject* oggetto, QEvent* evento) {
   const bool premuto = evento->type() == QEvent::KeyPress && oggetto->isWidgetType();
   if (!chiesto && !premuto) return QObject::eventFilter(oggetto, evento);
   const auto& tasto = *static_cast<QKeyEvent*>(evento);
-  const bool preso = (premuto && invio(oggetto, tasto)) ||
+  const bool preso = (premuto && (invio(oggetto, tasto) || iniziale(oggetto, tasto))) ||
                      (figliaInAttesa() && (chiude(tasto, premuto) || premi(tasto, premuto)));
   if (!preso) return QObject::eventFilter(oggetto, evento);
   evento->accept();
@@ -64,6 +65,24 @@ bool TastiAccesso::invio(QObject* oggetto, const QKeyEvent& tasto) const {
   if (!suo || (tasto.key() != Qt::Key_Return && tasto.key() != Qt::Key_Enter)) return false;
   if (pulsante->window() != area_->window() || !pulsante->isEnabled()) return false;
   if (!tasto.isAutoRepeat()) pulsante->click();
+  return true;
+}
+
+bool TastiAccesso::iniziale(QObject* oggetto, const QKeyEvent& tasto) {
+  auto* menu = qobject_cast<QMenu*>(oggetto);
+  const auto lettera = tasto.text().toUpper();
+  if (menu == nullptr || lettera.size() != 1 || !lettera[0].isLetterOrNumber()) return false;
+  QList<QAction*> sue;
+  for (auto* voce : menu->actions()) {
+    if (!voce->isVisible() || !voce->isEnabled()) continue;
+    const auto accesso = QKeySequence::mnemonic(voce->text());
+    if (accesso == QKeySequence(Qt::ALT | static_cast<Qt::Key>(lettera[0].unicode()))) return false;
+    if (accesso.isEmpty() && voce->text().startsWith(lettera, Qt::CaseInsensitive)) sue << voce;
+  }
+  if (sue.isEmpty()) return false;
+  menu->setActiveAction(sue[(sue.indexOf(menu->activeAction()) + 1) % sue.size()]);
+  QKeyEvent scelta(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  if (sue.size() == 1) QApplication::sendEvent(menu, &scelta);
   return true;
 }
 

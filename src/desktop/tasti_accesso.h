@@ -10,7 +10,7 @@ namespace vaticlo {
 /// Access keys of the active child window come before those of the menu bar: in a draw window Alt+S is
 /// "&Salva", not "&Statistica". Where buttons share a letter it leads the focus from one to the next and
 /// presses none. Enter presses the button that has the focus. Ctrl+F4 and Ctrl+W close the active child
-/// window.
+/// window. In a menu an entry without an access key answers to its first letter.
 class TastiAccesso : public QObject {
  public:
   explicit TastiAccesso(QMdiArea* area);
@@ -25,6 +25,7 @@ class TastiAccesso : public QObject {
   [[nodiscard]] bool chiude(const QKeyEvent& tasto, bool davvero) const;
   [[nodiscard]] bool premi(const QKeyEvent& tasto, bool davvero) const;
   [[nodiscard]] bool invio(QObject* oggetto, const QKeyEvent& tasto) const;
+  [[nodiscard]] static bool iniziale(QObject* oggetto, const QKeyEvent& tasto);
 
   QMdiArea* area_;
 };

@@ -28,7 +28,7 @@ QWidget* prove(Legame& legame, frmCaso& frm) {
     auto* widget = legame.campo(testo, nome);
     etichetta->setBuddy(widget);
     widget->setFixedWidth(widget->fontMetrics().horizontalAdvance(QStringLiteral("0000000000")) + 8);
-    widget->setAccessibleName(etichetta->text());
+    widget->setAccessibleName(etichetta->text().remove(u'&'));
     riga->addWidget(etichetta);
     riga->addWidget(widget);
   };

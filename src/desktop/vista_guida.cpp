@@ -58,7 +58,7 @@ VistaGuida::VistaGuida(const std::filesystem::path& pagina, QWidget* padre)
 
   auto* indietro = new QToolButton;
   indietro->setObjectName(QStringLiteral("guidaIndietro"));
-  indietro->setText(QStringLiteral("Indietro"));
+  indietro->setText(QStringLiteral("&Indietro"));
   indietro->setToolTip(QStringLiteral("Torna dove si era (Alt+Sinistra)"));
   indietro->setEnabled(false);
   connect(indietro, &QToolButton::clicked, testo_, &QTextBrowser::backward);

@@ -84,7 +84,14 @@ void VistaInizio::mostra(const PaginaIniziale& pagina) {
   colonna->addLayout(pulsanti);
   colonna->addStretch(1);
   setWidget(foglio);
+  tastiAccesso(conTasti_);
   if (auto* ancora = nomeConFuoco.isEmpty() ? nullptr : findChild<QWidget*>(nomeConFuoco)) ancora->setFocus();
+}
+
+void VistaInizio::tastiAccesso(bool accesi) {
+  conTasti_ = accesi;
+  for (auto* bottone : findChildren<QPushButton*>())
+    bottone->setShortcut(accesi ? QKeySequence::mnemonic(bottone->text()) : QKeySequence());
 }
 
 QWidget* VistaInizio::pulsante(const PulsanteIniziale& pulsante) {

@@ -16,6 +16,8 @@ class VistaInizio : public QScrollArea {
   VistaInizio(QWidget* area, frmPrincipale& principale, const Confine& confine);
 
   void mostra(const PaginaIniziale& pagina);
+  /// Whether its buttons answer to their access keys: only while no child window covers them.
+  void tastiAccesso(bool accesi);
 
  protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
@@ -25,6 +27,7 @@ class VistaInizio : public QScrollArea {
 
   frmPrincipale& principale_;
   const Confine& confine_;
+  bool conTasti_ = true;
 };
 
 }  // namespace vaticlo

@@ -39,7 +39,7 @@ QWidget* calcolo(Legame& legame, frmInsPrev& frm) {
   auto* vai = legame.campo(frm.txtVai, QStringLiteral("txtVai"));
   vai->setFixedWidth(vai->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000__")));
   vai->setToolTip(QStringLiteral("Scrivete il numero o la data di un'estrazione e premete Invio"));
-  auto* etichettaVai = new QLabel(QStringLiteral("Vai a:"), gruppo);
+  auto* etichettaVai = new QLabel(QStringLiteral("Va&i a:"), gruppo);
   etichettaVai->setBuddy(vai);
   testa->addWidget(etichettaVai);
   testa->addWidget(vai);

@@ -142,6 +142,8 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
     if (mostrando_) return;  // the logic says itself what it has opened or brought up
     if (const auto finestra = finestraDi(attivata)) confine_.esegui([&] { principale_.attivata(*finestra); });
   });
+  connect(area_, &QMdiArea::subWindowActivated, this,
+          [this] { inizio_->tastiAccesso(area_->subWindowList().isEmpty()); });
   new TastiAccesso(area_);
   principale_.disegnataDa(this);
   QTimer::singleShot(0, this, [this] { aggiornaInizio(); });  // the window is there at once
@@ -172,7 +174,7 @@ void VistaPrincipaleQt::creaScorciatoie() {
       if (pulsante->isVisible() && pulsante->isEnabled() && pulsante->text().contains(caption))
         pulsante->click();
   };
-  tasto(QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
+  addAction(findChild<QAction*>(QStringLiteral("mnu1Esci")));  // its key works while the menu is off, too
   tasto(QKeySequence::Print, [premi] { premi(QStringLiteral("btnStampa"), {}); });
   tasto(QKeySequence(Qt::Key_F5), [this, premi] {
     aggiornaInizio();

@@ -26,7 +26,7 @@ QLayout* intervallo(Legame& legame, frmQuadro& frm) {
     auto* etichetta = legame.etichetta(titolo, nomeTitolo);
     auto* widget = legame.campo(campo, nome);
     widget->setFixedWidth(widget->fontMetrics().horizontalAdvance(QStringLiteral("28/02/20260")) + 12);
-    widget->setAccessibleName(etichetta->text() + QStringLiteral(" (numero o data)"));
+    widget->setAccessibleName(etichetta->text().remove(u'&') + QStringLiteral(" (numero o data)"));
     etichetta->setBuddy(widget);
     riga->addWidget(etichetta);
     riga->addWidget(widget);

@@ -17,7 +17,7 @@ class CampiIntervallo {
   explicit CampiIntervallo(Programma& programma);
 
   Riquadro Frame1{"Estrazioni"};
-  Etichetta lblDal{"Dalla n."}, lblAl{"alla n."};
+  Etichetta lblDal{"&Dalla n."}, lblAl{"a&lla n."};
   std::array<CampoTesto, 2> txtestr;  ///< the numbers of the first and the last draw
   Etichetta lblDate;                  ///< the dates of the range, or between which numbers it lies
   std::function<void()> Change;       ///< the user has typed

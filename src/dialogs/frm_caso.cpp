@@ -16,8 +16,8 @@ namespace {
 
 constexpr std::chrono::milliseconds kRespiro{20};  // between two turns of the pending events
 constexpr int kSemeMassimo = 999'999'999;
-constexpr std::array<const char*, kFigureCaso.size()> kNomiFigure = {"Quante vincenti", "A quale colpo",
-                                                                     "Nel tempo"};
+constexpr std::array<const char*, kFigureCaso.size()> kNomiFigure = {"Quante vincen&ti", "A quale c&olpo",
+                                                                     "&Nel tempo"};
 
 /// Whatever ends a piece of work ends its runs too.
 class Fermata {

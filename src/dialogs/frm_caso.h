@@ -42,7 +42,7 @@ class frmCaso : public Finestra {
   ControlliMetodo metodo;
   CampiIntervallo estrazioni;
   Riquadro Frame3{"Prove a caso"};
-  Etichetta lblProve{"Quante"}, lblSeme{"Seme"};
+  Etichetta lblProve{"&Quante"}, lblSeme{"Se&me"};
   CampoTesto txtprove, txtseme;
   Avanzamento prgbar;
   Etichetta lblRimasto;

@@ -17,7 +17,7 @@ class frmGestioneMetodi : public Finestra {
   void btnElimina_Click();
   void btnEsci_Click();
 
-  Riquadro Frame1{"Seleziona Metodo"}, Frame2{"Nuovo nome"};
+  Riquadro Frame1{"Seleziona &Metodo"}, Frame2{"&Nuovo nome"};
   Elenco cmbMetodo;
   CampoTesto txtNome;
   Pulsante btnRinomina{"&Rinomina", "Cambia il nome del metodo"};

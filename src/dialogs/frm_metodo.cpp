@@ -42,6 +42,7 @@ frmMetodo::frmMetodo(Programma& programma, Cornice& cornice)
   estrazione.VScroll1.Change = [this] { VScroll1_Change(); };
   btnTrova.Click = [this] { btnTrova_Click(); };
   btnPrecedente.Click = [this] { btnPrecedente_Click(); };
+  btnTrova.tasto = kTastoCerca;
   btnPrecedente.tasto = "Ctrl+PgUp";
   btnSeguente.Click = [this] { btnSeguente_Click(); };
   btnSeguente.tasto = "Ctrl+PgDown";

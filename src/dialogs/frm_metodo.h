@@ -39,8 +39,8 @@ class frmMetodo : public Finestra {
   CampoTesto txtgiocabili, txtvincenti, txtingioco;
   AreaTesto RichTextBox1;
   Etichetta lblNota;  ///< what there is to say of the draw shown beside its report
-  Pulsante btnPrecedente{"◂ Previsioni prima", "L'estrazione precedente con previsioni (Ctrl+Pag su)"};
-  Pulsante btnSeguente{"Previsioni dopo ▸", "L'estrazione seguente con previsioni (Ctrl+Pag giù)"};
+  Pulsante btnPrecedente{"◂ &Previsioni prima", "L'estrazione precedente con previsioni (Ctrl+Pag su)"};
+  Pulsante btnSeguente{"Previsioni &dopo ▸", "L'estrazione seguente con previsioni (Ctrl+Pag giù)"};
   Pulsante btnTrova{"Cerca Estrazione", "Cerca Estrazione di gioco"};
   Pulsante btnStampa{"Stampa", "Stampa Previsione"};
   Pulsante btnAnnulla{"Esci", "Chiudi la finestra"};

@@ -13,6 +13,7 @@ frmModifica::frmModifica(Programma& programma, Cornice& cornice) : Finestra(corn
   btnSalva.Click = [this] { btnSalva_Click(); };
   btnCancella.Click = [this] { btnCancella_Click(); };
   btnTrova.Click = [this] { btnTrova_Click(); };
+  btnTrova.tasto = kTastoCerca;
   btnAnnulla.Click = [this] { btnAnnulla_Click(); };
 }
 

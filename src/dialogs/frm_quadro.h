@@ -45,7 +45,7 @@ class frmQuadro : public Finestra {
   void btnAnnulla_Click();
   void btnEsci_Click();
 
-  Etichetta Label1{"Estrazioni dalla n°"}, Label2{"alla n°"}, lblDal, lblAl;
+  Etichetta Label1{"Estrazioni da&lla n°"}, Label2{"alla &n°"}, lblDal, lblAl;
   CampoTesto txtDal, txtAl, txtFiltro;
   Pulsante btnArchivio{"T&utto l'archivio", "Giudica le previsioni di tutte le estrazioni"};
   Prospetto metodi, previsioni{Prospetto::Scelta::Diverse};

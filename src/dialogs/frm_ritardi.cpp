@@ -7,9 +7,9 @@ namespace vaticlo {
 namespace {
 
 constexpr std::array kSorti = {Sorte::Numeri, Sorte::Ambi};
-constexpr std::array<const char*, 2> kNomiSorti = {"Numeri", "Ambi"};
-constexpr std::array<const char*, kMisureRitardi.size()> kNomiMisure = {"Ritardo", "Ritardo massimo",
-                                                                        "Frequenza"};
+constexpr std::array<const char*, 2> kNomiSorti = {"&Numeri", "Am&bi"};
+constexpr std::array<const char*, kMisureRitardi.size()> kNomiMisure = {"Ri&tardo", "Ritardo &massimo",
+                                                                        "&Frequenza"};
 
 }  // namespace
 

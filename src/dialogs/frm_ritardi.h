@@ -29,7 +29,7 @@ class frmRitardi : public Finestra {
   void optMisura_Click(MisuraRitardi misura);
   void btnCancella_Click() { cornice().chiudi(*this); }
 
-  Riquadro Frame2{"Ruota"};
+  Riquadro Frame2{"&Ruota"};
   Elenco cmbRuota;  ///< the wheels and "Tutte", their codes as item data
   Riquadro Frame3{"Che cosa"};
   std::array<Opzione, 2> optSorte;  ///< numbers, pairs

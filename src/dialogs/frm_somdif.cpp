@@ -17,6 +17,7 @@ frmSomdif::frmSomdif(Programma& programma, Cornice& cornice) : Finestra(cornice)
   optdistmat.Click = [this] { opzione_Click(TipoSomDif::Matematica); };
   optsommat.Click = [this] { opzione_Click(TipoSomDif::Somma); };
   btnTrova.Click = [this] { btnTrova_Click(); };
+  btnTrova.tasto = kTastoCerca;
   btnAnnulla.Click = [this] { btnAnnulla_Click(); };
 }
 

@@ -68,14 +68,14 @@ void dimostrazione(frmPrincipale& principale) {
   principale.archivioNuovo();
 }
 
-// Their letters are those of the menu bar, so they have no access keys.
+// None of their letters is one of the menu bar.
 constexpr std::array kPulsanti = {
-    PulsanteIniziale{"inizioAggiungi", "Aggiungi Estrazioni...",
+    PulsanteIniziale{"inizioAggiungi", "Aggiungi &Estrazioni...",
                      [](frmPrincipale& p) { p.comando("mnu1Aggiungi"); }},
-    PulsanteIniziale{"inizioImporta", "Importa Estrazioni da File...",
+    PulsanteIniziale{"inizioImporta", "&Importa Estrazioni da File...",
                      [](frmPrincipale& p) { p.comando("mnu1Importa"); }},
-    PulsanteIniziale{"inizioDimostrazione", "Prova con dati inventati", dimostrazione, true},
-    PulsanteIniziale{"inizioGuida", "Guida", [](frmPrincipale& p) { p.apriGuida(); }},
+    PulsanteIniziale{"inizioDimostrazione", "&Prova con dati inventati", dimostrazione, true},
+    PulsanteIniziale{"inizioGuida", "Gui&da", [](frmPrincipale& p) { p.apriGuida(); }},
 };
 
 }  // namespace

@@ -1,8 +1,12 @@
 #include <QAction>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
 
+#include "dialogs/frm_principale_tavole.h"
 #include "gui/finestra_prova.h"
 
 using namespace vaticlo;
@@ -78,7 +82,7 @@ class FiglieGuiTest : public QObject {
         << editor + "|Frame10=Seleziona Previsione|btnElimina=&Elimina/Elimina la previsione";
     QTest::newRow("mnuGestione12")
         << QRect(233, 60, 360, 220)
-        << "Frame1=Seleziona Metodo|Frame2=Nuovo nome|btnRinomina=&Rinomina/Cambia il nome del metodo|"
+        << "Frame1=Seleziona &Metodo|Frame2=&Nuovo nome|btnRinomina=&Rinomina/Cambia il nome del metodo|"
            "btnElimina=E&limina/Elimina il metodo con le sue previsioni|btnEsci=&Esci/Chiudi la finestra";
     QTest::newRow("mnuUtility1") << QRect(200, 66, 509, 475) << lista;
     QTest::newRow("mnuUtility2") << QRect(200, 66, 509, 475)
@@ -160,6 +164,63 @@ class FiglieGuiTest : public QObject {
     v.premi(Qt::Key_G, Qt::AltModifier);
     for (const auto tasto : {Qt::Key_P, Qt::Key_M}) v.premi(tasto);
     QCOMPARE(v.aperte(), QStringList("Modifica Previsione"));
+    v.premi(Qt::Key_U, Qt::AltModifier);
+    v.premi(Qt::Key_V);  // the only entry that begins with it
+    QCOMPARE(v.aperte(), QStringList("Vincenti alle ultime Estrazioni"));
+    v.premi(Qt::Key_M, Qt::ControlModifier);
+    QCOMPARE(v.fuoco(), QString("optSelMetodo_0"));
+  }
+
+  void everyEntryAndButtonHasAnAccessKeyOfItsOwn() {
+    PrincipaleProva v;
+    archivioDi(3).scrivi(v.p);
+    // Given captions are reached by their first letter (menus), Ctrl+M, Ctrl+P, F3, Esc, or walked through.
+    const QSet<QString> dati{"Previsioni in Gioco", "Vincenti alle Ultime Estrazioni", "Tutti", "Scegli",
+                             "Stampa", "Cerca Estrazione", "Esci", "Estrazione del",
+                             "Data inizio ricerca:", "Data fine ricerca:", "Distanza Ciclometrica",
+                             "Distanza Matematica", "Somma Matematica",
+                             // and where two of them have the same one
+                             "Modifica Estrazione: Alt+S", "Statistica: Alt+E", "Modifica Previsione: Alt+E"};
+    QStringList sbagli;
+    const auto guarda = [&](const QString& dove, const QStringList& captions) {
+      QSet<QString> presi;
+      for (const auto& caption : captions) {
+        const auto tasto = QKeySequence::mnemonic(caption).toString();
+        const auto detto = tasto.isEmpty() ? caption : dove + ": " + tasto;
+        if ((tasto.isEmpty() || presi.contains(tasto)) && !dati.contains(detto)) sbagli << detto;
+        presi << tasto;
+      }
+    };
+    const auto voci = [](const QWidget& menu) {
+      QStringList captions;
+      for (const auto* voce : menu.actions())
+        if (!voce->isSeparator()) captions << voce->text();
+      return captions;
+    };
+    auto inVista = voci(*v.finestra.menuBar());
+    for (const auto* bottone : v.finestra.findChildren<QPushButton*>()) inVista << bottone->text();
+    guarda("Vaticlo", inVista);
+    for (const auto* menu : v.finestra.menuBar()->findChildren<QMenu*>()) guarda(menu->title(), voci(*menu));
+    for (const auto& voce : tavolaMenu()) {
+      const auto nome = QString::fromUtf8(voce.nome);
+      if (voce.azione == nullptr || QStringList{"mnu1Aggiorna", "mnu1Importa", "mnu1Esci", "mnuGestione11",
+                                                "mnuUtility6", "mnuUtility7", "mnuInformazioni1"}
+                                        .contains(nome))
+        continue;
+      v.scegli(nome);
+      QStringList captions;
+      for (const auto* widget : v.figlia().widget()->findChildren<QWidget*>()) {
+        const auto testo = widget->property("text").toString(), titolo = widget->property("title").toString();
+        const auto* etichetta = qobject_cast<const QLabel*>(widget);
+        const bool pulsante = widget->inherits("QAbstractButton") && widget->focusPolicy() != Qt::NoFocus;
+        const bool sua = pulsante || (etichetta != nullptr && etichetta->buddy() != nullptr);
+        if (!widget->isVisibleTo(&v.figlia())) continue;
+        if (sua && !testo.isEmpty()) captions << testo;
+        if (titolo.contains('&')) captions << titolo;
+      }
+      guarda(v.figlia().windowTitle(), captions);
+    }
+    QVERIFY2(sbagli.isEmpty(), qPrintable(sbagli.join("\n")));
   }
 
   void tabReachesEveryControl() {
