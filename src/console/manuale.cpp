@@ -241,6 +241,12 @@ std::string testoStatiDiUscita() {
          "  130  fermato con Ctrl-C\n";
 }
 
+std::string testoJson(const Comando& comando) {
+  std::string testo;
+  for (const auto& [nome, aiuto] : comando.json) testo += "  " + nome + ": " + aiuto + "\n";
+  return testo.empty() ? testo : "L'oggetto JSON:\n" + testo;
+}
+
 std::string paginaDiManuale(const std::vector<Comando>& tavola) {
   std::string testo =
       ".TH VATICLO\\-CLI 1 \"\" \"Vaticlo " VATICLO_VERSION
@@ -259,9 +265,22 @@ std::string paginaDiManuale(const std::vector<Comando>& tavola) {
     for (const auto& parametro : comando.parametri)
       testo += ".TP\n\\f" + std::string(opzione(parametro) ? "B" : "I") + inRoff(parametro.nome) + "\\fR\n" +
                inRoff(parametro.aiuto) + ".\n";
+    for (const auto& [nome, aiuto] : comando.json)
+      testo += ".RS\n\\fB" + nome + "\\fR: " + inRoff(aiuto) + ".\n.br\n.RE\n";
     testo += ".RE\n";
   }
-  testo += ".SH \"STATO D'USCITA\"\n.nf\n";
+  testo +=
+      ".SH \"USCITE PER ALTRI PROGRAMMI\"\nCon \\fB\\-\\-json\\fR un comando scrive un solo oggetto, in "
+      "UTF\\-8, con i "
+      "nomi "
+      "che stanno sotto il comando: gli stessi in ogni versione. Quanti, colpi e percentuali sono numeri, le "
+      "date "
+      "testi "
+      "come nell'archivio. Con \\fB\\-\\-csv\\fR scrive la tabella: UTF\\-8, la prima riga con i nomi "
+      "delle colonne, punto e virgola tra i campi, virgola decimale. Un rifiuto (stato 3) resta un messaggio "
+      "al "
+      "posto dell'oggetto.\n"
+      ".SH \"STATO D'USCITA\"\n.nf\n";
   auto stati = testoStatiDiUscita();
   testo += inRoff(std::string_view(stati).substr(stati.find('\n') + 1)) + ".fi\n";
   return testo +

@@ -11,6 +11,9 @@ namespace vaticlo {
 /// What the exit status of the program means, a line each.
 [[nodiscard]] std::string testoStatiDiUscita();
 
+/// The names of the object that --json of a command writes, a line each; empty without any.
+[[nodiscard]] std::string testoJson(const Comando& comando);
+
 /// The manual page, in the language of man(7), from the table of commands.
 [[nodiscard]] std::string paginaDiManuale(const std::vector<Comando>& tavola);
 

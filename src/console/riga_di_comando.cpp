@@ -67,7 +67,7 @@ std::string cheAvanza(const CLI::App& comando, const CLI::App& app) {
   std::string motivo = "argomento di troppo o sconosciuto:", nome;
   for (const auto& parola : app.remaining(true)) {
     motivo += " " + parola;
-    if (nome.empty() && parola.starts_with("--")) nome = parola.substr(0, parola.find('='));
+    if (nome.empty() && parola.starts_with('-')) nome = parola.substr(0, parola.find('='));
   }
   return motivo + forse(nome, nomiDelleOpzioni(comando, app));
 }
@@ -152,6 +152,7 @@ RigaDiComando::RigaDiComando(Luogo luogo) : interno_(std::make_unique<Interno>()
     auto* sub = padre->add_subcommand(comando.nome.substr(spazio + 1), comando.aiuto);
     sub->get_help_ptr()->group("Opzioni");
     if (comando.fai == nullptr) sub->require_subcommand(1);
+    sub->footer(testoJson(comando));
     aggiungiParametri(*sub, comando);
     interno_->comandi[sub] = &comando;
   }

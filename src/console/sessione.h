@@ -26,6 +26,7 @@ class Sessione {
   [[nodiscard]] Programma& programma();
 
   ServiziConsole servizi;
+  bool aTerminale = false;  ///< somebody reads the standard output on a screen
 
  private:
   void controllaCartella(const Comando& comando) const;

@@ -55,6 +55,8 @@ struct Globals {
   /// Draw n is on the screen, and what is judged was calculated on it.
   void mostra(int n) { EstrazioneCorrente = EstrazioneBase = n; }
 
+  /// The predictions judged to their end without a win.
+  [[nodiscard]] int ContaNegative() const { return ContaGiocabili - (ContaVincenti + ContaInGioco); }
   [[nodiscard]] int NumeroMetodi() const { return static_cast<int>(ElencoMetodi.size()); }
 };
 

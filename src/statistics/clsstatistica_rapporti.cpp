@@ -23,7 +23,7 @@ void unaRiga(Scrivi scrivi) {
 }  // namespace
 
 void clsStatistica::scriviTotali(int inizio, int fine) {
-  const int negative = g_.ContaGiocabili - (g_.ContaVincenti + g_.ContaInGioco);
+  const int negative = g_.ContaNegative();
   const int giocate =
       g_.ContaGiocabili - g_.ContaInGioco;  // predictions in play are left out of the percentages
   const auto percentuale = [giocate](int quante) {

@@ -8,7 +8,7 @@
 #include "console/comandi/comandi.h"
 #include "console/ctrl_c.h"
 #include "console/sessione.h"
-#include "console/uscita_tabella.h"
+#include "console/uscita.h"
 #include "methods/cartella_metodi.h"
 #include "methods/catalogo.h"
 #include "platform/conversione.h"
@@ -77,9 +77,12 @@ Esito quadro(Sessione& sessione, const Argomenti& argomenti) {
   const auto elenco = metodiScelti(sessione, argomenti);
   if (!elenco) return kRifiutato;
   const auto archivio = ApriArchivio(sessione.programma().cartella);
-  const auto metodi =
-      giudicaMetodi(sessione.programma().cartella, archivio, *elenco, intervallo(argomenti, archivio));
-  stampa(tabellaDel(quadroDei(metodi, archivio)), argomenti);
+  const auto scelto = intervallo(argomenti, archivio);
+  const auto metodi = giudicaMetodi(sessione.programma().cartella, archivio, *elenco, scelto);
+  const auto tabella = tabellaDel(quadroDei(metodi, archivio));
+  stampa({.oggetto = {{"inizio", scelto.dal}, {"fine", scelto.al}, {"metodi", righe(tabella)}},
+          .tabella = tabella},
+         argomenti);
   return kFatto;
 }
 
@@ -102,9 +105,17 @@ Esito caso(Sessione& sessione, const Argomenti& argomenti) {
   });
   barra.togli();
   if (confronti.empty()) std::cerr << "Nessuna previsione conclusa in queste estrazioni.\n";
-  stampa(tabellaDei(confronti), argomenti, [&] {
-    for (const auto& uno : confronti) stampaConfronto(uno);
-  });
+  const auto tabella = tabellaDei(confronti);
+  stampa({.oggetto = {{"inizio", scelto.dal},
+                      {"fine", scelto.al},
+                      {"seme", opzioni.seme},
+                      {"confronti", righe(tabella)}},
+          .tabella = tabella,
+          .testo =
+              [&] {
+                for (const auto& uno : confronti) stampaConfronto(uno);
+              }},
+         argomenti);
   return fermata.stop_requested() ? kInterrotto : kFatto;
 }
 
@@ -112,7 +123,14 @@ Esito ritardi(Sessione& sessione, const Argomenti& argomenti) {
   const int ruota = codiceRuota(argomenti["RUOTA"]);
   const auto sorte = argomenti.seDato("--ambi") ? Sorte::Ambi : Sorte::Numeri;
   const auto archivio = ApriArchivio(sessione.programma().cartella);
-  stampa(tabellaDei(ritardiDi(archivio, ruota, sorte, intervallo(argomenti, archivio)), sorte), argomenti);
+  const auto scelto = intervallo(argomenti, archivio);
+  const auto tabella = tabellaDei(ritardiDi(archivio, ruota, sorte, scelto), sorte);
+  stampa({.oggetto = {{"ruota", SiglaRuotaTutte(ruota)},
+                      {"inizio", scelto.dal},
+                      {"fine", scelto.al},
+                      {sorte == Sorte::Ambi ? "ambi" : "numeri", righe(tabella)}},
+          .tabella = tabella},
+         argomenti);
   return kFatto;
 }
 

@@ -4,14 +4,14 @@
 
 #include "archive/importazione.h"
 #include "console/comandi/comandi.h"
+#include "console/passo_muto.h"
 #include "console/sessione.h"
-#include "console/uscita_tabella.h"
+#include "console/uscita.h"
 #include "operations/aggiornamento.h"
 #include "operations/aggiungi_estrazioni.h"
 #include "operations/copie.h"
 #include "operations/dimostrazione.h"
 #include "operations/importa_estrazioni.h"
-#include "platform/blocco.h"
 #include "platform/failure.h"
 
 namespace vaticlo::comandi {
@@ -28,12 +28,39 @@ ArchivioEstrazioni leggi(const std::string& file) {
   }
 }
 
+/// What became of the draws of a text. Refused: the text contradicts the archive, and nobody has said that
+/// they may come all the same.
+void racconta(const Aggiunta& anteprima, bool rifiutata, const Argomenti& argomenti) {
+  const int aggiunte = rifiutata ? 0 : anteprima.nuove();
+  const auto data = [&](int n) { return aggiunte > 0 ? Json(anteprima.archivio.DataEstrazione(n)) : Json(); };
+  stampa({.oggetto = {{"aggiunte", aggiunte},
+                      {"dal", data(anteprima.dal)},
+                      {"al", data(anteprima.al)},
+                      {"differenze", righe(tabellaDelle(anteprima.differenze))},
+                      {"avvertenze", anteprima.avvertenze}},
+          .testo =
+              [&] {
+                if (rifiutata)
+                  for (const auto& diversa : anteprima.differenze) std::cout << inParole(diversa) << '\n';
+                else if (aggiunte == 0)
+                  std::cout << "Nessuna estrazione nuova\n";
+                else
+                  std::cout << "Aggiunte " << riassunto(anteprima) << '\n';
+              }},
+         argomenti);
+}
+
 }  // namespace
 
 Esito importa(Sessione& sessione, const Argomenti& argomenti) {
   const auto archivio = leggi(argomenti["FILE"]);
   sostituisciArchivio(sessione.programma(), archivio);
-  std::cout << "Importate " << riassunto(archivio) << '\n';
+  const int ultima = archivio.PrimoIndiceLibero() - 1;
+  stampa({.oggetto = {{"estrazioni", ultima},
+                      {"dal", archivio.DataEstrazione(1)},
+                      {"al", archivio.DataEstrazione(ultima)}},
+          .testo = [&] { std::cout << "Importate " << riassunto(archivio) << '\n'; }},
+         argomenti);
   return kFatto;
 }
 
@@ -49,34 +76,35 @@ Esito aggiungi(Sessione& sessione, const Argomenti& argomenti) {
   auto testo = file ? std::optional(leggi(*file))
                     : estrazioniDaInternet(programma, indirizzo.value_or(indirizzoStorico()));
   if (!testo) return kRifiutato;
-  const BloccoCartella blocco(programma.cartella.radice());
+  const PassoMuto passo(programma.cartella);
   auto aggiunta = AggiuntaEstrazioni::prepara(programma, std::move(*testo));
   if (!aggiunta) return kRifiutato;
   const auto& anteprima = aggiunta->anteprima();
   for (const auto& avvertenza : anteprima.avvertenze) programma.servizi.segnala(avvertenza);
   if (!anteprima.differenze.empty() && !argomenti.seDato("--accetta-differenze")) {
-    for (const auto& differenza : anteprima.differenze) std::cout << inParole(differenza) << '\n';
+    racconta(anteprima, true, argomenti);
     programma.servizi.segnala(
         "Il testo e l'archivio non dicono le stesse cose: non è stato aggiunto nulla. Con "
         "--accetta-differenze "
         "si aggiungono le estrazioni nuove, e quelle dell'archivio restano come sono.");
     return kRifiutato;
   }
-  if (anteprima.nuove() == 0) {
-    std::cout << "Nessuna estrazione nuova\n";
-    return kFatto;
-  }
-  if (!aggiunta->scrivi()) return kRifiutato;
-  std::cout << "Aggiunte " << riassunto(anteprima) << '\n';
+  if (anteprima.nuove() > 0 && !aggiunta->scrivi()) return kRifiutato;
+  racconta(anteprima, false, argomenti);
   return kFatto;
 }
 
 Esito elencaCopie(Sessione& sessione, const Argomenti& argomenti) {
   const auto copie = elencoCopie(sessione.programma().cartella);
-  stampa(tabellaDelle(copie), argomenti, [&] {
-    for (const auto& copia : copie) std::cout << copia.nome << ": " << contenuto(copia) << '\n';
-    if (copie.empty()) std::cout << "Non ci sono copie\n";
-  });
+  const auto tabella = tabellaDelle(copie);
+  stampa({.oggetto = {{"copie", righe(tabella)}},
+          .tabella = tabella,
+          .testo =
+              [&] {
+                for (const auto& copia : copie) std::cout << copia.nome << ": " << contenuto(copia) << '\n';
+                if (copie.empty()) std::cout << "Non ci sono copie\n";
+              }},
+         argomenti);
   return kFatto;
 }
 

@@ -22,6 +22,12 @@ struct Parametro {
   int quanti = 1;                ///< how many values follow; an option without any is there or not
 };
 
+/// A name of the object that --json writes.
+struct NomeJson {
+  std::string nome;
+  std::string aiuto;
+};
+
 /// A command of the console. One whose name has two words belongs to the group that the first one names; the
 /// group itself stands in front of its commands and does nothing.
 struct Comando {
@@ -29,9 +35,10 @@ struct Comando {
   std::string aiuto;
   Esito (*fai)(Sessione& sessione, const Argomenti& argomenti) = nullptr;
   std::vector<Parametro> parametri = {};
-  bool creaCartella = false;      ///< it may begin a program folder; the others need one
-  bool scrive = false;            ///< it changes the archive or the methods
-  bool soloDalTerminale = false;  ///< no line of a file of commands
+  std::vector<NomeJson> json = {};  ///< all of its object, in their order; empty without --json
+  bool creaCartella = false;        ///< it may begin a program folder; the others need one
+  bool scrive = false;              ///< it changes the archive or the methods
+  bool soloDalTerminale = false;    ///< no line of a file of commands
 };
 
 /// All commands, in the order of the help.

@@ -6,6 +6,7 @@
 #include "console/cornice_vuota.h"
 #include "console/passo_muto.h"
 #include "console/sessione.h"
+#include "console/uscita.h"
 #include "dialogs/frm_modifica.h"
 #include "dialogs/frm_somdif.h"
 #include "operations/copie.h"
@@ -27,14 +28,58 @@ void riempi(ControlliEstrazione& controlli, const std::vector<std::string>& nume
   for (std::size_t f = 0; f < controlli.txtestr.size(); ++f) controlli.txtestr[f].Text(numeri.at(f));
 }
 
-void stampa(const ControlliEstrazione& estrazione) {
-  std::cout << "Estrazione n° " << estrazione.lblnestr.Caption() << " del "
-            << estrazione.lbldataestr.Caption() << '\n';
-  for (std::size_t ruota = 0; ruota < kTavolaRuote.size(); ++ruota) {
-    std::cout << kTavolaRuote[ruota].sigla;
-    for (std::size_t k = 0; k < 5; ++k) std::cout << ' ' << estrazione.txtestr[ruota * 5 + k].Text();
+/// The rows of a table as they were printed ever since: fields between single blanks, no heads.
+void stampaRighe(const Tabella& tabella) {
+  for (const auto& celle : tabella.righe) {
+    for (std::size_t n = 0; n < celle.size(); ++n) std::cout << (n > 0 ? " " : "") << testoCella(celle[n]);
     std::cout << '\n';
   }
+}
+
+void mostra(const ControlliEstrazione& estrazione, const Argomenti& argomenti) {
+  Tabella tabella{{{"Ruota"}, {"1°"}, {"2°"}, {"3°"}, {"4°"}, {"5°"}}, {}};
+  auto ruote = Json::object();
+  for (std::size_t ruota = 0; ruota < kTavolaRuote.size(); ++ruota) {
+    const std::string sigla(kTavolaRuote[ruota].sigla);
+    auto& riga = tabella.righe.emplace_back(1, sigla);
+    for (std::size_t k = 0; k < 5; ++k) {
+      riga.push_back(numeroOTesto(estrazione.txtestr[ruota * 5 + k].Text()));
+      ruote[sigla].push_back(valore(riga.back()));
+    }
+  }
+  const auto &numero = estrazione.lblnestr.Caption(), &data = estrazione.lbldataestr.Caption();
+  stampa({.oggetto = {{"numero", valore(numeroOTesto(numero))}, {"data", data}, {"ruote", ruote}},
+          .tabella = tabella,
+          .testo =
+              [&] {
+                std::cout << "Estrazione n° " << numero << " del " << data << '\n';
+                stampaRighe(tabella);
+              }},
+         argomenti);
+}
+
+/// The values that the window shows, those in yellow with an asterisk.
+Tabella tabellaDelle(const frmSomdif& frm) {
+  Tabella tabella{{{"Ruota"}}, {}};
+  for (const auto& coppia : kCoppiePosizioni) tabella.colonne.push_back({std::string(coppia.testa)});
+  for (std::size_t i = 0; i < kRuoteSomDif; ++i) {
+    auto& riga = tabella.righe.emplace_back(1, std::string(kTavolaRuote[i].sigla));
+    for (const auto& colonna : frm.colonne)
+      riga.emplace_back(colonna[i].Text() + (colonna[i].BackColor() == kGiallo ? "*" : ""));
+  }
+  return tabella;
+}
+
+Json ruoteDelle(const frmSomdif& frm) {
+  auto ruote = Json::object();
+  for (std::size_t i = 0; i < kRuoteSomDif; ++i) {
+    auto& ruota = ruote[std::string(kTavolaRuote[i].sigla)];
+    for (const auto& colonna : frm.colonne) {
+      ruota["valori"].push_back(valore(numeroOTesto(colonna[i].Text())));
+      ruota["gialli"].push_back(colonna[i].BackColor() == kGiallo);
+    }
+  }
+  return ruote;
 }
 
 }  // namespace
@@ -42,7 +87,7 @@ void stampa(const ControlliEstrazione& estrazione) {
 Esito estrazione(Sessione& sessione, const Argomenti& argomenti) {
   ControlliEstrazione controlli;
   gestione(sessione).Visualizza(controlli, argomenti.intero("N"));
-  stampa(controlli);
+  mostra(controlli, argomenti);
   return kFatto;
 }
 
@@ -54,7 +99,7 @@ Esito trova(Sessione& sessione, const Argomenti& argomenti) {
   frm.Form_Activate();
   sessione.servizi.preparaRisposta(testo);
   frm.btnTrova_Click();
-  if (!testo.empty() && !sessione.servizi.rifiutato()) stampa(frm.estrazione);
+  if (!testo.empty() && !sessione.servizi.rifiutato()) mostra(frm.estrazione, argomenti);
   return kFatto;
 }
 
@@ -109,12 +154,15 @@ Esito somdif(Sessione& sessione, const Argomenti& argomenti) {
   frmSomdif frm(sessione.programma(), cornice);
   sessione.programma().globals.EstrazioneSomdif = n;
   frm.opzione_Click(tipo->second);
-  for (std::size_t i = 0; i < kRuoteSomDif; ++i) {
-    std::cout << kTavolaRuote[i].sigla;
-    for (const auto& colonna : frm.colonne)
-      std::cout << ' ' << colonna[i].Text() << (colonna[i].BackColor() == kGiallo ? "*" : "");
-    std::cout << '\n';
-  }
+  const auto tabella = tabellaDelle(frm);
+  const bool teste = sessione.aTerminale || argomenti.seDato("--intestazioni");
+  stampa({.oggetto = {{"numero", n},
+                      {"data", frm.lbldataestr.Caption()},
+                      {"tipo", tipo->first},
+                      {"ruote", ruoteDelle(frm)}},
+          .tabella = tabella,
+          .testo = [&] { teste ? stampaAllineata(tabella) : stampaRighe(tabella); }},
+         argomenti);
   return kFatto;
 }
 

@@ -2,6 +2,7 @@
 
 #include "console/comandi/comandi.h"
 #include "console/sessione.h"
+#include "console/uscita.h"
 #include "methods/catalogo.h"
 #include "operations/gestione_metodi.h"
 #include "platform/testo.h"
@@ -27,8 +28,17 @@ Esito eliminaMetodo(Sessione& sessione, const Argomenti& argomenti) {
   return kFatto;
 }
 
-Esito elencoMetodi(Sessione& sessione, const Argomenti& /*argomenti*/) {
-  for (const auto& nome : CaricaElencoMetodi(sessione.programma().cartella, {})) std::cout << nome << '\n';
+Esito elencoMetodi(Sessione& sessione, const Argomenti& argomenti) {
+  const auto nomi = CaricaElencoMetodi(sessione.programma().cartella, {});
+  Tabella tabella{{{"Metodo"}}, {}};
+  for (const auto& nome : nomi) tabella.righe.push_back({nome});
+  stampa({.oggetto = {{"metodi", nomi}},
+          .tabella = tabella,
+          .testo =
+              [&] {
+                for (const auto& nome : nomi) std::cout << nome << '\n';
+              }},
+         argomenti);
   return kFatto;
 }
 

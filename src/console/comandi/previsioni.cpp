@@ -5,6 +5,7 @@
 #include "console/cornice_vuota.h"
 #include "console/passo_muto.h"
 #include "console/sessione.h"
+#include "console/uscita.h"
 #include "dialogs/frm_insprev.h"
 #include "operations/previsioni_metodo.h"
 
@@ -53,8 +54,17 @@ bool scegli(frmInsPrev& frm, int slot) {
 
 Esito elencoPrevisioni(Sessione& sessione, const Argomenti& argomenti) {
   CorniceVuota cornice;
-  if (const auto frm = apri(sessione, cornice, argomenti["METODO"]))
-    for (const auto& voce : frm->cmbPrevisione.voci()) std::cout << voce.testo << '\n';
+  const auto frm = apri(sessione, cornice, argomenti["METODO"]);
+  if (!frm) return kFatto;
+  Tabella tabella{{{"Slot", Colonna::Tipo::Numero}, {"Voce"}}, {}};
+  for (const auto& voce : frm->cmbPrevisione.voci()) tabella.righe.push_back({voce.ItemData, voce.testo});
+  stampa({.oggetto = {{"metodo", argomenti["METODO"]}, {"previsioni", righe(tabella)}},
+          .tabella = tabella,
+          .testo =
+              [&] {
+                for (const auto& voce : frm->cmbPrevisione.voci()) std::cout << voce.testo << '\n';
+              }},
+         argomenti);
   return kFatto;
 }
 
@@ -66,13 +76,24 @@ Esito mostraPrevisione(Sessione& sessione, const Argomenti& argomenti) {
   if (!scegli(*frm, argomenti.intero("SLOT")))
     throw UsoErrato("il metodo \"" + metodo + "\" non ha la previsione " + argomenti["SLOT"] +
                     "; quelle che ha: vaticlo-cli previsione elenco \"" + metodo + "\"");
-  std::cout << "Estrazione: " << frm->estrazione.lblnestr.Caption() << '\n'
-            << "Numero 899: " << frm->txtNum.Text() << '\n'
-            << "Ruote: " << frm->txtRuote.Text() << '\n'
-            << "Colpi: " << frm->cmbColpi.Text() << '\n'
-            << "Ambate: " << frm->txtAmbate.Text() << '\n'
-            << "Ambi: " << frm->txtAmbi.Text() << '\n'
-            << "Sorti: " << frm->txtSup.Text() << '\n';
+  const Tabella tabella{
+      {{"Estrazione", Colonna::Tipo::Numero},
+       {"Numero 899"},
+       {"Ruote"},
+       {"Colpi", Colonna::Tipo::Numero},
+       {"Ambate"},
+       {"Ambi"},
+       {"Sorti"}},
+      {{numeroOTesto(frm->estrazione.lblnestr.Caption()), frm->txtNum.Text(), frm->txtRuote.Text(),
+        numeroOTesto(frm->cmbColpi.Text()), frm->txtAmbate.Text(), frm->txtAmbi.Text(), frm->txtSup.Text()}}};
+  stampa({.oggetto = righe(tabella).front(),
+          .tabella = tabella,
+          .testo =
+              [&] {
+                for (std::size_t n = 0; n < tabella.colonne.size(); ++n)
+                  std::cout << tabella.colonne[n].nome << ": " << testoCella(tabella.righe[0][n]) << '\n';
+              }},
+         argomenti);
   return kFatto;
 }
 

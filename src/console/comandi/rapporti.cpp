@@ -4,6 +4,7 @@
 #include "console/comandi/comandi.h"
 #include "console/cornice_vuota.h"
 #include "console/sessione.h"
+#include "console/uscita.h"
 #include "dialogs/frm_prev.h"
 #include "dialogs/frm_vinc.h"
 
@@ -16,10 +17,17 @@ Esito cerca(Sessione& sessione, ElencoScansione& frm, const Argomenti& argomenti
   avvisaDeiMetodi(sessione.programma(), metodo);
   if (metodo) frm.metodo.scegliNome(*metodo);
   frm.Form_Load();
-  if (frm.lblPrev.Visible())
-    std::cout << frm.lblPrev.Caption() << '\n';
-  else
-    std::cout << frm.RichTextBox1.Text();
+  const bool nessuna = frm.lblPrev.Visible();
+  stampa({.oggetto = {{"previsioni", sessione.programma().globals.ContaGiocabili},
+                      {"rapporto", nessuna ? "" : frm.RichTextBox1.Text()}},
+          .testo =
+              [&] {
+                if (nessuna)
+                  std::cout << frm.lblPrev.Caption() << '\n';
+                else
+                  std::cout << frm.RichTextBox1.Text();
+              }},
+         argomenti);
   return kFatto;
 }
 

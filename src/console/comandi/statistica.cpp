@@ -6,7 +6,9 @@
 #include "console/cornice_vuota.h"
 #include "console/ctrl_c.h"
 #include "console/sessione.h"
+#include "console/uscita.h"
 #include "dialogs/frm_statistica.h"
+#include "platform/conversione.h"
 
 namespace vaticlo::comandi {
 
@@ -28,6 +30,24 @@ class StopConCtrlC {
   ServiziConsole& servizi_;
   CtrlC ctrlC_;
 };
+
+Json totali(const Globals& g, const frmStatistica& frm) {
+  return {{"inizio", inIntero16(frm.txtestr[0].Text())},
+          {"fine", inIntero16(frm.txtestr[1].Text())},
+          {"giocabili", g.ContaGiocabili},
+          {"nonGiocabili", g.ContaNonGiocabili},
+          {"vincenti", g.ContaVincenti},
+          {"negative", g.ContaNegative()},
+          {"inGioco", g.ContaInGioco},
+          {"ambate", g.AmbateVincenti},
+          {"ambiRuota", g.AmbiRuota},
+          {"ambiTutte", g.AmbiTutte},
+          {"ambiSorti", g.AmbiSorti},
+          {"terniSorti", g.TerniSorti},
+          {"quaterneSorti", g.QuaterneSorti},
+          {"cinquineSorti", g.CinquineSorti},
+          {"rapporto", frm.RichTextBox1.Text()}};
+}
 
 }  // namespace
 
@@ -57,7 +77,8 @@ Esito statistica(Sessione& sessione, const Argomenti& argomenti) {
   barra.togli();
   if (globals.StopElaborazione) return kInterrotto;
   if (sessione.servizi.rifiutato()) return kFatto;
-  std::cout << frm.RichTextBox1.Text();
+  stampa({.oggetto = totali(globals, frm), .testo = [&] { std::cout << frm.RichTextBox1.Text(); }},
+         argomenti);
   return esitoDeiRapporti(programma);
 }
 

@@ -4,6 +4,7 @@
 #include "console/comandi/avvisi.h"
 #include "console/comandi/comandi.h"
 #include "console/sessione.h"
+#include "console/uscita.h"
 #include "platform/rapporto.h"
 
 namespace vaticlo::comandi {
@@ -17,9 +18,19 @@ Esito verifica(Sessione& sessione, const Argomenti& argomenti) {
   g.EstrazioneCorrente = g.EstrazioneBase = n;
   avvisaDeiMetodi(programma, metodo);
   eseguiVerifica(programma, {{!metodo, metodo.value_or("")}, std::to_string(n)});
-  std::cout << testoRapporto(programma.cartella.file(kFileEsiti)) << "Giocabili: " << g.ContaGiocabili << '\n'
-            << "Vincenti: " << g.ContaVincenti << '\n'
-            << "In gioco: " << g.ContaInGioco << '\n';
+  const auto rapporto = testoRapporto(programma.cartella.file(kFileEsiti));
+  stampa({.oggetto = {{"estrazione", n},
+                      {"giocabili", g.ContaGiocabili},
+                      {"vincenti", g.ContaVincenti},
+                      {"inGioco", g.ContaInGioco},
+                      {"rapporto", rapporto}},
+          .testo =
+              [&] {
+                std::cout << rapporto << "Giocabili: " << g.ContaGiocabili << '\n'
+                          << "Vincenti: " << g.ContaVincenti << '\n'
+                          << "In gioco: " << g.ContaInGioco << '\n';
+              }},
+         argomenti);
   return esitoDeiRapporti(programma);
 }
 

@@ -1,34 +1,41 @@
-#include "console/uscita_tabella.h"
+#include "console/uscita.h"
 
 #include <algorithm>
+#include <cctype>
+#include <cstdint>
 #include <iostream>
 #include <span>
-
-#include <nlohmann/json.hpp>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <variant>
 
 #include "console/esito.h"
+#include "platform/conversione.h"
 #include "platform/file_intero.h"
 
 namespace vaticlo {
 
 namespace {
 
-std::string testoJson(const Tabella& tabella) {
-  auto righe = nlohmann::ordered_json::array();
-  for (const auto& celle : tabella.righe) {
-    auto& riga = righe.emplace_back(nlohmann::ordered_json::object());
-    for (std::size_t n = 0; n < celle.size(); ++n)
-      std::visit(
-          [&](const auto& valore) {
-            if constexpr (std::is_same_v<std::decay_t<decltype(valore)>, std::monostate>)
-              riga[tabella.colonne[n].nome] = nullptr;
-            else
-              riga[tabella.colonne[n].nome] = valore;
-          },
-          celle[n]);
+// "Vincenti %" as "vincentiPercento": words joined, in letters that need no quoting.
+std::string nomeJson(std::string_view colonna) {
+  std::string nome;
+  bool parolaNuova = false;
+  for (std::size_t n = 0; n < colonna.size(); ++n) {
+    const char c = colonna[n];
+    if (colonna.substr(n).starts_with("\u00E0")) {
+      nome += 'a';
+      ++n;
+    } else if (c == '%') {
+      nome += "Percento";
+    } else if (std::isalnum(static_cast<unsigned char>(c)) != 0) {
+      const auto lettera = static_cast<unsigned char>(c);
+      nome += static_cast<char>(parolaNuova ? std::toupper(lettera) : std::tolower(lettera));
+    }
+    parolaNuova = c == ' ';
   }
-  // A method's name may hold bytes that are no UTF-8.
-  return righe.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+  return nome;
 }
 
 /// Characters of a UTF-8 text, for texts without combining ones.
@@ -36,6 +43,8 @@ std::size_t larghezza(const std::string& testo) {
   return static_cast<std::size_t>(
       std::count_if(testo.begin(), testo.end(), [](char c) { return (c & '\xC0') != '\x80'; }));
 }
+
+}  // namespace
 
 void stampaAllineata(const Tabella& tabella) {
   std::vector<std::size_t> larghezze;
@@ -62,27 +71,49 @@ void stampaAllineata(const Tabella& tabella) {
         celle, [](const Cella& cella) { return testoCella(cella); }, testi);
 }
 
-}  // namespace
+Cella numeroOTesto(const std::string& testo) {
+  const auto numero = interoTra(testo, 0, INT16_MAX);
+  return numero ? Cella(*numero) : Cella(testo);
+}
 
-void stampa(const Tabella& tabella, const Argomenti& argomenti, const std::function<void()>& testo) {
+Json valore(const Cella& cella) {
+  return std::visit(
+      [](const auto& valore) -> Json {
+        if constexpr (std::is_same_v<std::decay_t<decltype(valore)>, std::monostate>)
+          return nullptr;
+        else
+          return valore;
+      },
+      cella);
+}
+
+Json righe(const Tabella& tabella) {
+  auto righe = Json::array();
+  for (const auto& celle : tabella.righe) {
+    auto& riga = righe.emplace_back(Json::object());
+    for (std::size_t n = 0; n < celle.size(); ++n) riga[nomeJson(tabella.colonne[n].nome)] = valore(celle[n]);
+  }
+  return righe;
+}
+
+void stampa(const Uscita& uscita, const Argomenti& argomenti) {
   const auto csv = argomenti.seDato("--csv");
   const bool json = argomenti.seDato("--json").has_value();
   if (json && csv == "-") throw UsoErrato("--json e --csv - scrivono nello stesso luogo: uno dei due");
   if (csv && *csv != "-") {
-    const auto ottetti = testoCsv(tabella);
+    const auto ottetti = testoCsv(uscita.tabella);
     scriviFile(*csv, std::span(reinterpret_cast<const std::uint8_t*>(ottetti.data()), ottetti.size()),
                Scrittura::Intera);
   }
   if (json)
-    std::cout << testoJson(tabella);
+    // A method's name may hold bytes that are no UTF-8.
+    std::cout << uscita.oggetto.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
   else if (csv == "-")
-    std::cout << testoCsv(tabella);
+    std::cout << testoCsv(uscita.tabella);
+  else if (uscita.testo)
+    uscita.testo();
   else
-    testo();
-}
-
-void stampa(const Tabella& tabella, const Argomenti& argomenti) {
-  stampa(tabella, argomenti, [&] { stampaAllineata(tabella); });
+    stampaAllineata(uscita.tabella);
 }
 
 }  // namespace vaticlo
