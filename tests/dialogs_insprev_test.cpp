@@ -55,6 +55,15 @@ class InsPrev : public testing::Test {
   std::unique_ptr<frmInsPrev> frm;
 };
 
+TEST_F(InsPrev, AnotherMethodsNameDropsThePredictionChosen) {
+  scriviMetodoProva(p, "Metodo 1", {kAltra});
+  apri(true).cmbPrevisione.scegli(0);
+  frm->cmbMetodo.digita("Metodo 2");
+  EXPECT_TRUE(frm->cmbPrevisione.voci().empty());
+  frm->btnElimina_Click();
+  detto("[Attenzione] Nessuna previsione selezionata!");
+}
+
 TEST_F(InsPrev, ANewPredictionTakesTheFirstSlotWithoutHundreds) {
   scriviMetodoProva(p, "Metodo 1", {kAltra, {57, {89, 9}, {1, 2}, 5, {1, 2, 3}, {4, 5, 99}}});
   apri(false).btnElabora_Click();

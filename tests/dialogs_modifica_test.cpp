@@ -145,6 +145,7 @@ TEST_F(Inserisci, ADrawWithoutADateIsOfTodayAndAFullArchiveTakesNone) {
     frm.btnSalva_Click();
   }
   EXPECT_EQ(ApriArchivio(p.cartella()).DataEstrazione(1), "14/3/2026");
+  EXPECT_THAT(p.servizi.fatti, testing::ElementsAre("Estrazione 1 salvata"));
   archivioDi(15000).scrivi(p);
   EXPECT_EQ(failureDi([&] { return frm.btnSalva_Click(), 0; }), 9);
 }

@@ -1,9 +1,13 @@
+#include "dialogs/avvisi.h"
 #include "dialogs/frm_inserisci.h"
 #include "dialogs/frm_insprev.h"
 #include "dialogs/frm_metodo.h"
 #include "dialogs/frm_modifica.h"
 #include "dialogs/frm_principale.h"
+#include "dialogs/frm_somdif.h"
 #include "dialogs/frm_statistica.h"
+#include "platform/blocco.h"
+#include "platform/presenza.h"
 #include "sostegno/logica.h"
 
 namespace vaticlo::prova {
@@ -44,6 +48,31 @@ TEST_F(Principale, TwentyDropDownKeysChooseAMethodAndAWindowAndNoOthersDo) {
     EXPECT_EQ(aperte(), "Inserimento Estrazioni|") << chiave;
     EXPECT_EQ(p.globals().MetodoScelto, 10) << chiave;
   }
+}
+
+TEST_F(Principale, WarnsAsLongAsThereIsACause) {
+  archivioDi(3).scrivi(p);
+  const Presenza questa(p.radice);
+  const auto detti = [&] {
+    std::string testi;
+    for (const auto& avviso : avvisi(principale, questa)) testi += avviso.testo.substr(0, 14) + "|";
+    return testi;
+  };
+  EXPECT_EQ(detti(), "");
+  principale.Toolbar1_ButtonClick("Sirvan1");
+  EXPECT_EQ(detti(), "Dalla barra la|");
+  principale.comando("mnu1metodo1");
+  EXPECT_EQ(detti(), "");
+  principale.Toolbar1_ButtonMenuClick("NumStat2");
+  {
+    const Presenza altra(p.radice / ".");
+    EXPECT_EQ(detti(), "Dalla barra la|Un'altra copia|");
+    EXPECT_NO_THROW(BloccoCartella(p.radice, std::chrono::milliseconds(0)));
+  }
+  EXPECT_EQ(detti(), "Dalla barra la|");
+  principale.chiudiTutte();
+  EXPECT_EQ(detti(), "");
+  EXPECT_FALSE(Presenza(p.radice / "manca").altre());
 }
 
 TEST_F(Principale, TheAboutWindowClosesTheOthersWhicheverWayItIsAskedFor) {
@@ -94,6 +123,14 @@ TEST_F(Principale, WithANewArchiveDrawWindowsCloseAndTheOthersTakeItsLastDraw) {
   EXPECT_EQ(vaticla.estrazione.lblnestr.Caption(), "4");
   vaticla.estrazione.VScroll1.Value(3);
   EXPECT_EQ(vaticla.txtingioco.Text() + vaticla.txtvincenti.Text(), "01");
+  vaticla.estrazione.VScroll1.Value(5);
+  principale.comando("mnuUtility3");
+  archivioDi(4).scrivi(p);
+  principale.archivioNuovo();  // as many draws as before
+  EXPECT_EQ(vaticla.estrazione.lblnestr.Caption(), "4");
+  EXPECT_EQ(vaticla.lblNota.Caption(), "Nessuna previsione su questa estrazione");
+  auto& somdif = *principale.aperta<frmSomdif>();
+  EXPECT_EQ(somdif.lblnestr.Caption() + " " + somdif.colonne[0][0].Text(), "4 0");
   principale.comando("mnu1metodo1");
   importa(6);
   auto& statistica = *principale.aperta<frmStatistica>();

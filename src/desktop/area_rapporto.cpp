@@ -53,7 +53,6 @@ AreaRapporto::AreaRapporto(AreaTesto& modello, QWidget* padre)
       ricerca_(new QLineEdit(this)) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  setTabChangesFocus(true);
   setUndoRedoEnabled(false);
   setLineWrapMode(QPlainTextEdit::NoWrap);
 

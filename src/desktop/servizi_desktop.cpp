@@ -67,6 +67,7 @@ Risposta ServiziDesktop::mostra(const Messaggio& messaggio) {
   }
   box.setStandardButtons(QMessageBox::Ok);
   box.exec();
+  if (messaggio.genere == Genere::Notizia) fatto(messaggio.testo.substr(0, messaggio.testo.find('\n')));
   return Risposta::Ok;
 }
 
@@ -127,11 +128,13 @@ void ServiziDesktop::stampa(const std::string& testo) {
     suggerisci(
         QStringLiteral("Non c'è una stampante predefinita: non è stato stampato nulla.\n"
                        "Con il tasto destro sul testo: \"Salva come PDF...\" o \"Salva come testo...\"."));
+    fatto("Nessuna stampante: niente è stato stampato");
     return;
   }
   QPrinter stampante(predefinita, QPrinter::HighResolution);
   stampante.setDocName(QStringLiteral("Vaticlo"));
   stampaSu(stampante, qt(testo));
+  fatto("Mandato alla stampante " + predefinita.printerName().toStdString());
 }
 
 bool ServiziDesktop::scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) {
@@ -186,8 +189,19 @@ void ServiziDesktop::inDisparte(const std::function<void(const LimitiScaricament
 }
 
 void ServiziDesktop::segnala(const std::string& testo) {
+  avviso_ = qt(testo);
   if (auto* finestra = qobject_cast<QMainWindow*>(padre_))
-    finestra->statusBar()->showMessage(qt(testo), kDurataAvviso);
+    finestra->statusBar()->showMessage(avviso_, kDurataAvviso);
+}
+
+// What was said in passing while it was done stays to be read.
+void ServiziDesktop::fatto(const std::string& testo) {
+  auto* finestra = qobject_cast<QMainWindow*>(padre_);
+  if (finestra == nullptr) return;
+  auto* barra = finestra->statusBar();
+  const bool insieme = !avviso_.isEmpty() && barra->currentMessage() == avviso_;
+  barra->showMessage(insieme ? qt(testo) + QStringLiteral(" · ") + avviso_ : qt(testo));
+  avviso_.clear();
 }
 
 void ServiziDesktop::apriPagina(const std::string& indirizzo) {

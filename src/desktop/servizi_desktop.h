@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <functional>
 #include <memory>
 
@@ -28,6 +29,7 @@ class ServiziDesktop : public Servizi {
   bool scarica(const std::string& indirizzo, const std::filesystem::path& destinazione) override;
   Scaricato preleva(const std::string& indirizzo, std::int64_t seModificatoDopo) override;
   void segnala(const std::string& testo) override;
+  void fatto(const std::string& testo) override;
   void apriPagina(const std::string& indirizzo) override;
   [[nodiscard]] std::chrono::year_month_day oggi() const override;
   void eventiInAttesa() override;
@@ -41,6 +43,7 @@ class ServiziDesktop : public Servizi {
 
   QWidget* padre_ = nullptr;
   std::unique_ptr<QProgressDialog> lavoro_;
+  QString avviso_;  ///< what was said in passing last
 };
 
 }  // namespace vaticlo

@@ -49,7 +49,6 @@ bool Validatore::ritorna(QWidget* controllo, Qt::FocusReason motivo) {
 /// The focus has come to another control. True when one that was left has taken it back.
 bool Validatore::respinge(QWidget* verso) {
   const QPointer<Validatore> vivo = this;
-  std::erase(lasciati_, attuale_);
   if (prove_.contains(attuale_)) lasciati_.push_back(attuale_);
   std::erase(lasciati_, verso);
   attuale_ = verso;

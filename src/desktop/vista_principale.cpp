@@ -25,6 +25,7 @@
 #include "desktop/vista_guida.h"
 #include "desktop/vista_inizio.h"
 #include "desktop/viste.h"
+#include "dialogs/avvisi.h"
 #include "dialogs/frm_principale_tavole.h"
 #include "dialogs/pagina_iniziale.h"
 
@@ -35,6 +36,7 @@ namespace {
 constexpr int kTwipsPerPixel = 15;
 constexpr int kLatoImmagini = 32;
 constexpr int kResto = 2;  // where the scaling is no whole number, a size comes back smaller than asked for
+constexpr int kTraSguardi = 2'000;   // milliseconds
 constexpr int kBordoInferiore = 10;  // of the window manager's frame, whose size is not known before
 
 int pixel(int twips) { return twips / kTwipsPerPixel; }
@@ -114,13 +116,15 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
       area_(new QMdiArea(this)),
       inizio_(new VistaInizio(area_->viewport(), principale, confine)),
       stato_(
-          new BarraDiStato(QString::fromStdString(principale.programma().cartella.radice().string()), this)) {
+          new BarraDiStato(QString::fromStdString(principale.programma().cartella.radice().string()), this)),
+      presenza_(principale.programma().cartella.radice()) {
   setObjectName(QStringLiteral("frmPrincipale"));
   setWindowTitle(QLatin1String(frmPrincipale::kCaption));
   setWindowIcon(immagine(QStringLiteral("vaticlo")));
   const QSize cornice(2 * style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth),
                       style()->pixelMetric(QStyle::PM_TitleBarHeight) + kBordoInferiore);
-  resize(QSize(pixel(frmPrincipale::kLarghezza), pixel(frmPrincipale::kAltezza))
+  // The status bar takes nothing of the height that there is for the rest.
+  resize(QSize(pixel(frmPrincipale::kLarghezza), pixel(frmPrincipale::kAltezza) + stato_->sizeHint().height())
              .boundedTo(screen()->availableSize() - cornice));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -147,12 +151,24 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
   new TastiAccesso(area_);
   principale_.disegnataDa(this);
   QTimer::singleShot(0, this, [this] { aggiornaInizio(); });  // the window is there at once
+  aggiornaAvvisi();
+  // Nothing tells of another program that comes or goes.
+  auto* ogniTanto = new QTimer(this);
+  connect(ogniTanto, &QTimer::timeout, this, [this] { aggiornaAvvisi(); });
+  ogniTanto->start(kTraSguardi);
   area_->setFocus();  // not the first button of the toolbar, which a second key on the splash would press
 }
 
 VistaPrincipaleQt::~VistaPrincipaleQt() {
   area_->disconnect(this);  // its signals would still come when this part of the object is gone
   principale_.disegnataDa(nullptr);
+}
+
+void VistaPrincipaleQt::aggiornaAvvisi() { stato_->avvisi(avvisi(principale_, presenza_)); }
+
+// An entry of a menu that says nothing would wipe out what the status bar says.
+bool VistaPrincipaleQt::event(QEvent* evento) {
+  return evento->type() == QEvent::StatusTip || QMainWindow::event(evento);
 }
 
 void VistaPrincipaleQt::aggiornaInizio() {
@@ -259,6 +275,7 @@ void VistaPrincipaleQt::mostra(const std::shared_ptr<Finestra>& finestra) {
   figlia->show();
   auto* primo = contenuto->findChild<QWidget*>(contenuto->property(kPrimoFuoco).toString());
   (primo != nullptr ? primo : contenuto)->setFocus(Qt::OtherFocusReason);
+  aggiornaAvvisi();
 }
 
 // The largest area for child windows that the screen has room for.
@@ -297,6 +314,7 @@ void VistaPrincipaleQt::portaSu(Finestra& finestra) {
   const QScopedValueRollback mostrando(mostrando_, true);
   if (sotto->isMinimized()) sotto->showNormal();
   area_->setActiveSubWindow(sotto);
+  aggiornaAvvisi();
 }
 
 void VistaPrincipaleQt::togli(Finestra& finestra) {
@@ -306,6 +324,7 @@ void VistaPrincipaleQt::togli(Finestra& finestra) {
   sotto->hide();
   area_->removeSubWindow(sotto);
   sotto->deleteLater();
+  aggiornaAvvisi();
 }
 
 void VistaPrincipaleQt::abilitaComandi(bool abilitati) {

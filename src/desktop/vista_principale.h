@@ -5,6 +5,7 @@
 
 #include "desktop/confine.h"
 #include "dialogs/frm_principale.h"
+#include "platform/presenza.h"
 
 class QMdiArea;
 class QMdiSubWindow;
@@ -23,6 +24,7 @@ class VistaPrincipaleQt : public QMainWindow, private VistaPrincipale {
 
  protected:
   QMenu* createPopupMenu() override { return nullptr; }  // none that could hide the toolbar
+  bool event(QEvent* evento) override;
   void closeEvent(QCloseEvent* evento) override;
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
@@ -37,6 +39,7 @@ class VistaPrincipaleQt : public QMainWindow, private VistaPrincipale {
   void creaMenu();
   void creaBarra();
   void aggiornaInizio();
+  void aggiornaAvvisi();
   void creaScorciatoie();
   [[nodiscard]] QSize massima() const;
   void faiPosto(QMdiSubWindow& figlia);
@@ -48,6 +51,7 @@ class VistaPrincipaleQt : public QMainWindow, private VistaPrincipale {
   QMdiArea* area_;
   VistaInizio* inizio_;
   BarraDiStato* stato_;
+  Presenza presenza_;
   bool mostrando_ = false;
   QPointer<QWidget> fuoco_, guida_;
 };

@@ -52,7 +52,8 @@ void frmInserisci::btnSalva_Click() {
   const auto risposta =
       programma_.servizi.mostra({"Sei sicuro di voler salvare l'estrazione", "Attenzione", Genere::Domanda});
   if (risposta != Risposta::Si) return;
-  clsGestione(programma_.cartella, programma_.servizi).salva(*this);
+  const int n = clsGestione(programma_.cartella, programma_.servizi).salva(*this);
+  programma_.servizi.fatto("Estrazione " + std::to_string(n) + " salvata");
   cornice().riapri(*this);
 }
 

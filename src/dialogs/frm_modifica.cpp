@@ -41,8 +41,9 @@ void frmModifica::btnSalva_Click() {
   const auto risposta = programma_.servizi.mostra(
       {"Sei sicuro di voler modificare l'estrazione corrente", "Attenzione", Genere::Domanda});
   if (risposta != Risposta::Si) return;
-  clsGestione(programma_.cartella, programma_.servizi)
-      .salva(estrazione, programma_.globals.EstrazioneCorrente);
+  const int n = clsGestione(programma_.cartella, programma_.servizi)
+                    .salva(estrazione, programma_.globals.EstrazioneCorrente);
+  programma_.servizi.fatto("Estrazione " + std::to_string(n) + " salvata");
 }
 
 void frmModifica::btnCancella_Click() {
@@ -51,8 +52,9 @@ void frmModifica::btnCancella_Click() {
                                  Genere::Domanda, Icona::Nessuna, Risposta::No});
   if (risposta != Risposta::Si) return;
   faiCopia(programma_, GenereCopia::Archivio);
-  clsGestione(programma_.cartella, programma_.servizi)
-      .cancella(estrazione, inIntero16(estrazione.lblnestr.Caption()));
+  const auto n = inIntero16(estrazione.lblnestr.Caption());
+  clsGestione(programma_.cartella, programma_.servizi).cancella(estrazione, n);
+  programma_.servizi.fatto("Estrazione " + std::to_string(n) + " cancellata");
   cornice().riapri(*this);
 }
 

@@ -354,7 +354,12 @@ void frmQuadro::passo(const std::string& testo, const Bersaglio& bersaglio,
     if (fatti_.size() > kPassiRicordati) fatti_.erase(fatti_.begin());
     return true;
   });
-  lblFatto.Caption(fatto ? maiuscoloInizio(testo) + "." : "");
+  racconta(fatto ? maiuscoloInizio(testo) : "");
+}
+
+void frmQuadro::racconta(const std::string& fatto) {
+  lblFatto.Caption(fatto.empty() ? "" : fatto + ".");
+  if (!fatto.empty()) programma_.servizi.fatto(fatto);
 }
 
 void frmQuadro::btnAnnulla_Click() {
@@ -362,7 +367,7 @@ void frmQuadro::btnAnnulla_Click() {
   const auto ultimo = std::move(fatti_.back());
   fatti_.pop_back();
   const bool fatto = prova([&] { return PrevisioniMetodo(programma_).annulla(ultimo.passo); });
-  lblFatto.Caption(fatto ? "Annullata la modifica: " + ultimo.testo + "." : "");
+  racconta(fatto ? "Annullata la modifica: " + ultimo.testo : "");
 }
 
 bool frmQuadro::prova(const std::function<bool()>& fai) {

@@ -91,6 +91,8 @@ class frmQuadro : public Finestra {
              const std::function<PassoPrevisioni(PrevisioniMetodo&)>& fai);
   /// Runs what may fail or be refused, tells a failure, and shows what there is now. True when it was done.
   bool prova(const std::function<bool()>& fai);
+  /// Tells what a step has done; an empty text when it has done nothing.
+  void racconta(const std::string& fatto);
   void rifiuta(const std::string& testo) const;
 
   Programma& programma_;

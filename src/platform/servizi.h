@@ -56,6 +56,9 @@ class Servizi {
   virtual Scaricato preleva(const std::string& indirizzo, std::int64_t seModificatoDopo) = 0;
   /// Says something in passing that nobody has to answer: what follows goes on all the same.
   virtual void segnala(const std::string& testo) = 0;
+  /// Says what an action that has ended well did ("Estrazione 12 salvata"), where there is a place for that.
+  /// What was shown as a notice need not be said again.
+  virtual void fatto(const std::string& /*testo*/) {}
   virtual void apriPagina(const std::string& indirizzo) = 0;
   [[nodiscard]] virtual std::chrono::year_month_day oggi() const = 0;
   /// Gives pending events their turn, those of the user among them.

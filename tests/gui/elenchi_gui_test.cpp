@@ -10,6 +10,7 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include "dialogs/frm_insprev.h"
 #include "gui/finestra_prova.h"
 
 using namespace vaticlo;
@@ -122,6 +123,32 @@ class ElenchiGuiTest : public QObject {
     v.premi(Qt::Key_Backspace);
     v.premi(Qt::Key_Down, {}, 2);
     QCOMPARE(suggerito(), QString(200, 'z'));
+  }
+
+  void whatIsTypedIsWhereAListGoesOnFrom() {
+    Elenchi v;
+    v.scegli("mnuGestione21");
+    auto& lista = v.usa<QComboBox>("cmbMetodo");
+    QTRY_COMPARE(v.fuoco(), QString("cmbMetodo"));
+    v.p.scrivi("Metodi/Quarto.dat", "");  // made while the window is open
+    v.scrivi("qu");
+    const auto* offerti = lista.findChild<QListWidget*>("suggerimenti");
+    QVERIFY(offerti && offerti->count() == 1);
+    v.premi(Qt::Key_End);
+    // What is typed over all, the arrow behind it, and the text then.
+    for (const auto& [digitato, tasto, testo] : {std::tuple{"Zeta", Qt::Key_Up, "Quarto"},
+                                                 {"Metodo 1", Qt::Key_Down, "Metodo 2"},
+                                                 {"nessuno", Qt::Key_Up, "nessuno"},
+                                                 {"nessuno", Qt::Key_Down, "Metodo 1"}}) {
+      lista.lineEdit()->selectAll();
+      v.scrivi(digitato);
+      v.premi(tasto);
+      QCOMPARE(v.testo("cmbMetodo"), QString(testo));
+    }
+    QCOMPARE(lista.lineEdit()->cursorPosition(), 8);
+    v.usa("txtNum").setFocus();
+    v.principale.aperta<frmInsPrev>()->cmbMetodo.Text("Zeta");
+    QCOMPARE(lista.lineEdit()->cursorPosition(), 0);  // a long name is read from its beginning
   }
 
   void theWheelOverTheNumbersMovesTheDrawAndTheyLookReadOnly() {

@@ -5,7 +5,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QStatusBar>
 
+#include "controls/xpcmdbutton.h"
 #include "dialogs/frm_principale_tavole.h"
 #include "gui/finestra_prova.h"
 
@@ -124,7 +127,9 @@ class FiglieGuiTest : public QObject {
     };
     const auto prima = v.finestra.size();
     v.scegli("mnuUtility1");
-    QVERIFY(dentro() && v.finestra.size() == prima && prima.height() == 600 && prima.width() <= 800);
+    v.scegli("mnu1metodo1");
+    QVERIFY(dentro() && v.finestra.size() == prima && prima.width() <= 800);
+    QCOMPARE(prima.height(), 600 + v.finestra.statusBar()->height());
     v.scegli("mnuGestione21");
     QVERIFY(dentro() || v.finestra.width() > 800);
   }
@@ -221,6 +226,28 @@ class FiglieGuiTest : public QObject {
       guarda(v.figlia().windowTitle(), captions);
     }
     QVERIFY2(sbagli.isEmpty(), qPrintable(sbagli.join("\n")));
+  }
+
+  void aKeyThatIsHeldOrDeadPressesNothing() {
+    PrincipaleProva v;
+    v.scegli("mnuGestione12");
+    auto& rinomina = v.usa("btnRinomina");
+    rinomina.setFocus();
+    for (const auto& [tasto, con] : {std::pair{Qt::Key_R, Qt::AltModifier}, {Qt::Key_Return, Qt::NoModifier}})
+      for (const bool tenuto : {true, false}) {
+        QKeyEvent premuto(QEvent::KeyPress, tasto, con, {}, tenuto);
+        QApplication::sendEvent(&rinomina, &premuto);
+        QCOMPARE(v.detti().size(), tenuto ? 0 : 1);
+      }
+    xpcmdbutton altrove("&Altrove");  // in a window of its own
+    QSignalSpy click(&altrove, &xpcmdbutton::Click);
+    QTest::keyClick(&altrove, Qt::Key_Return);
+    QCOMPARE(click.count(), 0);
+    v.scegli("mnu1metodo1");
+    v.premi(Qt::Key_V, Qt::AltModifier);  // that of a button that is off, and of an entry of the menu
+    QCOMPARE(v.aperte() << v.fuoco(), QStringList({"Statistica", "btnElabora"}));
+    v.premi(Qt::Key_W, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(v.aperte().size(), 1);
   }
 
   void tabReachesEveryControl() {

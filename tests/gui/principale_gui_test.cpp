@@ -1,5 +1,7 @@
 #include <QLabel>
 #include <QPushButton>
+#include <QStatusBar>
+#include <QStatusTipEvent>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -111,6 +113,25 @@ class PrincipaleGuiTest : public QObject {
     }
     archivioDi(3).scrivi(v.p);
     QCOMPARE(v.barra("Sirvan"), QStringList("Vaticla"));  // what failed to open has left nothing behind
+  }
+
+  void theStatusBarKeepsAWarningAndWhatWasDoneWhateverItsWidth() {
+    Principale v;
+    const auto* avviso = v.finestra.findChild<QLabel*>("statoAvviso");
+    QVERIFY(avviso->isHidden());
+    v.barra("Sirvan1");
+    const QString testo = "Dalla barra la statistica non conta nulla: apritela dal menu";
+    v.finestra.resize(1300, v.finestra.height());
+    QTRY_COMPARE(avviso->text(), testo);
+    v.finestra.statusBar()->showMessage("Estrazione 3 salvata");
+    v.finestra.resize(600, v.finestra.height());
+    QTRY_VERIFY(avviso->text() != testo && avviso->width() + 20 < v.finestra.width());
+    QVERIFY(avviso->isVisible() && avviso->accessibleName() == testo);
+    QStatusTipEvent vuoto{QString()};  // as an entry of a menu sends it
+    QApplication::sendEvent(&v.finestra, &vuoto);
+    QCOMPARE(v.finestra.statusBar()->accessibleDescription(), QString("Estrazione 3 salvata"));
+    v.scegli("mnu1metodo1");
+    QVERIFY(avviso->isHidden());
   }
 
   void theStartPageFollowsWhatHappensInTheFolder() {

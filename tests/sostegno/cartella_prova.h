@@ -36,6 +36,7 @@ class ServiziProva : public Servizi {
     return scaricaInMemoria(indirizzo, seModificatoDopo);
   }
   void segnala(const std::string& testo) override { segnalati.push_back(testo); }
+  void fatto(const std::string& testo) override { fatti.push_back(testo); }
   void apriPagina(const std::string& indirizzo) override { pagine.push_back(indirizzo); }
   [[nodiscard]] std::chrono::year_month_day oggi() const override { return giornoDiOggi; }
   void eventiInAttesa() override {
@@ -58,7 +59,7 @@ class ServiziProva : public Servizi {
   std::function<void()> allaPausa;
   std::vector<Messaggio> messaggi;
   std::vector<std::pair<std::string, std::string>> domande;
-  std::vector<std::string> stampati, scaricati, segnalati, pagine;
+  std::vector<std::string> stampati, scaricati, segnalati, fatti, pagine;
   std::vector<int> percenti;
   int pause = 0;
 };

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+#include "platform/descrittore.h"
+
+namespace vaticlo {
+
+/// Lets the programs that work on a folder know of each other: as long as one of these lives, the others see
+/// that it is there. It hinders nobody, BloccoCartella neither, makes no file, and ends with the process
+/// however that ends.
+class Presenza {
+ public:
+  explicit Presenza(const std::filesystem::path& cartella);
+
+  /// Whether there is another one on the same folder. False too where it can't be known: the folder can't be
+  /// opened, or its file system has no such locks.
+  [[nodiscard]] bool altre() const;
+
+ private:
+  std::optional<Descrittore> cartella_;
+};
+
+}  // namespace vaticlo
