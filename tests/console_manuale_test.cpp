@@ -52,6 +52,8 @@ TEST_F(Completamento, OffersCommandsOptionsAndMethods) {
   EXPECT_EQ(offerte("previsione mostra ''"), "Ambi\\ di\\ Bari|Ritardatari|");
   EXPECT_EQ(offerte("verifica 3 --metodo Rit"), "Ritardatari|");
   EXPECT_EQ(offerte("caso 1 2 --p"), "--prove|");
+  EXPECT_EQ(offerte("somdif 2 --tipo ''"), "ciclometrica|matematica|somma|");
+  EXPECT_EQ(offerte("ritardi T"), "To|Tutte|");
 }
 
 }  // namespace

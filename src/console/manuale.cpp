@@ -73,10 +73,17 @@ std::string_view ultimaParola(const Comando& comando) {
   return std::string_view(comando.nome).substr(spazio == std::string::npos ? 0 : spazio + 1);
 }
 
+std::string conSpazi(const std::vector<std::string>& parole) {
+  std::string testo;
+  for (const auto& parola : parole) testo += (testo.empty() ? "" : " ") + parola;
+  return testo;
+}
+
 /// What bash and zsh write alike: the cases of a command (its first words) for each thing that may follow.
 struct Casi {
   std::string gruppi = "''";   ///< behind which another word of the command follows
   std::string parole;          ///< sets `parole` to the commands and options
+  std::string valori;          ///< the same to the values of the option before, for a command and that option
   std::string metodi = "'?'";  ///< whose arguments name a method
   std::string file = "'?'";    ///< whose argument is a file
 };
@@ -92,8 +99,12 @@ Casi casiDi(const std::vector<Comando>& tavola) {
   for (const auto& comando : tavola) {
     if (comando.fai == nullptr) continue;
     casi.parole += "    '" + comando.nome + "') parole='";
-    for (const auto& parametro : comando.parametri)
-      if (opzione(parametro)) casi.parole += parametro.nome + " ";
+    for (const auto& parametro : comando.parametri) {
+      if (opzione(parametro) && !parametro.valori.empty())
+        casi.valori += "    '" + comando.nome + " " + parametro.nome + "') parole='" +
+                       conSpazi(parametro.valori) + "' ;;\n";
+      casi.parole += (opzione(parametro) ? parametro.nome : conSpazi(parametro.valori)) + " ";
+    }
     casi.parole += "--help' ;;\n";
     if (chiedeMetodo(comando)) casi.metodi += "|'" + comando.nome + "'";
     if (chiedeFile(comando)) casi.file += "|'" + comando.nome + "'";
@@ -121,6 +132,9 @@ _vaticlo_cli() {
   if [[ $prima == --csv ]]; then compopt -o default; return; fi
   case $comando in
 )BASH" + casi.parole +
+         R"BASH(  esac
+  case "$comando $prima" in
+)BASH" + casi.valori +
          R"BASH(  esac
   if [[ $attuale != -* && $prima != --* ]]; then
     case $comando in
@@ -164,6 +178,9 @@ _vaticlo_cli() {
   if [[ $prima == --csv ]]; then _files; return; fi
   case $comando in
 )ZSH" + casi.parole +
+         R"ZSH(  esac
+  case "$comando $prima" in
+)ZSH" + casi.valori +
          R"ZSH(  esac
   if [[ $attuale != -* && $prima != --* ]]; then
     case $comando in
@@ -219,11 +236,16 @@ std::string perFish(const std::vector<Comando>& tavola) {
             : "__fish_seen_subcommand_from " + comando.nome.substr(0, spazio) +
                   "; and __fish_seen_subcommand_from " + comando.nome.substr(spazio + 1);
     const std::string metodi = " -a '(vaticlo-cli metodo elenco 2>/dev/null)'";
-    for (const auto& parametro : comando.parametri)
+    for (const auto& parametro : comando.parametri) {
+      const auto valori =
+          parametro.valori.empty() ? std::string() : " -a " + traApici(conSpazi(parametro.valori));
+      if (!opzione(parametro) && !valori.empty())
+        testo += "complete -c vaticlo-cli -n " + traApici(quando) + valori + "\n";
       if (opzione(parametro))
         testo += "complete -c vaticlo-cli -n " + traApici(quando) + " -l " + parametro.nome.substr(2) +
-                 (parametro.quanti > 0 ? " -r" : "") + (chiedeMetodo(parametro) ? metodi : "") + " -d " +
+                 (parametro.quanti > 0 ? " -r" : "") + (chiedeMetodo(parametro) ? metodi : valori) + " -d " +
                  traApici(parametro.aiuto) + "\n";
+    }
     if (chiedeMetodo(comando)) testo += "complete -c vaticlo-cli -n " + traApici(quando) + metodi + "\n";
     if (chiedeFile(comando)) testo += "complete -c vaticlo-cli -n " + traApici(quando) + " -F\n";
   }

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QProgressDialog>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolTip>
@@ -145,9 +146,21 @@ class ServiziGuiTest : public QObject {
              QDate::currentDate());
   }
 
-  void withoutAPrinterAHintNamesTheOtherWays() {
-    const PrincipaleProva v;
-    ServiziDesktop().stampa("testo");
+  void theStatusBarSaysWhatWasDoneAndAHintHowToDoWithoutAPrinter() {
+    PrincipaleProva v;
+    ServiziDesktop servizi;
+    servizi.padre(&v.finestra);
+    const auto detto = [&] { return v.finestra.statusBar()->currentMessage(); };
+    const Qualcuno qualcuno([](QDialog& box) { box.accept(); });
+    servizi.mostra({"Importate 3 estrazioni\n\nAltro"});
+    servizi.mostra(kDomanda);
+    servizi.mostra(kRifiuto);
+    QCOMPARE(detto(), QString("Importate 3 estrazioni"));
+    servizi.segnala("Non c'è una copia");
+    servizi.fatto("Estrazione 3 cancellata");
+    QCOMPARE(detto(), QString("Estrazione 3 cancellata · Non c'è una copia"));
+    servizi.stampa("testo");
+    QCOMPARE(detto(), QString("Nessuna stampante: niente è stato stampato"));
     QTRY_VERIFY(QToolTip::text().contains("Salva come PDF"));
     QToolTip::hideText();
   }

@@ -20,6 +20,7 @@ struct Parametro {
   std::string predefinito = {};  ///< of an option; empty for none
   bool facoltativo = false;      ///< of an argument by its place
   int quanti = 1;                ///< how many values follow; an option without any is there or not
+  std::vector<std::string> valori = {};  ///< all that it may be, where these are few
 };
 
 /// A name of the object that --json writes.

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "archive/clsgestione.h"
+#include "archive/ruota.h"
 #include "console/comandi/comandi.h"
 #include "operations/aggiornamento.h"
 
@@ -41,6 +42,8 @@ std::vector<Comando> tavolaComandi() {
   const Parametro metodo{"METODO", "Nome del metodo"}, slot{"SLOT", "Numero della previsione nel metodo"};
   const Parametro soloMetodo{"--metodo", "Un solo metodo, invece di tutti", "NOME"};
   const Parametro verso{"VERSO", "Nome del metodo che la riceve"};
+  std::vector<std::string> ruote;
+  for (int codice = 1; codice <= kTutte; ++codice) ruote.emplace_back(SiglaRuotaTutte(codice));
   const Parametro dal{"--dal", "Prima estrazione (la 1 se non indicata)", "N"},
       al{"--al", "Ultima estrazione (l'ultima se non indicata)", "N"};
   const std::vector<NomeJson> unaEstrazione = {
@@ -125,7 +128,11 @@ std::vector<Comando> tavolaComandi() {
        .aiuto = "Distanze o somme dei numeri di un'estrazione",
        .fai = somdif,
        .parametri = conUscite({n,
-                               {"--tipo", "ciclometrica, matematica o somma", "TIPO", false, "ciclometrica"},
+                               {.nome = "--tipo",
+                                .aiuto = "ciclometrica, matematica o somma",
+                                .tipo = "TIPO",
+                                .predefinito = "ciclometrica",
+                                .valori = {"ciclometrica", "matematica", "somma"}},
                                {.nome = "--intestazioni",
                                 .aiuto = "In colonne con una testa, come sullo schermo",
                                 .quanti = 0}}),
@@ -282,7 +289,7 @@ std::vector<Comando> tavolaComandi() {
       {.nome = "ritardi",
        .aiuto = "Frequenze e ritardi dei numeri di una ruota",
        .fai = ritardi,
-       .parametri = conUscite({{"RUOTA", "Sigla della ruota, o Tutte"},
+       .parametri = conUscite({{.nome = "RUOTA", .aiuto = "Sigla della ruota, o Tutte", .valori = ruote},
                                {.nome = "--ambi", .aiuto = "Gli ambi al posto dei numeri", .quanti = 0},
                                dal,
                                al}),
@@ -301,7 +308,7 @@ std::vector<Comando> tavolaComandi() {
       {.nome = "completamento",
        .aiuto = "Scrive il completamento dei comandi per una shell",
        .fai = completamento,
-       .parametri = {{"GUSCIO", "bash, zsh o fish"}}},
+       .parametri = {{.nome = "GUSCIO", .aiuto = "bash, zsh o fish", .valori = {"bash", "zsh", "fish"}}}},
       {.nome = "esegui",
        .aiuto = "Esegue i comandi di un file di testo, uno per riga",
        .fai = esegui,
