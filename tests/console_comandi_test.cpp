@@ -1,13 +1,11 @@
 #include <algorithm>
+#include <future>
 #include <map>
-
-#include <fcntl.h>
-#include <sys/file.h>
 
 #include "archive/data.h"
 #include "console/comandi/comandi.h"
 #include "console/uscita.h"
-#include "platform/descrittore.h"
+#include "platform/blocco.h"
 #include "sostegno/console_prova.h"
 #include "sostegno/server_prova.h"
 
@@ -105,13 +103,14 @@ INSTANTIATE_TEST_SUITE_P(
 
 /// A standard output that looks, when it is given a text, whether another program could take the folder.
 struct UscitaCheGuarda : std::streambuf {
-  explicit UscitaCheGuarda(const std::filesystem::path& radice) : cartella(radice, O_RDONLY | O_DIRECTORY) {}
+  explicit UscitaCheGuarda(std::filesystem::path radice) : cartella(std::move(radice)) {}
   std::streamsize xsputn(const char_type* /*testo*/, std::streamsize n) override {
-    libera += ::flock(cartella.fd(), LOCK_EX | LOCK_NB) == 0 ? '1' : '0';
-    ::flock(cartella.fd(), LOCK_UN);
+    const auto prendi = [this] { return BloccoCartella(cartella, std::chrono::milliseconds(0)), 0; };
+    // As far as the system knows, another thread is another program.
+    libera += std::async(std::launch::async, [&] { return failureDi(prendi); }).get() == 0 ? '1' : '0';
     return n;
   }
-  Descrittore cartella;
+  std::filesystem::path cartella;
   std::string libera;
 };
 

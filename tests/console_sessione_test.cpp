@@ -1,10 +1,4 @@
-#include <csignal>
-#include <fstream>
 #include <iostream>
-#include <thread>
-
-#include <sys/stat.h>
-#include <sys/time.h>
 
 #include "platform/file_intero.h"
 #include "sostegno/console_prova.h"
@@ -47,7 +41,7 @@ TEST_F(Console, AFolderThatIsNotThereIsOnlyBegunByWhatFillsIt) {
     testing::internal::GetCapturedStdout();
     return stato;
   };
-  const auto nuova = (p.radice / "nuova").string();
+  const auto nuova = testoDi(p.radice / "nuova");
   EXPECT_EQ(in(nuova, {"metodo", "elenco"}), 2);
   EXPECT_THAT(errori, HasSubstr(nuova));
   EXPECT_FALSE(p.esiste("nuova"));
@@ -63,45 +57,6 @@ TEST_F(Console, WhatIsStoredIsNoErrorWhenTheStandardOutputTakesNoText) {
   std::cout.setstate(std::ios::badbit);
   EXPECT_EQ(esegui("estrazione 1"), 1);
   EXPECT_THAT(errori, StartsWith("Errore di run-time 61"));
-}
-
-TEST_F(Console, AReportThatIsNotWholeIsNamedAndItsRunGoesOn) {
-  archivioDi(110).scrivi(p);
-  scriviMetodoProva(p, "M", {{.estrazione = 101, .ruote = {1}, .colpi = 2, .ambate = {5}}});
-  for (const char* nome : {"Vincite.txt", "Esiti.txt"})
-    std::filesystem::create_symlink("/dev/full", p.radice / nome);
-  EXPECT_EQ(esegui("statistica 99 100"), 0) << "nothing to write into it";
-  EXPECT_EQ(esegui("statistica 100 102 --metodo M"), 1);
-  EXPECT_THAT(errori, HasSubstr("Vincite.txt"));
-  EXPECT_THAT(detto, HasSubstr("Previsioni Giocabili: 1\n"));
-  EXPECT_EQ(esegui("verifica 101"), 1);
-  EXPECT_THAT(errori, HasSubstr("Esiti.txt"));
-  EXPECT_THAT(detto, HasSubstr("Giocabili: 1\n"));
-  EXPECT_EQ(esegui("verifica 102"), 0) << "each run for itself";
-}
-
-TEST_F(Console, APipeIsWaitedFor) {
-  const auto pipe = p.radice / "pipe";
-  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-  std::thread scrittore([&pipe] { std::ofstream(pipe) << "2005/01/08\tBA\t1\t2\t3\t4\t5\n"; });
-  EXPECT_EQ(esegui("importa @/pipe"), 0);
-  scrittore.join();
-}
-
-TEST_F(Console, CtrlCStopsARunWithItsOwnStatus) {
-  archivioDi(14990).scrivi(p);
-  // The clock of the process presses the keys, every few milliseconds that it works: soon inside a run.
-  const auto prima = std::signal(SIGPROF, [](int) { std::raise(SIGINT); });
-  const auto diSolito = std::signal(SIGINT, SIG_IGN);
-  const itimerval presto{{0, 1000}, {0, 1000}}, mai{};
-  ::setitimer(ITIMER_PROF, &presto, nullptr);
-  int stato = 0;
-  for (int corsa = 0; stato == 0 && corsa < 500; ++corsa) stato = esegui("statistica 1 14990");
-  ::setitimer(ITIMER_PROF, &mai, nullptr);
-  std::signal(SIGINT, diSolito);
-  std::signal(SIGPROF, prima);
-  EXPECT_EQ(stato, 130);
-  EXPECT_EQ(p.contenuto("Stat.txt"), "");
 }
 
 }  // namespace

@@ -52,17 +52,17 @@ TEST_F(Metodi, AMethodIsCreatedRenamedAndDeletedAndNeverReplacesAnother) {
   EXPECT_TRUE(gestione.crea(" Mio 1.5 "));
   EXPECT_EQ(p.contenuto("Metodi/Mio 1.5.dat").size(), 12600U);
   p.scrivi("Metodi/mio.dat", "mio");
-  EXPECT_TRUE(gestione.rinomina("mio", "MIO")) << "upper and lower case alone may change";
+  EXPECT_TRUE(gestione.rinomina("mio", "tuo"));
   EXPECT_TRUE(p.servizi.messaggi.empty());
-  p.scrivi("Metodi/Mio.dat", "altro");
-  EXPECT_FALSE(gestione.rinomina("MIO", "mio 1.5"));
-  EXPECT_FALSE(gestione.rinomina("MIO", "Mio"));
+  p.scrivi("Metodi/suo.dat", "altro");
+  EXPECT_FALSE(gestione.rinomina("tuo", "mio 1.5"));
+  EXPECT_FALSE(gestione.rinomina("tuo", "Suo"));
   EXPECT_FALSE(gestione.rinomina("manca", "altro"));
   EXPECT_FALSE(gestione.elimina("manca"));
   EXPECT_EQ(p.servizi.messaggi.size(), 4U);
   EXPECT_TRUE(gestione.elimina("Mio 1.5"));
-  EXPECT_THAT(elencaFile(cartellaMetodi(p.cartella())), ElementsAre("MIO.dat", "Mio.dat"));
-  EXPECT_EQ(p.contenuto("Metodi/MIO.dat") + p.contenuto("Metodi/Mio.dat"), "mioaltro");
+  EXPECT_THAT(elencaFile(cartellaMetodi(p.cartella())), ElementsAre("suo.dat", "tuo.dat"));
+  EXPECT_EQ(p.contenuto("Metodi/tuo.dat") + p.contenuto("Metodi/suo.dat"), "mioaltro");
 }
 
 }  // namespace

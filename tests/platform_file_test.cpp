@@ -1,12 +1,6 @@
 #include <array>
-#include <csignal>
+#include <future>
 #include <thread>
-
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include "platform/blocco.h"
 #include "platform/file_intero.h"
@@ -17,16 +11,6 @@ namespace vaticlo::prova {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// A user to whom something may be refused, when the tests run as root.
-class ComeUtente {
- public:
-  ComeUtente() { EXPECT_TRUE(::geteuid() != 0 || ::seteuid(kNessuno) == 0); }
-  ~ComeUtente() { EXPECT_TRUE(::getuid() != 0 || ::seteuid(0) == 0); }
-
- private:
-  static constexpr uid_t kNessuno = 65534;
-};
 
 class Files : public testing::Test {
  protected:
@@ -54,53 +38,13 @@ TEST_F(Files, AreReadAsZerosBehindTheirEndAndKeepATailThatIsNotTheirs) {
 }
 
 TEST_F(Files, ThatAreNoPlainOnesFail) {
-  ASSERT_EQ(::mkfifo(percorso("tubo").c_str(), 0600), 0);
-  for (const auto* nome : {"Metodi", "tubo", "manca/x"}) {
+  for (const auto* nome : {"Metodi", "manca/x"}) {
     const int numero = nome == std::string("manca/x") ? 76 : 75;
     EXPECT_EQ(failureDi([&] { return leggi(nome), 0; }), numero) << nome;
     EXPECT_EQ(failureDi([&] { return scrivi(nome), 0; }), numero) << nome;
   }
   EXPECT_EQ(failureDi([&] { return contenutoFile(percorso("manca")); }), 53);
   EXPECT_EQ(failureDi([&] { return FileRapporto(percorso("manca/Stat.txt")), 0; }), 76);
-}
-
-TEST_F(Files, ThatMayNotBeWrittenAreReadAndNotReplaced) {
-  p.scrivi("chiuso", "AB");
-  p.scrivi("Metodi/aperto", "abcdefgh");
-  for (const auto& [nome, permessi] :
-       {std::pair{"", 0777}, {"chiuso", 0444}, {"Metodi/aperto", 0666}, {"Metodi", 0555}})
-    ::chmod(percorso(nome).c_str(), static_cast<mode_t>(permessi));
-  const ComeUtente utente;  // nothing is refused to root
-  leggi("chiuso");
-  EXPECT_THAT(griglia, ElementsAre('A', 'B', 0, 0, 0, 0));
-  leggi("Metodi/manca");
-  EXPECT_THAT(griglia, Each(0));
-  EXPECT_FALSE(p.esiste("Metodi/manca"));
-  EXPECT_EQ(failureDi([&] { return scrivi("chiuso"), 0; }), 75);
-  EXPECT_EQ(failureDi([&] { return scrivi("Metodi/manca"), 0; }), 75);
-  scrivi("Metodi/aperto");
-  EXPECT_EQ(p.contenuto("Metodi/aperto"), std::string(6, '\0') + "gh")
-      << "in place, where nothing fits beside";
-  scriviFile(percorso("Metodi/aperto"), griglia, Scrittura::Intera);
-  EXPECT_EQ(p.contenuto("Metodi/aperto"), std::string(6, '\0'));
-}
-
-TEST_F(Files, KeepTheirPermissionsAndTheirLinks) {
-  p.scrivi("Metodi/vero", "abcdefgh");
-  ::chmod(percorso("Metodi/vero").c_str(), 0640);
-  fs::create_symlink("vero", percorso("Metodi/altro"));
-  fs::create_symlink("Metodi/altro", percorso("dati"));
-  fs::create_symlink("Metodi/da fare", percorso("nuovo"));
-  p.scrivi("Metodi/.vero.nuovo", "what a killed program left");
-  scrivi("dati");
-  scrivi("nuovo");
-  EXPECT_TRUE(fs::is_symlink(percorso("dati")) && fs::is_symlink(percorso("nuovo")));
-  EXPECT_EQ(p.contenuto("Metodi/vero"), "123456gh");
-  EXPECT_EQ(p.contenuto("Metodi/da fare"), "123456");
-  EXPECT_EQ(static_cast<int>(fs::status(percorso("Metodi/vero")).permissions()), 0640);
-  EXPECT_FALSE(p.esiste("Metodi/.vero.nuovo"));
-  fs::create_symlink("giro", percorso("giro"));
-  EXPECT_EQ(failureDi([&] { return scrivi("giro"), 0; }), 75);
 }
 
 TEST_F(Files, NewOnesAndNewNamesCoverNothing) {
@@ -116,36 +60,30 @@ TEST_F(Files, NewOnesAndNewNamesCoverNothing) {
   EXPECT_EQ(failureDi([&] { return rinominaFile(percorso("manca"), percorso("x")), 0; }), 53);
 }
 
-// As far as the system knows, what has not the folder opened by the same descriptor is another program.
+// As far as the system knows, another thread is another program.
 TEST_F(Files, AFolderIsHeldByOneProgramAtATime) {
-  const Descrittore altro(p.radice, O_RDONLY);
-  const auto prendi = [&] { return BloccoCartella(p.radice, std::chrono::milliseconds(0)), 0; };
+  const auto altrove = [&] {
+    const auto prendi = [&] { return BloccoCartella(p.radice, std::chrono::milliseconds(0)), 0; };
+    return std::async(std::launch::async, [&] { return failureDi(prendi); }).get();
+  };
   {
     const BloccoCartella mio(p.radice), ancora(p.radice / "Metodi" / "..");
-    EXPECT_NE(::flock(altro.fd(), LOCK_EX | LOCK_NB), 0);
+    EXPECT_EQ(altrove(), 70);
     scrivi("dati");
+    EXPECT_EQ(altrove(), 70);
   }
-  ASSERT_EQ(::flock(altro.fd(), LOCK_EX | LOCK_NB), 0);
-  EXPECT_EQ(failureDi(prendi), 70);
-  std::thread dopo([&] { ::flock(altro.fd(), LOCK_UN); });
+  EXPECT_EQ(altrove(), 0);
+  std::promise<void> preso, lascia;
+  std::thread altro([&] {
+    const BloccoCartella suo(p.radice);
+    preso.set_value();
+    lascia.get_future().wait();
+  });
+  preso.get_future().wait();
+  EXPECT_EQ(altrove(), 70);
+  lascia.set_value();
   scrivi("dati");
-  dopo.join();
-  EXPECT_EQ(failureDi(prendi), 0);
-}
-
-TEST_F(Files, AreAsTheyWereWhenTheDiskIsFull) {
-  p.scrivi("dati", "oldold");
-  FileRapporto rapporto(percorso("Stat.txt"));
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit disco{};
-  ::getrlimit(RLIMIT_FSIZE, &disco);
-  const rlimit pieno{4, disco.rlim_max};  // no file can grow beyond four bytes
-  ::setrlimit(RLIMIT_FSIZE, &pieno);
-  EXPECT_EQ(failureDi([&] { return scrivi("dati"), 0; }), 61);
-  EXPECT_EQ(p.contenuto("dati"), "oldold");
-  rapporto.riga("una riga");
-  EXPECT_EQ(failureDi([&] { return rapporto.chiudi(), 0; }), 61);
-  ::setrlimit(RLIMIT_FSIZE, &disco);
+  altro.join();
 }
 
 TEST_F(Files, AReportHasItsLinesInTheCodePageEndedByCrLf) {

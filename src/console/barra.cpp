@@ -3,7 +3,7 @@
 #include <iostream>
 #include <string>
 
-#include <unistd.h>
+#include "platform/processo.h"
 
 namespace vaticlo {
 
@@ -11,7 +11,7 @@ namespace {
 constexpr int kLarghezza = 50;
 }
 
-BarraSuTerminale::BarraSuTerminale() : terminale_(::isatty(STDERR_FILENO) != 0) {}
+BarraSuTerminale::BarraSuTerminale() : terminale_(erroriSulTerminale()) {}
 
 void BarraSuTerminale::mostra(int fatto, int tutto) {
   if (!terminale_ || tutto <= 0) return;

@@ -139,6 +139,7 @@ RigaDiComando::RigaDiComando(Luogo luogo) : interno_(std::make_unique<Interno>()
   app.get_help_ptr()->group("Opzioni");
   app.group("Comandi");
   app.require_subcommand(1);
+  app.allow_windows_style_options(false);  // a word that begins with "/" is a path
   if (luogo == Luogo::Terminale) {
     app.set_version_flag("--version", "vaticlo-cli " VATICLO_VERSION, "Mostra la versione ed esce");
     app.add_option("--cartella")

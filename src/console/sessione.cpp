@@ -6,14 +6,14 @@
 #include "console/riga_di_comando.h"
 #include "methods/cartella_metodi.h"
 #include "platform/failure.h"
+#include "platform/percorso.h"
+#include "platform/processo.h"
 
 namespace vaticlo {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-fs::path cartellaEseguibile() { return fs::read_symlink("/proc/self/exe").parent_path(); }
 
 // The status of a command whose own text may not have reached the standard output. What was stored is
 // no error: somebody who reads of one would store it a second time.
@@ -32,7 +32,7 @@ Esito dopoLaStampa(const Comando& comando, Esito esito) {
 
 Programma& Sessione::programma() {
   if (!programma_) {
-    programma_.emplace(cartella_ ? fs::path(*cartella_) : cartellaEseguibile(), servizi);
+    programma_.emplace(cartella_ ? percorsoDa(*cartella_) : cartellaEseguibile(), servizi);
     // A folder that can't be made shows itself in the first file that is opened in it.
     std::error_code ignorato;
     fs::create_directories(cartellaMetodi(programma_->cartella), ignorato);
@@ -44,7 +44,7 @@ void Sessione::controllaCartella(const Comando& comando) const {
   if (!cartella_) return;
   if (cartella_->empty()) throw UsoErrato("--cartella è vuota: va indicata la cartella del programma");
   std::error_code ignorato;
-  if (!comando.creaCartella && !fs::is_directory(*cartella_, ignorato))
+  if (!comando.creaCartella && !fs::is_directory(percorsoDa(*cartella_), ignorato))
     throw UsoErrato("la cartella \"" + *cartella_ +
                     "\" non esiste; la creano importa, aggiungi, inserisci, metodo crea e dimostrazione");
 }

@@ -13,6 +13,7 @@
 #include "console/esito.h"
 #include "platform/conversione.h"
 #include "platform/file_intero.h"
+#include "platform/percorso.h"
 
 namespace vaticlo {
 
@@ -102,7 +103,8 @@ void stampa(const Uscita& uscita, const Argomenti& argomenti) {
   if (json && csv == "-") throw UsoErrato("--json e --csv - scrivono nello stesso luogo: uno dei due");
   if (csv && *csv != "-") {
     const auto ottetti = testoCsv(uscita.tabella);
-    scriviFile(*csv, std::span(reinterpret_cast<const std::uint8_t*>(ottetti.data()), ottetti.size()),
+    scriviFile(percorsoDa(*csv),
+               std::span(reinterpret_cast<const std::uint8_t*>(ottetti.data()), ottetti.size()),
                Scrittura::Intera);
   }
   if (json)

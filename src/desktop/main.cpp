@@ -1,11 +1,10 @@
 #include <QApplication>
-#include <QFile>
 #include <QSettings>
-#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
-#include <string_view>
+#include <string>
+#include <vector>
 
 #include "desktop/applicazione.h"
 #include "desktop/aspetto.h"
@@ -14,13 +13,13 @@
 #include "desktop/vista_principale.h"
 #include "desktop/vista_splash.h"
 #include "methods/cartella_metodi.h"
+#include "platform/processo.h"
 
 namespace {
 
 // What is asked of a program before there is any window: nothing of it needs a screen.
-const char* rispostaSenzaSchermo(int argc, char* argv[]) {
-  for (int n = 1; n < argc; ++n) {
-    const std::string_view parola = argv[n];
+const char* rispostaSenzaSchermo(const std::vector<std::string>& parole) {
+  for (const auto& parola : parole) {
     if (parola == "--version" || parola == "-v") return "vaticlo " VATICLO_VERSION;
     if (parola == "--help" || parola == "-h")
       return "Vaticlo: archivio, previsioni e verifiche per chi gioca al Lotto.\n\n"
@@ -44,22 +43,21 @@ void preferisciCornici() {
 
 int main(int argc, char* argv[]) {
   using namespace vaticlo;
-  if (const char* risposta = rispostaSenzaSchermo(argc, argv)) {
+  const Processo processo(argc, argv);
+  if (const char* risposta = rispostaSenzaSchermo(processo.parole())) {
     std::puts(risposta);
     return EXIT_SUCCESS;
   }
-  // A limit on the size of files shows as a write that fails, not as the end of the process.
-  std::signal(SIGXFSZ, SIG_IGN);
   preferisciCornici();
   QApplication applicazione(argc, argv);
   preparaApplicazione(applicazione);
   const Aspetto aspetto;
   // Nothing is remembered between runs: the file dialog would otherwise keep its last folders in a file of
-  // settings.
+  // settings. (Windows remembers them all the same, in its registry.)
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
 
   ServiziDesktop servizi;
-  Programma programma(QFile::encodeName(QApplication::applicationDirPath()).toStdString(), servizi);
+  Programma programma(cartellaEseguibile(), servizi);
   const Confine confine;
   frmPrincipale principale(programma);
   std::unique_ptr<VistaPrincipaleQt> finestra;

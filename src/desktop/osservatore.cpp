@@ -4,6 +4,7 @@
 
 #include "archive/archivio.h"
 #include "methods/cartella_metodi.h"
+#include "platform/percorso.h"
 
 namespace vaticlo {
 
@@ -11,7 +12,7 @@ namespace {
 
 constexpr int kAttesa = 150;  // milliseconds without a further change
 
-QString percorso(const std::filesystem::path& file) { return QString::fromStdString(file.string()); }
+QString percorso(const std::filesystem::path& file) { return QString::fromStdString(testoDi(file)); }
 
 }  // namespace
 

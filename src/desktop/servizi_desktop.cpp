@@ -24,6 +24,7 @@
 #include "desktop/carta.h"
 #include "desktop/scelta_da_elenco.h"
 #include "platform/orologio.h"
+#include "platform/percorso.h"
 #include "platform/scaricamento.h"
 
 namespace vaticlo {
@@ -105,7 +106,7 @@ std::filesystem::path ServiziDesktop::scegliFile(const std::string& titolo) {
   const auto file = QFileDialog::getOpenFileName(
       padre_, qt(titolo), QDir::homePath(),
       QStringLiteral("File delle estrazioni (*.txt *.zip *.gz);;Tutti i file (*)"));
-  return QFile::encodeName(file).toStdString();
+  return percorsoDa(file.toStdString());
 }
 
 void ServiziDesktop::avanzamento(const std::string& lavoro, int percento) {

@@ -1,7 +1,6 @@
 #include "desktop/vista_guida.h"
 
 #include <QAction>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -16,6 +15,7 @@
 
 #include "desktop/ricerca_testo.h"
 #include "dialogs/frm_principale_tavole.h"
+#include "platform/percorso.h"
 
 namespace vaticlo {
 
@@ -45,7 +45,7 @@ VistaGuida::VistaGuida(const std::filesystem::path& pagina, QWidget* padre)
   testo_->setObjectName(QStringLiteral("guidaTesto"));
   testo_->setFrameShape(QFrame::NoFrame);
   testo_->setOpenExternalLinks(true);
-  testo_->setSource(QUrl::fromLocalFile(QFile::decodeName(pagina.c_str())));
+  testo_->setSource(QUrl::fromLocalFile(QString::fromStdString(testoDi(pagina))));
   capitoli_->setObjectName(QStringLiteral("guidaCapitoli"));
   capitoli_->setAccessibleName(QStringLiteral("Capitoli"));
   capitoli_->setFrameShape(QFrame::NoFrame);

@@ -28,6 +28,7 @@
 #include "dialogs/avvisi.h"
 #include "dialogs/frm_principale_tavole.h"
 #include "dialogs/pagina_iniziale.h"
+#include "platform/percorso.h"
 
 namespace vaticlo {
 
@@ -116,7 +117,7 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
       area_(new QMdiArea(this)),
       inizio_(new VistaInizio(area_->viewport(), principale, confine)),
       stato_(
-          new BarraDiStato(QString::fromStdString(principale.programma().cartella.radice().string()), this)),
+          new BarraDiStato(QString::fromStdString(testoDi(principale.programma().cartella.radice())), this)),
       presenza_(principale.programma().cartella.radice()) {
   setObjectName(QStringLiteral("frmPrincipale"));
   setWindowTitle(QLatin1String(frmPrincipale::kCaption));

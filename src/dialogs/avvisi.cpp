@@ -2,23 +2,13 @@
 
 #include <filesystem>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include "archive/archivio.h"
 #include "dialogs/frm_principale.h"
 #include "dialogs/frm_statistica.h"
 #include "platform/presenza.h"
+#include "platform/spostamento.h"
 
 namespace vaticlo {
-
-namespace {
-
-bool siScrive(const std::filesystem::path& percorso) {
-  return ::faccessat(AT_FDCWD, percorso.c_str(), W_OK, AT_EACCESS) == 0;
-}
-
-}  // namespace
 
 std::vector<Avviso> avvisi(const frmPrincipale& principale, const Presenza& presenza) {
   const auto& programma = principale.programma();
@@ -30,11 +20,11 @@ std::vector<Avviso> avvisi(const frmPrincipale& principale, const Presenza& pres
          "previsioni. Apritela con la voce Statistica del menu."});
   const auto archivio = programma.cartella.file(kFileArchivio);
   std::error_code codice;
-  if (!siScrive(programma.cartella.radice()))
+  if (!siPuoAggiungere(programma.cartella.radice()))
     avvisi.push_back({"Nella cartella non si può scrivere",
                       "La cartella del programma è in sola lettura: non si salva nulla, e verifiche, "
                       "statistiche ed elenchi, che scrivono un rapporto, non riescono."});
-  else if (std::filesystem::exists(archivio, codice) && !siScrive(archivio))
+  else if (std::filesystem::exists(archivio, codice) && !siPuoModificare(archivio))
     avvisi.push_back({"L'archivio è in sola lettura",
                       "L'archivio si può guardare, ma le estrazioni non si possono salvare."});
   if (presenza.altre())

@@ -4,23 +4,18 @@
 #include <system_error>
 
 #include "platform/failure.h"
+#include "platform/percorso.h"
 #include "platform/testo.h"
 
 namespace vaticlo {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-bool portaFuori(std::string_view nome) { return nome.find('/') != nome.npos || nome.find('\0') != nome.npos; }
-
-}  // namespace
-
 fs::path cartellaMetodi(const CartellaProgramma& cartella) { return cartella.file("Metodi"); }
 
 fs::path fileMetodo(const CartellaProgramma& cartella, std::string_view nome) {
   if (portaFuori(nome)) throw RuntimeFailure(Errore::NomeFile, std::string(nome));
-  return cartellaMetodi(cartella) / (std::string(senzaBlanchi(nome)) + ".dat");
+  return cartellaMetodi(cartella) / percorsoDa(std::string(senzaBlanchi(nome)) + ".dat");
 }
 
 bool esisteMetodo(const CartellaProgramma& cartella, std::string_view nome) {

@@ -21,6 +21,7 @@
 #include "platform/due_cifre.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
+#include "platform/percorso.h"
 #include "platform/testo.h"
 
 namespace vaticlo {
@@ -76,7 +77,7 @@ std::vector<Copia> copieSenzaContenuto(const CartellaProgramma& cartella) {
   std::error_code codice;
   for (fs::directory_iterator voce(cartellaCopie(cartella), codice), fine; !codice && voce != fine;
        voce.increment(codice))
-    if (auto copia = copiaDiNome(voce->path().filename().string()); copia && voce->is_directory(codice))
+    if (auto copia = copiaDiNome(nomeFile(voce->path())); copia && voce->is_directory(codice))
       copie.push_back(std::move(*copia));
   std::sort(copie.begin(), copie.end(), [](const auto& una, const auto& altra) {
     return std::tie(altra.giorno, altra.numero, una.genere) < std::tie(una.giorno, una.numero, altra.genere);
@@ -91,7 +92,7 @@ FilePerNome leggiTutti(const fs::path& cartella, GenereCopia genere) {
   FilePerNome tutti;
   for (const auto& nome : elencaFile(cartella))
     if (genere == GenereCopia::Metodi ? diMetodo(nome) : nome == kFileArchivio)
-      leggiFile(cartella / nome, tutti.try_emplace(nome, natura(genere).griglia).first->second);
+      leggiFile(cartella / percorsoDa(nome), tutti.try_emplace(nome, natura(genere).griglia).first->second);
   // An archive without a draw is none.
   if (genere == GenereCopia::Archivio && !tutti.empty())
     if (tutti.begin()->second.front() == 0) tutti.clear();
@@ -144,7 +145,7 @@ void provaAConservare(const Programma& programma, GenereCopia genere, bool unaAl
   } catch (const RuntimeFailure& failure) {
     avvisa(failure.what());
   } catch (const fs::filesystem_error& errore) {
-    avvisa(failureDiSistema(errore.code().value(), "copie").what());
+    avvisa(failureDiSistema(errore.code(), "copie").what());
   }
 }
 
@@ -192,11 +193,18 @@ bool ripristinaCopia(Programma& programma, const std::string& nome) {
     for (const auto& [file, ottetti] : tutti)
       if (const auto presente = presenti.find(file);
           presente == presenti.end() || presente->second != ottetti)
-        scriviFile(dove / file, ottetti);
+        scriviFile(dove / percorsoDa(file), ottetti);
     if (copia->genere == GenereCopia::Archivio) return;
+    // On some file systems a method of the copy may lie under the name that it has had meanwhile.
+    const auto dellaCopia = [&](const std::string& file) {
+      return tutti.contains(file) || std::ranges::any_of(tutti, [&](const auto& altro) {
+               std::error_code ignorato;
+               return fs::equivalent(dove / percorsoDa(file), dove / percorsoDa(altro.first), ignorato);
+             });
+    };
     for (const auto& file : elencaFile(dove)) {
       std::error_code codice;
-      if (diMetodo(file) && !tutti.contains(file)) fs::remove(dove / file, codice);
+      if (diMetodo(file) && !dellaCopia(file)) fs::remove(dove / percorsoDa(file), codice);
       if (codice) throw RuntimeFailure(Errore::AccessoAlFile, file);
     }
   });

@@ -7,6 +7,7 @@
 #include "platform/blocco.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
+#include "platform/percorso.h"
 #include "platform/spacchettamento.h"
 
 namespace vaticlo {
@@ -51,7 +52,7 @@ std::optional<ArchivioEstrazioni> leggiOSpiega(Servizi& servizi, const fs::path&
     motivo = failure.what();
   }
   servizi.avanzamento(kLavoro, 100);
-  servizi.mostra({"Il file \"" + file.filename().string() + "\" non si può usare!\n\n" + motivo +
+  servizi.mostra({"Il file \"" + nomeFile(file) + "\" non si può usare!\n\n" + motivo +
                       "\n\nL'archivio è rimasto com'era.",
                   titolo, Genere::Rifiuto, Icona::Esclamazione});
   return std::nullopt;

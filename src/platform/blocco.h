@@ -4,8 +4,6 @@
 #include <filesystem>
 #include <memory>
 
-#include "platform/descrittore.h"
-
 namespace vaticlo {
 
 /// Holds a folder: as long as it lives, no other program that asks holds the same one, so that what is read,
@@ -23,8 +21,10 @@ class BloccoCartella {
   void sincronizza() const;
 
  private:
+  struct Tenuta;
+
   std::filesystem::path cartella_;
-  std::shared_ptr<const Descrittore> tenuta_;
+  std::shared_ptr<const Tenuta> tenuta_;
 };
 
 }  // namespace vaticlo

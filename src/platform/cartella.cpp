@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/failure.h"
+#include "platform/percorso.h"
 #include "platform/testo.h"
 
 namespace vaticlo {
@@ -15,13 +16,13 @@ std::vector<std::string> elencaFile(const fs::path& cartella) {
   std::error_code codice;
   fs::directory_iterator voce(cartella, codice);
   if (codice == std::errc::no_such_file_or_directory) return {};
-  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, cartella.filename().string());
+  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nomeFile(cartella));
 
   std::vector<std::pair<std::string, std::string>> chiavi;
   for (const fs::directory_iterator fine; voce != fine; voce.increment(codice)) {
-    if (codice) throw RuntimeFailure(Errore::AccessoAlFile, cartella.filename().string());
+    if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nomeFile(cartella));
     std::error_code ignorato;
-    auto nome = voce->path().filename().string();
+    auto nome = nomeFile(voce->path());
     if (!nome.starts_with('.') && voce->is_regular_file(ignorato)) {
       auto chiave = maiuscolo(nome);
       chiavi.emplace_back(std::move(chiave), std::move(nome));

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/percorso.h"
+
 namespace vaticlo {
 
 /// The program folder: where the archive, the methods and the report files lie, whatever the current folder
@@ -14,7 +16,7 @@ class CartellaProgramma {
   explicit CartellaProgramma(std::filesystem::path radice) : radice_(std::move(radice)) {}
 
   [[nodiscard]] const std::filesystem::path& radice() const { return radice_; }
-  [[nodiscard]] std::filesystem::path file(std::string_view nome) const { return radice_ / nome; }
+  [[nodiscard]] std::filesystem::path file(std::string_view nome) const { return radice_ / percorsoDa(nome); }
 
  private:
   std::filesystem::path radice_;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+#include <string_view>
 
 #include "platform/blocco.h"
 #include "platform/descrittore.h"
@@ -26,17 +28,15 @@ class FileAccanto {
   /// Brings it to the disk and closes it. Fails with Errore::DispositivoIO or DiscoPieno.
   void finisci();
 
-  /// Takes the place of a file that is there (`vecchio`) or a free one, and brings the folder to the
+  /// Takes the place of a file that is there, open as `vecchio`, or a free one, and brings the folder to the
   /// disk. False when the file that is there can't be moved away. After a failure of the disk the old file is
-  /// back, where the file system can exchange two files.
-  [[nodiscard]] bool prendiIlPosto(bool vecchio, const BloccoCartella& cartella) const;
+  /// back, where the file system can exchange two files. `vecchio` is closed where an open file keeps its
+  /// place.
+  [[nodiscard]] bool prendiIlPosto(std::optional<Descrittore>& vecchio, const BloccoCartella& cartella) const;
   /// The same where there must be no file: fails with Errore::FileEsistente when there is one.
   void prendiPostoLibero() const;
 
  private:
-  /// 0 or an errno.
-  [[nodiscard]] int muovi(unsigned modo) const;
-
   std::filesystem::path percorso_, destinazione_;
   Descrittore file_;
 };

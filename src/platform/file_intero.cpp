@@ -1,15 +1,11 @@
 #include "platform/file_intero.h"
 
 #include <algorithm>
-#include <cerrno>
+#include <cstddef>
 #include <optional>
 
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include "platform/descrittore.h"
+#include "platform/percorso.h"
 
 namespace vaticlo {
 
@@ -19,12 +15,12 @@ namespace {
 // nothing to read either.
 std::optional<Descrittore> apriGriglia(const std::filesystem::path& percorso) {
   try {
-    return std::optional<Descrittore>(std::in_place, percorso, O_RDWR | O_CREAT);
+    return std::optional<Descrittore>(std::in_place, percorso, Apertura::ModificaOCrea);
   } catch (const RuntimeFailure& failure) {
     if (failure.errore() != Errore::AccessoAlFile) throw;
   }
   try {
-    return std::optional<Descrittore>(std::in_place, percorso, O_RDONLY);
+    return std::optional<Descrittore>(std::in_place, percorso, Apertura::Lettura);
   } catch (const RuntimeFailure& failure) {
     if (failure.errore() == Errore::FileNonTrovato) return std::nullopt;
     throw;
@@ -33,9 +29,7 @@ std::optional<Descrittore> apriGriglia(const std::filesystem::path& percorso) {
 
 // Only a plain file can be a grid: a pipe or a terminal would keep the reader waiting.
 void richiediFileVero(const Descrittore& file, const std::filesystem::path& percorso) {
-  struct stat stato {};
-  if (::fstat(file.fd(), &stato) != 0 || !S_ISREG(stato.st_mode))
-    throw RuntimeFailure(Errore::AccessoAlFile, percorso.filename().string());
+  if (!file.lunghezza(percorso)) throw RuntimeFailure(Errore::AccessoAlFile, nomeFile(percorso));
 }
 
 }  // namespace
@@ -51,27 +45,22 @@ void leggiFile(const std::filesystem::path& percorso, std::span<std::uint8_t> da
 }
 
 std::string contenutoFile(const std::filesystem::path& percorso, std::size_t massimo) {
-  const Descrittore file(percorso, O_RDONLY);
-  struct stat stato {};
-  if (::fstat(file.fd(), &stato) != 0) throw failureDiSistema(errno, percorso);
-  const bool fileVero = S_ISREG(stato.st_mode);
-  if (!fileVero)
-    static_cast<void>(::fcntl(file.fd(), F_SETFL, 0));  // what comes through a pipe is waited for
+  const Descrittore file(percorso, Apertura::Lettura);
+  const auto lunga = file.lunghezza(percorso);
+  if (!lunga) file.attendiLeggendo();
   // One byte more than it may have shows that it is longer.
-  const auto limite = (fileVero ? massimo : std::min(massimo, kMassimoTesto)) + 1;
+  const auto limite = (lunga ? massimo : std::min(massimo, kMassimoTesto)) + 1;
   std::string contenuto;
   std::size_t pieni = 0;
   for (;;) {
-    if (pieni == limite) throw RuntimeFailure(Errore::TestoTroppoLungo, percorso.filename().string());
+    if (pieni == limite) throw RuntimeFailure(Errore::TestoTroppoLungo, nomeFile(percorso));
     if (pieni == contenuto.size()) {
-      const auto misura = static_cast<std::size_t>(stato.st_size) + 1;
+      const auto misura = lunga.value_or(0) + 1;
       contenuto.resize(std::min(limite, std::max(misura, contenuto.size() * 2 + 4096)));
     }
-    const auto letti = ::read(file.fd(), contenuto.data() + pieni, contenuto.size() - pieni);
-    if (letti < 0 && errno == EINTR) continue;
-    if (letti < 0) throw RuntimeFailure(Errore::DispositivoIO, percorso.filename().string());
-    if (letti == 0) break;
-    pieni += static_cast<std::size_t>(letti);
+    const std::span resto(reinterpret_cast<std::uint8_t*>(contenuto.data()), contenuto.size());
+    pieni += file.leggi(resto.subspan(pieni), percorso);
+    if (pieni < contenuto.size()) break;
   }
   contenuto.resize(pieni);
   return contenuto;
@@ -81,10 +70,8 @@ std::string testoFornito(const std::filesystem::path& percorso) {
   std::error_code ignorato;
   if (!std::filesystem::is_fifo(percorso, ignorato)) return contenutoFile(percorso, kMassimoTesto);
   // Open until all is read, so that what is written meanwhile stays in the pipe.
-  const Descrittore pipe(percorso, O_RDONLY);
-  pollfd attesa{pipe.fd(), POLLIN, 0};
-  while (::poll(&attesa, 1, -1) < 0 && errno == EINTR) {
-  }
+  const Descrittore pipe(percorso, Apertura::Lettura);
+  pipe.attendiChiScrive();
   return contenutoFile(percorso, kMassimoTesto);
 }
 

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
-
-#include "platform/descrittore.h"
+#include <memory>
 
 namespace vaticlo {
 
@@ -13,13 +11,18 @@ namespace vaticlo {
 class Presenza {
  public:
   explicit Presenza(const std::filesystem::path& cartella);
+  Presenza(const Presenza&) = delete;
+  Presenza& operator=(const Presenza&) = delete;
+  ~Presenza();
 
   /// Whether there is another one on the same folder. False too where it can't be known: the folder can't be
   /// opened, or its file system has no such locks.
   [[nodiscard]] bool altre() const;
 
  private:
-  std::optional<Descrittore> cartella_;
+  struct Segno;
+
+  std::unique_ptr<const Segno> segno_;
 };
 
 }  // namespace vaticlo

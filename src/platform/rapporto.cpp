@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include <fcntl.h>
-
 #include "platform/file_intero.h"
 
 namespace vaticlo {
@@ -22,7 +20,7 @@ std::string testoRapporto(const std::filesystem::path& percorso) {
 }
 
 FileRapporto::FileRapporto(const std::filesystem::path& percorso)
-    : percorso_(percorso), file_(std::in_place, percorso, O_WRONLY | O_CREAT | O_TRUNC) {}
+    : percorso_(percorso), file_(std::in_place, percorso, Apertura::DaCapo) {}
 
 FileRapporto::~FileRapporto() { concludi(); }
 

@@ -9,6 +9,7 @@
 
 #include "platform/descrittore.h"
 #include "platform/pagina_codici.h"
+#include "platform/percorso.h"
 
 namespace vaticlo {
 
@@ -42,7 +43,7 @@ class FileRapporto {
   /// reached the disk.
   bool concludi();
   /// The name of the file.
-  [[nodiscard]] std::string nome() const { return percorso_.filename().string(); }
+  [[nodiscard]] std::string nome() const { return nomeFile(percorso_); }
 
  private:
   void aggiungi(std::string_view testo) { aggiungiInPagina(attesa_, testo); }

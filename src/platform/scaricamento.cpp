@@ -9,6 +9,7 @@
 #include "platform/failure.h"
 #include "platform/file_intero.h"
 #include "platform/libreria.h"
+#include "platform/percorso.h"
 
 namespace vaticlo {
 
@@ -129,7 +130,8 @@ Scaricato scaricaInMemoria(const std::string& indirizzo, std::int64_t seModifica
     opzione(CURLOPT_TIMECONDITION, static_cast<long>(CURL_TIMECOND_IFMODSINCE));
     opzione(CURLOPT_TIMEVALUE_LARGE, static_cast<curl_off_t>(seModificatoDopo));
   }
-  if (!limiti.certificati.empty()) opzione(CURLOPT_CAINFO, limiti.certificati.c_str());
+  const auto certificati = testoDi(limiti.certificati);
+  if (!certificati.empty()) opzione(CURLOPT_CAINFO, certificati.c_str());
   opzione(CURLOPT_HEADERFUNCTION, &contaTeste);
   opzione(CURLOPT_HEADERDATA, &raccolta);
   opzione(CURLOPT_WRITEFUNCTION, &raccogli);

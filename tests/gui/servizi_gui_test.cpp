@@ -122,7 +122,7 @@ class ServiziGuiTest : public QObject {
         QTest::keyClick(&box, annulla ? Qt::Key_Escape : Qt::Key_Return);
       });
       QCOMPARE(ServiziDesktop().chiedi("domanda", "titolo"), annulla ? "" : "à");
-      QCOMPARE(QFile::decodeName(ServiziDesktop().scegliFile("titolo").c_str()),
+      QCOMPARE(QString::fromStdString(testoDi(ServiziDesktop().scegliFile("titolo"))),
                annulla ? QString() : cartella.filePath("è.txt"));
     }
   }

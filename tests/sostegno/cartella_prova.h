@@ -1,14 +1,15 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "methods/cartella_metodi.h"
+#include "platform/percorso.h"
 #include "platform/scaricamento.h"
 #include "program/programma.h"
 
@@ -66,7 +67,7 @@ class ServiziProva : public Servizi {
 
 /// A program in a folder of its own under the temporary files, with `Metodi` in it, gone at the end.
 struct ProgrammaProva {
-  ProgrammaProva() { std::filesystem::create_directory(cartellaMetodi(cartella())); }
+  ProgrammaProva() { std::filesystem::create_directories(cartellaMetodi(cartella())); }
   ProgrammaProva(const ProgrammaProva&) = delete;
   ProgrammaProva& operator=(const ProgrammaProva&) = delete;
   ~ProgrammaProva() {
@@ -75,20 +76,23 @@ struct ProgrammaProva {
   }
 
   ServiziProva servizi;
-  std::string modello = (std::filesystem::temp_directory_path() / "vaticlo-XXXXXX").string();
-  std::filesystem::path radice = ::mkdtemp(modello.data());
+  std::filesystem::path radice =
+      std::filesystem::temp_directory_path() /
+      ("vaticlo-" + std::to_string(std::random_device{}()) + std::to_string(std::random_device{}()));
   Programma programma{radice, servizi};
 
   [[nodiscard]] const CartellaProgramma& cartella() const { return programma.cartella; }
   [[nodiscard]] Globals& globals() { return programma.globals; }
   /// The bytes of a file of the folder; an empty text when there is none.
   [[nodiscard]] std::string contenuto(std::string_view nome) const {
-    std::ifstream file(radice / nome, std::ios::binary);
+    std::ifstream file(radice / percorsoDa(nome), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  [[nodiscard]] bool esiste(std::string_view nome) const { return std::filesystem::exists(radice / nome); }
+  [[nodiscard]] bool esiste(std::string_view nome) const {
+    return std::filesystem::exists(radice / percorsoDa(nome));
+  }
   void scrivi(std::string_view nome, std::string_view ottetti) const {
-    std::ofstream(radice / nome, std::ios::binary) << ottetti;
+    std::ofstream(radice / percorsoDa(nome), std::ios::binary) << ottetti;
   }
 };
 

@@ -13,11 +13,12 @@ class Console : public testing::Test {
   int esegui(std::string riga) {
     std::string numeri;
     for (int n = 1; n <= 55; ++n) numeri += std::to_string(n) + " ";
-    for (const auto& [segno, testo] : {std::pair{std::string("@"), p.radice.string()}, {"NUMERI", numeri}})
+    for (const auto& [segno, testo] :
+         {std::pair{std::string("@"), p.radice.generic_string()}, {"NUMERI", numeri}})
       if (const auto posto = riga.find(segno); posto != std::string::npos)
         riga.replace(posto, segno.size(), testo);
     auto parole = paroleDellaRiga(riga).parole;
-    parole.insert(parole.begin(), {"--cartella", p.radice.string()});
+    parole.insert(parole.begin(), {"--cartella", testoDi(p.radice)});
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     const int stato = sessione.esegui(parole);

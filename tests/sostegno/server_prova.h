@@ -1,14 +1,11 @@
 #pragma once
 
 #include <array>
-#include <cstdlib>
 #include <map>
 #include <string>
 #include <thread>
 
-#include <arpa/inet.h>
-#include <sys/socket.h>
-#include <unistd.h>
+#include "rete.h"
 
 namespace vaticlo::prova {
 
@@ -18,7 +15,7 @@ namespace vaticlo::prova {
 class ServerProva {
  public:
   explicit ServerProva(std::map<std::string, std::string> risposte) : risposte_(std::move(risposte)) {
-    ::setenv("http_proxy", "http://127.0.0.1:1/", 1);  // leads nowhere: nobody may ask it
+    ambiente("http_proxy", "http://127.0.0.1:1/");  // leads nowhere: nobody may ask it
     luogo_.sin_family = AF_INET;
     luogo_.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t misura = sizeof luogo_;
@@ -30,9 +27,9 @@ class ServerProva {
   ServerProva(const ServerProva&) = delete;
   ServerProva& operator=(const ServerProva&) = delete;
   ~ServerProva() {
-    ::shutdown(ascolto_, SHUT_RDWR);
+    fermaAscolto(ascolto_);
     servizio_.join();
-    ::close(ascolto_);
+    chiudi(ascolto_);
   }
 
   [[nodiscard]] std::string indirizzo(const std::string& percorso) const {
@@ -41,22 +38,22 @@ class ServerProva {
 
  private:
   void servi() const {
-    for (int cliente = 0; (cliente = ::accept(ascolto_, nullptr, nullptr)) >= 0;) {
+    for (Presa cliente = 0; aperta(cliente = ::accept(ascolto_, nullptr, nullptr));) {
       std::array<char, 4096> domanda{};
-      const auto letti = ::read(cliente, domanda.data(), domanda.size());
+      const auto letti = ::recv(cliente, domanda.data(), domanda.size(), 0);
       const std::string testo(domanda.data(), letti > 0 ? static_cast<std::size_t>(letti) : 0);
       const auto inizio = testo.find(' ') + 1;
       const auto percorso = testo.substr(inizio, testo.find(' ', inizio) - inizio);
       const bool dopo = testo.find("\r\nIf-Modified-Since: ") != std::string::npos;
       const auto risposta = risposte_.find(dopo ? percorso + " dopo" : percorso);
       if (risposta == risposte_.end()) continue;
-      ::send(cliente, risposta->second.data(), risposta->second.size(), MSG_NOSIGNAL);
-      ::close(cliente);
+      ::send(cliente, risposta->second.data(), static_cast<int>(risposta->second.size()), kInvio);
+      chiudi(cliente);
     }
   }
 
   const std::map<std::string, std::string> risposte_;
-  const int ascolto_ = ::socket(AF_INET, SOCK_STREAM, 0);
+  const Presa ascolto_ = ::socket(AF_INET, SOCK_STREAM, 0);
   sockaddr_in luogo_{};
   std::thread servizio_;
 };

@@ -20,7 +20,7 @@ namespace {
 
 ArchivioEstrazioni leggi(const std::string& file) {
   try {
-    return leggiEstrazioni(file);
+    return leggiEstrazioni(percorsoDa(file));
   } catch (const ErroreImportazione& errore) {
     throw UsoErrato(file + ", " + errore.what() + "\nL'archivio è rimasto com'era.");
   } catch (const RuntimeFailure& failure) {

@@ -8,6 +8,7 @@
 #include "console/sessione.h"
 #include "platform/failure.h"
 #include "platform/file_intero.h"
+#include "platform/percorso.h"
 #include "platform/testo.h"
 
 namespace vaticlo::comandi {
@@ -66,7 +67,7 @@ Esito eseguiRighe(Sessione& sessione, std::istream& comandi) {
 
 std::string leggi(const std::string& file) {
   try {
-    return testoFornito(file);
+    return testoFornito(percorsoDa(file));
   } catch (const RuntimeFailure& failure) {
     throw UsoErrato("non si può leggere \"" + file + "\": " + descrizione(failure.errore()));
   }

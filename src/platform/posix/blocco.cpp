@@ -5,9 +5,12 @@
 #include <thread>
 #include <utility>
 
-#include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+
+#include "platform/descrittore.h"
+#include "platform/percorso.h"
+#include "platform/posix/ultimo_errore.h"
 
 namespace vaticlo {
 
@@ -23,25 +26,32 @@ void aspetta(int fd, const std::filesystem::path& cartella, std::chrono::millise
   const auto fine = std::chrono::steady_clock::now() + attesa;
   while (::flock(fd, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
     if (std::chrono::steady_clock::now() >= fine)
-      throw RuntimeFailure(Errore::CartellaOccupata, cartella.filename().string());
+      throw RuntimeFailure(Errore::CartellaOccupata, nomeFile(cartella));
     std::this_thread::sleep_for(kPausa);
   }
 }
 
 }  // namespace
 
+struct BloccoCartella::Tenuta {
+  explicit Tenuta(const std::filesystem::path& cartella) : aperta(cartella, Apertura::Lettura) {}
+  [[nodiscard]] int fd() const { return static_cast<int>(aperta.aperto()); }
+
+  Descrittore aperta;
+};
+
 BloccoCartella::BloccoCartella(const std::filesystem::path& cartella, std::chrono::milliseconds attesa)
     : cartella_(cartella.empty() ? "." : cartella) {
   // A second lock of this program on the folder would wait for the first one.
-  static thread_local std::map<Identita, std::weak_ptr<const Descrittore>> tenute;
-  std::shared_ptr<const Descrittore> aperta;
+  static thread_local std::map<Identita, std::weak_ptr<const Tenuta>> tenute;
+  std::shared_ptr<const Tenuta> aperta;
   try {
-    aperta = std::make_shared<const Descrittore>(cartella_, O_RDONLY | O_DIRECTORY);
+    aperta = std::make_shared<const Tenuta>(cartella_);
   } catch (const RuntimeFailure&) {
     return;  // whoever opens a file in it says why
   }
   struct stat stato {};
-  if (::fstat(aperta->fd(), &stato) != 0) throw failureDiSistema(errno, cartella_);
+  if (::fstat(aperta->fd(), &stato) != 0) throw failureDiSistema(ultimoErrore(), cartella_);
   auto& tenuta = tenute[{stato.st_dev, stato.st_ino}];
   tenuta_ = tenuta.lock();
   if (tenuta_) return;
@@ -50,7 +60,7 @@ BloccoCartella::BloccoCartella(const std::filesystem::path& cartella, std::chron
 }
 
 void BloccoCartella::sincronizza() const {
-  if (tenuta_) tenuta_->sincronizza(cartella_);
+  if (tenuta_) tenuta_->aperta.sincronizza(cartella_);
 }
 
 }  // namespace vaticlo

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdlib>
+
+#include <arpa/inet.h>
+#include <sys/select.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace vaticlo::prova {
+
+using Presa = int;
+inline constexpr int kInvio = MSG_NOSIGNAL;
+
+inline bool aperta(Presa presa) { return presa >= 0; }
+/// Lets whoever waits for a client wait no longer.
+inline void fermaAscolto(Presa presa) { ::shutdown(presa, SHUT_RDWR); }
+inline void chiudi(Presa presa) { ::close(presa); }
+inline void ambiente(const char* nome, const char* valore) { ::setenv(nome, valore, 1); }
+
+}  // namespace vaticlo::prova
