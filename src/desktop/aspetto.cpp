@@ -1,11 +1,6 @@
 #include "desktop/aspetto.h"
 
 #include <QApplication>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusVariant>
 #include <QPalette>
 
 #include "desktop/colori.h"
@@ -13,8 +8,6 @@
 namespace vaticlo {
 
 namespace {
-
-constexpr uint kPreferisceScuro = 1;
 
 QPalette tavolozzaScura() {
   const QColor finestra(62, 62, 62), foglio(34, 34, 34), testo(240, 240, 240), scelta(42, 118, 172);
@@ -48,21 +41,6 @@ Aspetto::Aspetto() {
   chiedi();
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState stato) {
     if (stato == Qt::ApplicationActive) chiedi();
-  });
-}
-
-void Aspetto::chiedi() {
-  auto domanda = QDBusMessage::createMethodCall(
-      QStringLiteral("org.freedesktop.portal.Desktop"), QStringLiteral("/org/freedesktop/portal/desktop"),
-      QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("Read"));
-  domanda << QStringLiteral("org.freedesktop.appearance") << QStringLiteral("color-scheme");
-  auto* attesa = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(domanda), this);
-  connect(attesa, &QDBusPendingCallWatcher::finished, this, [attesa] {
-    attesa->deleteLater();
-    const QDBusPendingReply<QDBusVariant> risposta = *attesa;
-    if (risposta.isError()) return;
-    const auto valore = risposta.value().variant().value<QDBusVariant>().variant();
-    vestiDiScuro(valore.toUInt() == kPreferisceScuro);
   });
 }
 

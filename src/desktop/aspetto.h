@@ -8,9 +8,9 @@ namespace vaticlo {
 /// already they stay.
 void vestiDiScuro(bool scuro);
 
-/// Asks the desktop's portal whether its user wants dark colours: at the start, and whenever the program
-/// comes to the front again, so that a change is followed. Nobody waits for the answer, and without a portal
-/// there is none: the toolkit alone decides then.
+/// Asks the system (the desktop's portal, the settings of Windows) whether its user wants dark colours: at
+/// the start, and whenever the program comes to the front again, so that a change is followed. Nobody waits
+/// for the answer, and without a portal there is none: the toolkit alone decides then.
 class Aspetto : public QObject {
  public:
   Aspetto();

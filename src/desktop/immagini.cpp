@@ -2,22 +2,23 @@
 
 #include <QIconEngine>
 #include <QPainter>
-#include <QSvgRenderer>
 #include <memory>
+
+#include "desktop/disegno.h"
 
 namespace vaticlo {
 
 namespace {
 
-/// Draws the vector picture anew for each size it is asked for.
-class MotoreSvg : public QIconEngine {
+/// Draws the picture anew for each size it is asked for.
+class MotoreDisegno : public QIconEngine {
  public:
-  explicit MotoreSvg(const QString& file) : disegno_(std::make_shared<QSvgRenderer>(file)) {}
+  explicit MotoreDisegno(const QString& chiave) : disegno_(std::make_shared<const Disegno>(chiave)) {}
 
   void paint(QPainter* pittore, const QRect& area, QIcon::Mode modo, QIcon::State /*stato*/) override {
     pittore->save();
     if (modo == QIcon::Disabled) pittore->setOpacity(0.4);
-    disegno_->render(pittore, area);
+    disegno_->dipingi(*pittore, area);
     pittore->restore();
   }
 
@@ -29,16 +30,14 @@ class MotoreSvg : public QIconEngine {
     return pixmap;
   }
 
-  [[nodiscard]] QIconEngine* clone() const override { return new MotoreSvg(*this); }
+  [[nodiscard]] QIconEngine* clone() const override { return new MotoreDisegno(*this); }
 
  private:
-  std::shared_ptr<QSvgRenderer> disegno_;
+  std::shared_ptr<const Disegno> disegno_;
 };
 
 }  // namespace
 
-QIcon immagine(const QString& chiave) {
-  return QIcon(new MotoreSvg(QStringLiteral(":/artwork/%1.svg").arg(chiave)));
-}
+QIcon immagine(const QString& chiave) { return QIcon(new MotoreDisegno(chiave)); }
 
 }  // namespace vaticlo

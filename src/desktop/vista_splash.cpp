@@ -4,9 +4,9 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
-#include <QSvgRenderer>
 #include <utility>
 
+#include "desktop/disegno.h"
 #include "desktop/immagini.h"
 
 namespace vaticlo {
@@ -33,7 +33,7 @@ void VistaSplash::showEvent(QShowEvent* evento) {
 
 void VistaSplash::paintEvent(QPaintEvent* /*evento*/) {
   QPainter pittore(this);
-  QSvgRenderer(QStringLiteral(":/artwork/splash.svg")).render(&pittore, rect());
+  Disegno(QStringLiteral("splash")).dipingi(pittore, rect());
 }
 
 void VistaSplash::keyPressEvent(QKeyEvent* /*evento*/) { avanti(); }
