@@ -35,8 +35,9 @@ if [ "$cosa" = logica ]; then
 fi
 
 librerie_finestre
-[ -e "$librerie.tar.xz" ] && [ "$librerie.tar.xz" -nt "$librerie/fatte" ] ||
+if [ ! "$librerie.tar.xz" -nt "$librerie/fatte" ]; then
   tar cf - -C "$lavoro" librerie | xz -2 -T0 >"$librerie.tar.xz"
+fi
 raccogli_licenze
 incrocia "$PWD" programma -DCMAKE_PREFIX_PATH="$librerie/qt" -DQT_HOST_PATH=/usr -DVATICLO_BUNDLE=ON \
   -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake -DVATICLO_LICENZE="$lavoro/licenze"

@@ -26,6 +26,13 @@ HANDLE apri(const std::filesystem::path& percorso, Apertura come) {
                        scrive ? FILE_ATTRIBUTE_NORMAL : FILE_FLAG_BACKUP_SEMANTICS, nullptr);
 }
 
+// Of a name that no file can have there is none, and none can be made.
+std::error_code percheNonSiApre(Apertura come) {
+  if (::GetLastError() != ERROR_INVALID_NAME) return ultimoErrore();
+  const bool deveEsserci = come == Apertura::Lettura || come == Apertura::Modifica;
+  return make_error_code(deveEsserci ? std::errc::no_such_file_or_directory : std::errc::permission_denied);
+}
+
 HANDLE maniglia(std::intptr_t aperto) { return reinterpret_cast<HANDLE>(aperto); }
 
 }  // namespace
@@ -33,7 +40,7 @@ HANDLE maniglia(std::intptr_t aperto) { return reinterpret_cast<HANDLE>(aperto);
 Descrittore::Descrittore(const std::filesystem::path& percorso, Apertura come,
                          const std::filesystem::path& nominato)
     : aperto_(reinterpret_cast<std::intptr_t>(apri(percorso, come))) {
-  if (aperto_ == kNessuno) throw failureDiSistema(ultimoErrore(), nominato);
+  if (aperto_ == kNessuno) throw failureDiSistema(percheNonSiApre(come), nominato);
   if (come == Apertura::DaCapo && ::GetFileType(maniglia(aperto_)) == FILE_TYPE_DISK) tagliaA(0, nominato);
 }
 
