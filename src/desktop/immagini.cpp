@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <memory>
 
-#include "desktop/disegno.h"
+#include "desktop/immagine_scalabile.h"
 
 namespace vaticlo {
 
@@ -13,7 +13,8 @@ namespace {
 /// Draws the picture anew for each size it is asked for.
 class MotoreDisegno : public QIconEngine {
  public:
-  explicit MotoreDisegno(const QString& chiave) : disegno_(std::make_shared<const Disegno>(chiave)) {}
+  explicit MotoreDisegno(const QString& chiave)
+      : disegno_(std::make_shared<const ImmagineScalabile>(chiave)) {}
 
   void paint(QPainter* pittore, const QRect& area, QIcon::Mode modo, QIcon::State /*stato*/) override {
     pittore->save();
@@ -33,7 +34,7 @@ class MotoreDisegno : public QIconEngine {
   [[nodiscard]] QIconEngine* clone() const override { return new MotoreDisegno(*this); }
 
  private:
-  std::shared_ptr<const Disegno> disegno_;
+  std::shared_ptr<const ImmagineScalabile> disegno_;
 };
 
 }  // namespace

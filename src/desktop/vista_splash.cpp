@@ -6,7 +6,7 @@
 #include <QScreen>
 #include <utility>
 
-#include "desktop/disegno.h"
+#include "desktop/immagine_scalabile.h"
 #include "desktop/immagini.h"
 
 namespace vaticlo {
@@ -33,7 +33,7 @@ void VistaSplash::showEvent(QShowEvent* evento) {
 
 void VistaSplash::paintEvent(QPaintEvent* /*evento*/) {
   QPainter pittore(this);
-  Disegno(QStringLiteral("splash")).dipingi(pittore, rect());
+  ImmagineScalabile(QStringLiteral("splash")).dipingi(pittore, rect());
 }
 
 void VistaSplash::keyPressEvent(QKeyEvent* /*evento*/) { avanti(); }

@@ -9,11 +9,11 @@ class QRect;
 namespace vaticlo {
 
 /// A picture that the program carries, sharp at every size and scaling.
-class Disegno {
+class ImmagineScalabile {
  public:
   /// `chiave` is its key in the image list.
-  explicit Disegno(const QString& chiave);
-  ~Disegno();
+  explicit ImmagineScalabile(const QString& chiave);
+  ~ImmagineScalabile();
 
   void dipingi(QPainter& pittore, const QRect& area) const;
 
