@@ -60,7 +60,8 @@ TEST_F(Console, WritesObjectsWithTheNamesThatTheTableDocuments) {
                                                         {"caso", "1 3 --prove 5"},
                                                         {"ritardi", "Ba"}};
   auto tavola = tavolaComandi();
-  std::ranges::rotate(tavola, tavola.begin() + 1);  // the import replaces what the others look at
+  std::rotate(tavola.begin(), tavola.begin() + 1,
+              tavola.end());  // the import replaces what the others look at
   for (const auto& comando : tavola) {
     if (comando.json.empty()) continue;
     SCOPED_TRACE(comando.nome);

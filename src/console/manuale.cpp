@@ -265,7 +265,8 @@ std::string testoStatiDiUscita() {
 
 std::string testoJson(const Comando& comando) {
   std::string testo;
-  for (const auto& [nome, aiuto] : comando.json) testo += "  " + nome + ": " + aiuto + "\n";
+  for (const auto& [nome, aiuto] : comando.json)
+    testo.append("  ").append(nome).append(": ").append(aiuto).append("\n");
   return testo.empty() ? testo : "L'oggetto JSON:\n" + testo;
 }
 
