@@ -66,10 +66,11 @@ TEST(Addition, TakesTheDrawsAfterTheLastOneAndTellsWhatDoesNotFit) {
             "2 in comune; 4:12/1=14 | Il testo comincia il 5/1/2005: le estrazioni precedenti dell'archivio "
             "non sono "
             "confrontate."},
-           {"begins after the end", tre, "12/1 14",
-            "0 in comune; 4:12/1=14 | Il testo comincia il 12/1/2005, dopo l'ultima estrazione "
+           {"begins after the end", tre, "30/1 14",
+            "0 in comune; 4:30/1=14 | Il testo comincia il 30/1/2005, dopo l'ultima estrazione "
             "dell'archivio, la n° 3 "
-            "del 8/1/2005: non si può confrontare, e le estrazioni di mezzo, se ce ne sono, mancheranno."},
+            "del 8/1/2005: non si può confrontare, e le estrazioni di mezzo, se ce ne sono, mancheranno. "
+            "Cercate un testo che cominci prima."},
            {"a hole in the text", tre, "1/1 11,8/1 13",
             "2 in comune; | Estrazioni dell'archivio che il testo non ha: 1 (la n° 2 del 5/1/2005)."},
            {"a hole in the archive", "1/1 11,8/1 13", tre,

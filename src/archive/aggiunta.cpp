@@ -91,7 +91,8 @@ class Confronto {
     std::ranges::sort(inComune_);
     esito_.dal = ultima_ + 1;
     esito_.al = ultima_;
-    auto prima = fine_;
+    // What is missing before a text that begins later is said of the text.
+    auto prima = fine_ && !nelTesto_.empty() && inizio() > *fine_ ? std::nullopt : fine_;
     for (const auto& [data, k] : nelTesto_) {
       if (fine_ && data <= *fine_) {
         if (!std::ranges::binary_search(inComune_, k)) soloNelTesto_.push_back(k);
@@ -119,7 +120,8 @@ class Confronto {
     if (inizio() > *fine_)
       avverti("Il testo comincia il " + testo_.DataEstrazione(primaTesto) +
               ", dopo l'ultima estrazione dell'archivio, " + numeroEData(archivio_, ultima_) +
-              ": non si può confrontare, e le estrazioni di mezzo, se ce ne sono, mancheranno.");
+              ": non si può confrontare, e le estrazioni di mezzo, se ce ne sono, mancheranno. Cercate un "
+              "testo che cominci prima.");
     else if (const auto prima = dataDi(archivio_, 1); prima && *prima < inizio())
       avverti("Il testo comincia il " + testo_.DataEstrazione(primaTesto) +
               ": le estrazioni precedenti dell'archivio non sono confrontate.");

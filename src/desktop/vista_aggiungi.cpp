@@ -39,6 +39,7 @@ QWidget* vista(const std::shared_ptr<frmAggiungi>& frm, const Confine& confine) 
   etichetta(frm->lblAnteprima, "lblAnteprima");
   auto* avvertenze = legame->area(frm->txtAvvertenze, QStringLiteral("txtAvvertenze"));
   avvertenze->setAccessibleName(QStringLiteral("Avvertenze"));
+  avvertenze->setLineWrapMode(QPlainTextEdit::WidgetWidth);
   avvertenze->setFixedHeight(avvertenze->fontMetrics().lineSpacing() * kRigheAvvertenze + 14);
   tutto->addWidget(avvertenze);
   etichetta(frm->lblDifferenze, "lblDifferenze");

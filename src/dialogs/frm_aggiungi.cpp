@@ -16,9 +16,14 @@ std::string inArchivio(const ArchivioEstrazioni& archivio) {
          archivio.DataEstrazione(ultima) + ".";
 }
 
+std::string nuoveInParole(const Aggiunta& anteprima) {
+  return anteprima.nuove() == 1 ? "1 estrazione, del " + anteprima.archivio.DataEstrazione(anteprima.dal)
+                                : riassunto(anteprima);
+}
+
 std::string anteprimaInParole(const Aggiunta& anteprima) {
   return (anteprima.nuove() == 0 ? "Nessuna estrazione nuova."
-                                 : "Da aggiungere: " + riassunto(anteprima) + ".") +
+                                 : "Da aggiungere: " + nuoveInParole(anteprima) + ".") +
          " Confrontate: " + std::to_string(anteprima.confrontate) + ".";
 }
 
@@ -53,7 +58,8 @@ void frmAggiungi::btnAggiungi_Click() {
     mostra();
     return;
   }
-  const auto aggiunte = "Aggiunte " + riassunto(aggiunta_->anteprima());
+  const auto aggiunte = (aggiunta_->anteprima().nuove() == 1 ? "Aggiunta " : "Aggiunte ") +
+                        nuoveInParole(aggiunta_->anteprima());
   ricomincia();
   cornice().estrazioniAggiunte();
   programma_.servizi.mostra({aggiunte, kTitoloAggiungi});
