@@ -35,55 +35,70 @@ SlotProva gioca(std::vector<int> ruote, std::vector<int> ambate, std::vector<int
   return {101, {}, std::move(ruote), colpi, std::move(ambate), std::move(ambi), std::move(sup)};
 }
 
-TEST_F(Verifica, EveryColpoIsPlayedAndEachHitWritesItsLine) {
-  const auto ambata = gioca({1}, {7}), senzaColpi = gioca({1}, {7}, {}, {}, 0);
-  const auto tutte = gioca({12, 1, 2}, {}, {5, 6, 99}),
-             tutti = gioca({1, 2}, {12}, {12, 34, 99}, {1, 2, 3, 99});
-  const auto sorte = gioca({1}, {}, {}, {9, 3, 1, 2, 4, 99});
-  // The prediction, the last draw, what came out, what is written.
-  const std::tuple<SlotProva, int, std::string, std::string> casi[] = {
-      {ambata, 104, "", " In gioco"},  // the last colpo is the last draw
-      {ambata, 105, "", " Negativo"},
-      {ambata, 103, "104 Ba 7", " In gioco"},  // after the last draw nothing is judged
-      {senzaColpi, 101, "", " In gioco"},
-      {senzaColpi, 102, "102 Ba 7", " Negativo"},
-      {ambata, 105, "101 Ba 7,105 Ba 7", " Negativo"},
-      {ambata, 103, "102 Ba 9 7,103 Ba 7", " Ambata 7 Ba al 1°colpo| Ambata 7 Ba al 2°colpo"},
-      {tutti, 104, "102 Ba 12,102 Ro 12 34,103 Ca 2 34 12,104 Ba 1 2 3",
-       " Ambata 12 Ba al 1°colpo| Ambata 12 Ca al 2°colpo| Ambo 12-34 Ca al 2°colpo|"
-       " Terno in sorti superiori 1 2 3 Ba al 3° colpo"},
-      {gioca({2, 2}, {7}), 102, "102 Ca 7", " Ambata 7 Ca al 1°colpo| Ambata 7 Ca al 1°colpo"},
-      {tutte, 102, "102 Ba 5 6,102 Ca 6 5,102 Naz 5 6",  // Tutte goes along with the first wheel
-       " Ambo 5-6 Ba al 1°colpo| Ambo 5-6 su Tutte (Ba) al 1°colpo| Ambo 5-6 su Tutte (Ca) al 1°colpo|"
-       " Ambo 5-6 su Tutte (Naz) al 1°colpo| Ambo 5-6 Ca al 1°colpo"},
-      {sorte, 104, "102 Ba 1 3,103 Ba 1 2 3 4,104 Ba 1 2 3 4 9",
-       " Ambo in sorti superiori 3 1 Ba al 1° colpo| Quaterna in sorti superiori 3 1 2 4 Ba al 2° colpo|"
-       " Cinquina in sorti superiori 9 3 1 2 4 Ba al 3° colpo"},
-  };
-  for (const auto& [slot, ultima, uscite, esito] : casi) {
-    SCOPED_TRACE(uscite + esito);
-    archivio(ultima, uscite);
-    scriviMetodoProva(p, "M", {slot});
-    EXPECT_THAT(verifica(101, "101"), EndsWith(rapportoDi("| Esito:|" + esito + kFine)));
-    attende(1, esito.find(" al ") != std::string::npos, esito == " In gioco");
-  }
+const SlotProva kAmbata = gioca({1}, {7}), kSenzaColpi = gioca({1}, {7}, {}, {}, 0);
+const SlotProva kTutte = gioca({12, 1, 2}, {}, {5, 6, 99});
+const SlotProva kMolte = gioca({1, 2}, {12}, {12, 34, 99}, {1, 2, 3, 99});
+const SlotProva kSorte = gioca({1}, {}, {}, {9, 3, 1, 2, 4, 99});
+
+struct Giocata {
+  const char* nome;
+  SlotProva slot;
+  int ultima;          ///< the last draw
+  std::string uscite;  ///< as archivioDi() takes them
+  std::string esito;
+};
+
+void PrintTo(const Giocata& caso, std::ostream* dove) { *dove << caso.nome; }
+
+class Giocate : public Verifica, public testing::WithParamInterface<Giocata> {};
+
+TEST_P(Giocate, ArePlayedAtEveryColpoAndEachHitWritesItsLine) {
+  const auto& caso = GetParam();
+  archivio(caso.ultima, caso.uscite);
+  scriviMetodoProva(p, "M", {caso.slot});
+  EXPECT_THAT(verifica(101, "101"), EndsWith(rapportoDi("| Esito:|" + caso.esito + kFine)));
+  attende(1, caso.esito.find(" al ") != std::string::npos, caso.esito == " In gioco");
 }
 
+const Giocata kGiocate[] = {
+    {"last_colpo_is_the_last_draw", kAmbata, 104, "", " In gioco"},
+    {"lost", kAmbata, 105, "", " Negativo"},
+    {"nothing_is_judged_after_the_last_draw", kAmbata, 103, "104 Ba 7", " In gioco"},
+    {"no_colpo_on_the_last_draw", kSenzaColpi, 101, "", " In gioco"},
+    {"no_colpo", kSenzaColpi, 102, "102 Ba 7", " Negativo"},
+    {"before_and_after_its_colpi", kAmbata, 105, "101 Ba 7,105 Ba 7", " Negativo"},
+    {"two_colpi", kAmbata, 103, "102 Ba 9 7,103 Ba 7", " Ambata 7 Ba al 1°colpo| Ambata 7 Ba al 2°colpo"},
+    {"all_kinds", kMolte, 104, "102 Ba 12,102 Ro 12 34,103 Ca 2 34 12,104 Ba 1 2 3",
+     " Ambata 12 Ba al 1°colpo| Ambata 12 Ca al 2°colpo| Ambo 12-34 Ca al 2°colpo|"
+     " Terno in sorti superiori 1 2 3 Ba al 3° colpo"},
+    {"a_wheel_twice", gioca({2, 2}, {7}), 102, "102 Ca 7", " Ambata 7 Ca al 1°colpo| Ambata 7 Ca al 1°colpo"},
+    {"tutte_goes_along_with_the_first_wheel", kTutte, 102, "102 Ba 5 6,102 Ca 6 5,102 Naz 5 6",
+     " Ambo 5-6 Ba al 1°colpo| Ambo 5-6 su Tutte (Ba) al 1°colpo| Ambo 5-6 su Tutte (Ca) al 1°colpo|"
+     " Ambo 5-6 su Tutte (Naz) al 1°colpo| Ambo 5-6 Ca al 1°colpo"},
+    {"a_combination_from_two_to_five", kSorte, 104, "102 Ba 1 3,103 Ba 1 2 3 4,104 Ba 1 2 3 4 9",
+     " Ambo in sorti superiori 3 1 Ba al 1° colpo| Quaterna in sorti superiori 3 1 2 4 Ba al 2° colpo|"
+     " Cinquina in sorti superiori 9 3 1 2 4 Ba al 3° colpo"}};
+
+INSTANTIATE_TEST_SUITE_P(, Giocate, testing::ValuesIn(kGiocate), perNome);
+
 TEST_F(Verifica, AFailureEndsTheRunSilentlyAndLeavesWhatWasWritten) {
-  const auto buona = gioca({1}, {7});
   const auto prima = " Previsione n.°1| Metodo: A| Ruote: Ba| Ambate: 7|| Esito:| Negativo" + kFine;
-  // What stands in B, and what is written of it.
-  const std::pair<std::vector<SlotProva>, std::string> casi[] = {
-      {std::vector(10, buona), ""},
-      {{gioca({1}, std::vector<int>(180, 7))}, ""},
-      {{gioca({12}, {}, {5, 6, 99})},
-       "| Previsione n.°2| Metodo: B| Ruote: Tutte| Ambi Secchi: 5-6|| Esito:"}};
-  for (const char* nome : {"A", "C"}) scriviMetodoProva(p, nome, {buona});
+  const struct {
+    const char* nome;
+    std::vector<SlotProva> slot;  // of B
+    std::string scritto;          // of them
+  } casi[] = {{"ten predictions", std::vector(10, kAmbata), ""},
+              {"a list without an end", {gioca({1}, std::vector<int>(180, 7))}, ""},
+              {"Tutte alone",
+               {gioca({12}, {}, {5, 6, 99})},
+               "| Previsione n.°2| Metodo: B| Ruote: Tutte| Ambi Secchi: 5-6|| Esito:"}};
+  for (const char* nome : {"A", "C"}) scriviMetodoProva(p, nome, {kAmbata});
   archivio(105);
-  for (const auto& [slot, scritto] : casi) {
-    scriviMetodoProva(p, "B", slot);
-    EXPECT_EQ(verifica(101, "101"), rapportoDi(prima + scritto));
-    attende(scritto.empty() ? 1 : 2, 0, 0);
+  for (const auto& caso : casi) {
+    SCOPED_TRACE(caso.nome);
+    scriviMetodoProva(p, "B", caso.slot);
+    EXPECT_EQ(verifica(101, "101"), rapportoDi(prima + caso.scritto));
+    attende(caso.scritto.empty() ? 1 : 2, 0, 0);
   }
   EXPECT_EQ(verifica(101, "101a"), "") << "a number that is none";
   p.scrivi("Metodi/Z.txt", "");
@@ -91,21 +106,27 @@ TEST_F(Verifica, AFailureEndsTheRunSilentlyAndLeavesWhatWasWritten) {
 }
 
 TEST(Numeri, EachRelationIsTheOneThatPlayersKnow) {
-  const std::pair<int (*)(int), std::vector<std::pair<int, int>>> casi[] = {
-      {vert, {{12, 21}, {11, 19}, {19, 11}, {9, 90}, {90, 9}, {5, 50}, {50, 5}, {88, 89}, {89, 88}}},
-      {Diametrale, {{1, 46}, {45, 90}, {46, 1}, {90, 45}}},
-      {Somma30, {{1, 31}, {60, 90}, {61, 1}, {90, 30}}},
-      {Figura, {{9, 9}, {10, 1}, {45, 9}, {46, 1}, {89, 8}, {90, 9}}},
-      {Decina, {{9, 0}, {10, 1}, {90, 9}}},
-      {Cadenza, {{9, 9}, {10, 0}, {47, 7}, {90, 0}}},
-      {Mezzadecina, {{90, 5}, {5, 90}, {1, 6}, {6, 1}, {10, 15}, {15, 10}, {84, 89}, {80, 85}}},
-      {[](int n) { return DistanzaCiclica(n, 10); }, {{55, 45}, {56, 44}, {1, 9}}},
-      {[](int n) { return DifferenzaCiclica(n, 10); }, {{15, 5}, {5, 85}, {10, 90}}},
-      {[](int n) { return MinimoCinque(5, n, 4, 7, 6); }, {{3, 3}, {9, 4}}},
-      {[](int n) { return MassimoTre(5, 4, n); }, {{3, 5}, {9, 9}}},
-  };
-  for (const auto& [relazione, valori] : casi)
-    for (const auto& [n, atteso] : valori) EXPECT_EQ(relazione(n), atteso) << n;
+  const struct {
+    const char* nome;
+    int (*relazione)(int);
+    std::map<int, int> valori;
+  } casi[] = {{"vertibile",
+               vert,
+               {{12, 21}, {11, 19}, {19, 11}, {9, 90}, {90, 9}, {5, 50}, {50, 5}, {88, 89}, {89, 88}}},
+              {"diametrale", Diametrale, {{1, 46}, {45, 90}, {46, 1}, {90, 45}}},
+              {"somma 30", Somma30, {{1, 31}, {60, 90}, {61, 1}, {90, 30}}},
+              {"figura", Figura, {{9, 9}, {10, 1}, {45, 9}, {46, 1}, {89, 8}, {90, 9}}},
+              {"decina", Decina, {{9, 0}, {10, 1}, {90, 9}}},
+              {"cadenza", Cadenza, {{9, 9}, {10, 0}, {47, 7}, {90, 0}}},
+              {"mezzadecina",
+               Mezzadecina,
+               {{90, 5}, {5, 90}, {1, 6}, {6, 1}, {10, 15}, {15, 10}, {84, 89}, {80, 85}}},
+              {"distanza", [](int n) { return DistanzaCiclica(n, 10); }, {{55, 45}, {56, 44}, {1, 9}}},
+              {"differenza", [](int n) { return DifferenzaCiclica(n, 10); }, {{15, 5}, {5, 85}, {10, 90}}},
+              {"minimo", [](int n) { return MinimoCinque(5, n, 4, 7, 6); }, {{3, 3}, {9, 4}}},
+              {"massimo", [](int n) { return MassimoTre(5, 4, n); }, {{3, 5}, {9, 9}}}};
+  for (const auto& caso : casi)
+    for (const auto& [n, atteso] : caso.valori) EXPECT_EQ(caso.relazione(n), atteso) << caso.nome << ' ' << n;
 }
 
 TEST(Valutatori, LookAtTheWheelsUpToVenezia) {

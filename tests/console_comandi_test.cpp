@@ -81,8 +81,6 @@ TEST_F(Console, WritesObjectsWithTheNamesThatTheTableDocuments) {
   }
 }
 
-constexpr auto perNome = [](const auto& info) { return std::string(info.param.nome); };
-
 INSTANTIATE_TEST_SUITE_P(
     Estrazioni, Comandi,
     testing::Values(

@@ -21,17 +21,17 @@ TEST_P(Parole, AreQuotedAsInAShell) {
   EXPECT_EQ(trovate, GetParam().attese);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    , Parole,
-    testing::Values(Caso{"Comment", "  # trova 1", ""}, Caso{"Blanks", "trova  1\t2\r", "[trova][1][2]"},
-                    Caso{"EmptyAndInside", "'' x'y  z'\"a b\"", "[][xy  za b]"},
-                    Caso{"Backslash", "a\\ b \\\"", "[a b][\"]"},
-                    Caso{"InsideQuotes", R"("a\"b\\c\d" '\')", R"([a"b\c\d][\])"},
-                    Caso{"OpenSingle", "'a", "virgolette non chiuse"},
-                    Caso{"OpenDouble", "\"a\\\"", "virgolette non chiuse"},
-                    Caso{"BackslashAtTheEnd", "a \\",
-                         "finisce con una barra rovesciata: un comando sta su una riga sola"}),
-    [](const auto& caso) { return caso.param.nome; });
+const Caso kParole[] = {
+    {"Comment", "  # trova 1", ""},
+    {"Blanks", "trova  1\t2\r", "[trova][1][2]"},
+    {"EmptyAndInside", "'' x'y  z'\"a b\"", "[][xy  za b]"},
+    {"Backslash", "a\\ b \\\"", "[a b][\"]"},
+    {"InsideQuotes", R"("a\"b\\c\d" '\')", R"([a"b\c\d][\])"},
+    {"OpenSingle", "'a", "virgolette non chiuse"},
+    {"OpenDouble", "\"a\\\"", "virgolette non chiuse"},
+    {"BackslashAtTheEnd", "a \\", "finisce con una barra rovesciata: un comando sta su una riga sola"}};
+
+INSTANTIATE_TEST_SUITE_P(, Parole, testing::ValuesIn(kParole), perNome);
 
 }  // namespace
 }  // namespace vaticlo::prova

@@ -1,6 +1,5 @@
 #include <functional>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -15,15 +14,20 @@ namespace {
 
 /// What happens to a control, and its picture and its timer then.
 template <typename Stato>
-using Passo = std::tuple<const char*, std::function<void(Stato&)>, int, bool>;
+struct Passo {
+  const char* nome;
+  std::function<void(Stato&)> fai;
+  int immagine;
+  bool timer;
+};
 
 /// Runs the steps one after another on the same control.
 template <typename Stato>
 void percorri(Stato& stato, const std::vector<Passo<Stato>>& passi) {
-  for (const auto& [cosa, fai, immagine, timer] : passi) {
-    fai(stato);
-    EXPECT_EQ(static_cast<int>(stato.aspetto()), immagine) << cosa;
-    EXPECT_EQ(stato.timer1Acceso(), timer) << cosa;
+  for (const auto& passo : passi) {
+    passo.fai(stato);
+    EXPECT_EQ(static_cast<int>(stato.aspetto()), passo.immagine) << passo.nome;
+    EXPECT_EQ(stato.timer1Acceso(), passo.timer) << passo.nome;
   }
 }
 

@@ -68,18 +68,20 @@ TEST_F(Caso, AStopKeepsTheRunsThatAreDone) {
 }
 
 TEST_F(Caso, WhatCannotBeRunIsRefusedInWords) {
-  const std::tuple<std::function<void()>, const char*> casi[] = {
-      {[&] { frm.estrazioni.txtestr[1].Text("121"); },
-       "[Attenzione] Il numero di un'estrazione dev'essere compreso tra 1 e 120!"},
-      {[&] { frm.estrazioni.txtestr[0].Text("9"), frm.estrazioni.txtestr[1].Text("8"); },
-       "[Attenzione] La prima estrazione non può venire dopo l'ultima!"},
-      {[&] { frm.estrazioni.txtestr[1].Text("120"), frm.txtprove.Text("0"); },
-       "[Attenzione] Le prove devono essere da 1 a 1000000!"},
-      {[&] { frm.txtprove.Text("10"), frm.txtseme.Text(""); },
-       "[Attenzione] Il seme dev'essere un numero da 0 a 999999999!"},
-      {[&] { frm.txtseme.Text("3"), frm.metodo.scegliNome("Nessuno"); },
-       "[Attenzione] Non esiste il file del metodo selezionato!"}};
-  for (const auto& [cambia, detto] : casi) {
+  const struct {
+    std::function<void()> cambia;
+    const char* detto;
+  } passi[] = {{[&] { frm.estrazioni.txtestr[1].Text("121"); },
+                "[Attenzione] Il numero di un'estrazione dev'essere compreso tra 1 e 120!"},
+               {[&] { frm.estrazioni.txtestr[0].Text("9"), frm.estrazioni.txtestr[1].Text("8"); },
+                "[Attenzione] La prima estrazione non può venire dopo l'ultima!"},
+               {[&] { frm.estrazioni.txtestr[1].Text("120"), frm.txtprove.Text("0"); },
+                "[Attenzione] Le prove devono essere da 1 a 1000000!"},
+               {[&] { frm.txtprove.Text("10"), frm.txtseme.Text(""); },
+                "[Attenzione] Il seme dev'essere un numero da 0 a 999999999!"},
+               {[&] { frm.txtseme.Text("3"), frm.metodo.scegliNome("Nessuno"); },
+                "[Attenzione] Non esiste il file del metodo selezionato!"}};
+  for (const auto& [cambia, detto] : passi) {
     p.servizi.messaggi.clear();
     cambia();
     frm.btnElabora_Click();

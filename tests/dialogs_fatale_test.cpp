@@ -50,43 +50,52 @@ struct Fine {
   frmPrincipale principale{p.programma};
 };
 
-/// What ends the program, the number of its failure, what the box names, the heading of the guide.
-using Caso = std::tuple<void (Fine::*)(), int, std::vector<std::string>, std::string>;
+/// What ends the program, and what the box says of it.
+struct Caso {
+  const char* nome;
+  void (Fine::*fai)();
+  int numero;
+  std::vector<std::string> nominati;
+  std::string capitolo;  ///< the heading of the guide
+};
+
+void PrintTo(const Caso& caso, std::ostream* dove) { *dove << caso.nome; }
 
 class MessaggioFatale : public testing::TestWithParam<Caso> {};
 
 TEST_P(MessaggioFatale, SaysWhatHappenedWhereWhatToDoAndWhichChapterOfTheGuideHelps) {
-  const auto& [fai, numero, nomi, capitolo] = GetParam();
+  const auto& caso = GetParam();
   Fine fine;
   std::string box;
   try {
-    (fine.*fai)();
+    (fine.*caso.fai)();
   } catch (const RuntimeFailure& failure) {
     box = messaggioFatale(failure);
   }
-  EXPECT_THAT(box, HasSubstr("Errore di run-time " + std::to_string(numero) + ": "));
+  EXPECT_THAT(box, HasSubstr("Errore di run-time " + std::to_string(caso.numero) + ": "));
   EXPECT_THAT(box, HasSubstr("restano com'erano all'ultimo salvataggio"));
-  EXPECT_THAT(box, HasSubstr("«" + capitolo + "»"));
-  for (const auto& nome : nomi) EXPECT_THAT(box, HasSubstr(nome));
+  EXPECT_THAT(box, HasSubstr("«" + caso.capitolo + "»"));
+  for (const auto& nome : caso.nominati) EXPECT_THAT(box, HasSubstr(nome));
   std::ifstream guida(VATICLO_GUIDA_MD);
-  EXPECT_THAT(std::string({std::istreambuf_iterator<char>(guida), {}}), HasSubstr("# " + capitolo + "\n"));
+  EXPECT_THAT(std::string({std::istreambuf_iterator<char>(guida), {}}),
+              HasSubstr("# " + caso.capitolo + "\n"));
 }
 
 const std::string kInGioco = "\"Previsioni in Gioco\"", kDecima = "La decima previsione di un metodo";
 const std::string kErrore = "Se il programma si chiude con un errore";
 
-INSTANTIATE_TEST_SUITE_P(
-    Of, MessaggioFatale,
-    testing::Values(Caso{&Fine::dieci, 9, {"\"Mio\"", "dieci", kInGioco}, kDecima},
-                    Caso{&Fine::dieciNellEditor, 9, {"\"Mio\"", "dieci"}, kDecima},
-                    Caso{&Fine::soloTutte, 9, {"n. 2 del metodo \"Mio\"", "Ba-Tutte"}, "Tutte da sola"},
-                    Caso{&Fine::senzaFine, 9, {"n. 1 del metodo \"Mio\"", "liste"}, "Creare una previsione"},
-                    Caso{&Fine::estraneo, 5, {"nota.txt", kInGioco}, kErrore},
-                    Caso{&Fine::campoVuoto, 13, {"Il numero 2 di Cagliari", "55"}, "Inserire un'estrazione"},
-                    Caso{&Fine::ricerca, 6, {"40000"}, "La ricerca di un'estrazione"},
-                    Caso{&Fine::archivioPieno, 9, {"15.000", "\"Vaticla\""}, "Il resto"},
-                    Caso{&Fine::disco, 61, {"Stat.txt", "posto"}, kErrore}),
-    [](const auto& caso) { return std::to_string(caso.index + 1); });
+const Caso kMessaggioFatale[] = {
+    {"ten_predictions", &Fine::dieci, 9, {"\"Mio\"", "dieci", kInGioco}, kDecima},
+    {"ten_predictions_in_the_editor", &Fine::dieciNellEditor, 9, {"\"Mio\"", "dieci"}, kDecima},
+    {"tutte_alone", &Fine::soloTutte, 9, {"n. 2 del metodo \"Mio\"", "Ba-Tutte"}, "Tutte da sola"},
+    {"endless_list", &Fine::senzaFine, 9, {"n. 1 del metodo \"Mio\"", "liste"}, "Creare una previsione"},
+    {"a_file_that_is_no_method", &Fine::estraneo, 5, {"nota.txt", kInGioco}, kErrore},
+    {"an_empty_field", &Fine::campoVuoto, 13, {"Il numero 2 di Cagliari", "55"}, "Inserire un'estrazione"},
+    {"a_number_that_is_too_large", &Fine::ricerca, 6, {"40000"}, "La ricerca di un'estrazione"},
+    {"a_full_archive", &Fine::archivioPieno, 9, {"15.000", "\"Vaticla\""}, "Il resto"},
+    {"a_full_disk", &Fine::disco, 61, {"Stat.txt", "posto"}, kErrore}};
+
+INSTANTIATE_TEST_SUITE_P(Of, MessaggioFatale, testing::ValuesIn(kMessaggioFatale), perNome);
 
 }  // namespace
 }  // namespace vaticlo::prova

@@ -27,28 +27,31 @@ TEST(Vaticla, ACheckRunsWhenTheDrawOrTheChoiceOfMethodsChanges) {
       frm.btnTrova_Click();
     };
   };
-  const std::tuple<const char*, std::function<void()>, bool> eventi[] = {
-      {"opening", [&] { frm.Form_Load(); }, true},
-      {"the bar moves", [&] { barra.Value(2); }, true},
-      {"the bar stays", [&] { barra.Value(2); }, false},
-      {"the other value of draw 1", [&] { barra.Value(1); }, true},
-      {"Scegli", [&] { frm.optSelMetodo_Click(1); }, true},
-      {"a name typed", [&] { lista.digita("Altro"); }, false},
-      {"Scegli once more", [&] { frm.optSelMetodo_Click(1); }, true},
-      {"an item of the list", [&] { lista.scegli(1); }, true},
-      {"Tutti", [&] { frm.optSelMetodo_Click(0); }, true},
-      {"a search", cerca("5"), true},
-      {"a search of the draw shown", cerca("5"), false},
-      {"a search by date", cerca("12/3/2005"), true},
-      {"a search that is refused", cerca("x"), false}};
-  for (const auto& [cosa, fai, verifica] : eventi) {
+  const struct {
+    const char* nome;
+    std::function<void()> fai;
+    bool verifica;  // whether a check runs
+  } eventi[] = {{"opening", [&] { frm.Form_Load(); }, true},
+                {"the bar moves", [&] { barra.Value(2); }, true},
+                {"the bar stays", [&] { barra.Value(2); }, false},
+                {"the other value of draw 1", [&] { barra.Value(1); }, true},
+                {"Scegli", [&] { frm.optSelMetodo_Click(1); }, true},
+                {"a name typed", [&] { lista.digita("Altro"); }, false},
+                {"Scegli once more", [&] { frm.optSelMetodo_Click(1); }, true},
+                {"an item of the list", [&] { lista.scegli(1); }, true},
+                {"Tutti", [&] { frm.optSelMetodo_Click(0); }, true},
+                {"a search", cerca("5"), true},
+                {"a search of the draw shown", cerca("5"), false},
+                {"a search by date", cerca("12/3/2005"), true},
+                {"a search that is refused", cerca("x"), false}};
+  for (const auto& evento : eventi) {
     if (p.esiste("Esiti.txt")) p.scrivi("Esiti.txt", "as it was");
-    fai();
-    EXPECT_EQ(p.contenuto("Esiti.txt") != "as it was", verifica) << cosa;
-    if (cosa == std::string("a search")) {
+    evento.fai();
+    EXPECT_EQ(p.contenuto("Esiti.txt") != "as it was", evento.verifica) << evento.nome;
+    if (evento.nome == std::string("a search")) {
       EXPECT_THAT(p.servizi.domande[0].first, HasSubstr("dell'estrazione (compreso tra 1 e 9) da"));
     }
-    if (cosa == std::string("Scegli once more")) {
+    if (evento.nome == std::string("Scegli once more")) {
       EXPECT_EQ(lista.Text(), "Altro") << "the name stays";
     }
   }
@@ -66,6 +69,7 @@ TEST(Vaticla, JumpsToDrawsWithPredictionsAndMarksWhatHasWonBesideTheReport) {
                     {{.estrazione = 101, .ruote = {1}, .colpi = 2, .ambi = {7, 8, 99}}, {.estrazione = 151}});
   frmMetodo frm(p.programma, cornice);
   frm.Form_Load();
+  // The lines that stand out, each with the letter of its tone: V has won, A waits, N is lost.
   const auto tono = [&] {
     std::string toni;
     for (const auto& rilievo : frm.RichTextBox1.Rilievi())
@@ -73,23 +77,31 @@ TEST(Vaticla, JumpsToDrawsWithPredictionsAndMarksWhatHasWonBesideTheReport) {
     return toni;
   };
   const std::string vuota = "Nessuna previsione su questa estrazione";
-  // What is done; the draw shown, the note, the lines that stand out.
-  const std::tuple<std::function<void()>, const char*, std::string, const char*> passi[] = {
-      {[] {}, "150", vuota, ""},
-      {[&] { frm.btnSeguente_Click(); }, "150", "Non ci sono previsioni dopo questa estrazione", ""},
-      {[&] { frm.btnPrecedente_Click(); }, "148", "", "7A "},
-      {[&] { frm.btnPrecedente_Click(); }, "102", "", "6V 14N "},
-      {[&] { frm.btnPrecedente_Click(); }, "101", "", "6V "},
-      {[&] { frm.btnPrecedente_Click(); }, "101", "Non ci sono previsioni prima di questa estrazione", "6V "},
-      {[&] { frm.optSelMetodo_Click(1); }, "101", vuota, ""},  // Metodo 1
-      {[&] { frm.btnSeguente_Click(); }, "102", "", "6V 14N "},
-      {[&] { frm.optSelMetodo_Click(0), frm.estrazione.VScroll1.Value(104); }, "103",
-       vuota + " · In verde i numeri vincenti", ""}};
-  for (const auto& [fai, estrazione, nota, righe] : passi) {
-    fai();
-    EXPECT_EQ(frm.estrazione.lblnestr.Caption(), estrazione);
-    EXPECT_EQ(frm.lblNota.Caption(), nota);
-    EXPECT_EQ(tono(), righe) << estrazione;
+  const struct {
+    const char* nome;
+    std::function<void()> fai;
+    const char* estrazione;  // shown then
+    std::string nota;
+    const char* righe;
+  } passi[] = {{"opening", [] {}, "150", vuota, ""},
+               {"next of the last one", [&] { frm.btnSeguente_Click(); }, "150",
+                "Non ci sono previsioni dopo questa estrazione", ""},
+               {"previous", [&] { frm.btnPrecedente_Click(); }, "148", "", "7A "},
+               {"previous, over empty draws", [&] { frm.btnPrecedente_Click(); }, "102", "", "6V 14N "},
+               {"previous of another method", [&] { frm.btnPrecedente_Click(); }, "101", "", "6V "},
+               {"previous of the first one", [&] { frm.btnPrecedente_Click(); }, "101",
+                "Non ci sono previsioni prima di questa estrazione", "6V "},
+               {"Metodo 1", [&] { frm.optSelMetodo_Click(1); }, "101", vuota, ""},
+               {"next of Metodo 1", [&] { frm.btnSeguente_Click(); }, "102", "", "6V 14N "},
+               {"a draw with numbers that have won",
+                [&] { frm.optSelMetodo_Click(0), frm.estrazione.VScroll1.Value(104); }, "103",
+                vuota + " · In verde i numeri vincenti", ""}};
+  for (const auto& passo : passi) {
+    SCOPED_TRACE(passo.nome);
+    passo.fai();
+    EXPECT_EQ(frm.estrazione.lblnestr.Caption(), passo.estrazione);
+    EXPECT_EQ(frm.lblNota.Caption(), passo.nota);
+    EXPECT_EQ(tono(), passo.righe);
   }
   const auto& bari = frm.estrazione.txtestr;
   EXPECT_EQ(bari[0].Rilievo(),

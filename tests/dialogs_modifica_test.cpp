@@ -12,7 +12,7 @@ class Modifica : public testing::Test {
     frm.Form_Load();
     frm.Form_Activate();
   }
-  /// What the window shows: bar, number and date.
+  /// What the window shows, as "4/4 n.3 12/3/2005": the bar and its end, number and date.
   [[nodiscard]] std::string vista() const {
     const auto& e = frm.estrazione;
     return std::to_string(e.VScroll1.Value()) + "/" + std::to_string(e.VScroll1.Max()) + " n." +
@@ -69,6 +69,7 @@ TEST_F(Modifica, WithoutAYesOrAfterAFailureTheArchiveIsAsItWas) {
   };
   auto& ultimo = frm.estrazione.txtestr[54];
   for (const auto& [testo, numero] : {std::pair{"", 13}, {"x", 13}, {"256", 6}}) {
+    SCOPED_TRACE(testo);
     ultimo.Text(testo);
     senzaTraccia(&frmModifica::btnSalva_Click, numero);
   }
@@ -116,24 +117,29 @@ struct Inserisci : testing::Test {
 TEST_F(Inserisci, ANumberIsTestedForItsRangeAndAsATextAgainstTheFieldsAtItsLeft) {
   const std::string valore = "Inserire un valore valido compreso tra 1 e 90";
   const std::string gia = " è stato già inserito come estratto nella ruota";
-  // A field, what it holds then, and the message; the others keep what they have.
-  const std::tuple<std::size_t, const char*, std::string> casi[] = {{0, "  ", valore},
-                                                                    {0, "0 ", valore},
-                                                                    {0, "91", valore},
-                                                                    {0, "90", ""},
-                                                                    {1, "5 ", ""},
-                                                                    {2, "90", "''90''" + gia},
-                                                                    {2, "5 ", "''5 ''" + gia},
-                                                                    {2, " 5", ""},
-                                                                    {4, "5 ", "''5 ''" + gia},
-                                                                    {5, "90", ""},
-                                                                    {6, "1 ", ""},
-                                                                    {5, "1 ", ""}};
-  for (const auto& [f, testo, messaggio] : casi) {
+  const struct {
+    const char* nome;
+    std::size_t campo;  // the others keep what they have
+    const char* testo;
+    std::string messaggio;
+  } passi[] = {{"blanks", 0, "  ", valore},
+               {"zero", 0, "0 ", valore},
+               {"above ninety", 0, "91", valore},
+               {"ninety", 0, "90", ""},
+               {"another number", 1, "5 ", ""},
+               {"twice", 2, "90", "''90''" + gia},
+               {"twice with the blank", 2, "5 ", "''5 ''" + gia},
+               {"the same number as another text", 2, " 5", ""},
+               {"twice beyond another field", 4, "5 ", "''5 ''" + gia},
+               {"on another wheel", 5, "90", ""},
+               {"to its right", 6, "1 ", ""},
+               {"now also at its left", 5, "1 ", ""}};
+  for (const auto& passo : passi) {
+    SCOPED_TRACE(passo.nome);
     p.servizi.messaggi.clear();
-    frm.txtestr[f].Text(testo);
-    EXPECT_EQ(frm.txtestr[f].Validate(), !messaggio.empty()) << f << ' ' << testo;
-    EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, messaggio);
+    frm.txtestr[passo.campo].Text(passo.testo);
+    EXPECT_EQ(frm.txtestr[passo.campo].Validate(), !passo.messaggio.empty());
+    EXPECT_EQ(p.servizi.messaggi.empty() ? "" : p.servizi.messaggi[0].testo, passo.messaggio);
   }
 }
 

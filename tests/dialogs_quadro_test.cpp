@@ -52,17 +52,20 @@ TEST_F(Quadro, ShowsEveryMethodAndThePredictionsOfTheChosenOne) {
 }
 
 TEST_F(Quadro, ItsRangeIsTwoNumbersOrTwoDates) {
-  for (const auto& [dal, al, intervallo] : {std::tuple{"105", "", "105-110"},
-                                            {"", "108", "105-108"},
-                                            {"7.1.1939", "", "1-108"},
-                                            {"2/1/2005", "102", "2-102"},
-                                            {"", "1", "1-1"},
-                                            {"50", "", "50-110"}}) {
-    if (*dal != '\0') frm.txtDal.Text(dal);
+  const struct {
+    const char* nome;
+    std::string dal, al, intervallo;  // what is typed stays for the next step
+  } passi[] = {
+      {"first number", "105", "", "105-110"},      {"last number", "", "108", "105-108"},
+      {"date of a draw", "7.1.1939", "", "1-108"}, {"date before a draw", "2/1/2005", "102", "2-102"},
+      {"last before first", "", "1", "1-1"},       {"first after last", "50", "", "50-110"}};
+  for (const auto& passo : passi) {
+    SCOPED_TRACE(passo.nome);
+    if (!passo.dal.empty()) frm.txtDal.Text(passo.dal);
     EXPECT_FALSE(frm.txtDal_Validate());
-    if (*al != '\0') frm.txtAl.Text(al);
+    if (!passo.al.empty()) frm.txtAl.Text(passo.al);
     EXPECT_FALSE(frm.txtAl_Validate());
-    EXPECT_EQ(frm.txtDal.Text() + "-" + frm.txtAl.Text(), intervallo);
+    EXPECT_EQ(frm.txtDal.Text() + "-" + frm.txtAl.Text(), passo.intervallo);
   }
   EXPECT_EQ(colonna(frm.metodi, 2), "3|0|0|");
   EXPECT_THAT(p.servizi.messaggi, IsEmpty());

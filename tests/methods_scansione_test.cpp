@@ -4,12 +4,12 @@
 namespace vaticlo::prova {
 namespace {
 
-/// An entry of a report: its lines, parted by "|", and the closing rule.
+/// An entry of a report, given as to rapportoDi(), and the closing rule.
 std::string voce(const std::string& righe) {
   return rapportoDi(righe + "|___________________________________");
 }
 
-/// The window of a scan, which notes what it is told.
+/// The window of a scan, which notes what it is told: "0 max2 1 report" of the progress bar and of the end.
 struct PannelloProva : PannelloScansione {
   [[nodiscard]] SceltaMetodo scelta() const override { return {}; }
   [[nodiscard]] std::string txtColpi_Text() const override { return ultime; }
@@ -34,25 +34,36 @@ class Scans : public testing::Test {
   PannelloProva frm;
 };
 
-TEST_F(Scans, InPlayLeavesOutWhatHasWonByTheRulesOfItsBets) {
+/// The lists of a prediction, and whether it is still in play.
+struct Aperta {
+  const char* nome;
+  Celle ruote, ambate, ambi, sup;
+  bool inGioco;
+};
+
+void PrintTo(const Aperta& caso, std::ostream* dove) { *dove << caso.nome; }
+
+class InPlay : public Scans, public testing::WithParamInterface<Aperta> {};
+
+TEST_P(InPlay, LeavesOutWhatHasWonByTheRulesOfItsBets) {
+  const auto& caso = GetParam();
   archivioDi(103, "101 Ba 33, 102 Ba 1 2, 102 Ro 5 6 7").scrivi(p);
-  // Ruote, ambate, ambi, sorti; whether the prediction is still in play.
-  const std::tuple<const char*, Celle, Celle, Celle, Celle, bool> casi[] = {
-      {"an ambata", {2, 1}, {9, 1}, {}, {}, false},
-      {"an ambata on Tutte alone", {12}, {1}, {}, {}, true},
-      {"an ambata of the calculation draw", {1}, {33}, {}, {}, true},
-      {"an ambo outside its wheels", {1}, {}, {5, 6, 99}, {}, true},
-      {"an ambo on Tutte beside a wheel", {1, 12}, {}, {5, 6, 99}, {}, false},
-      {"one place of a combination", {8, 1}, {}, {}, {1, 5, 99}, true},
-      {"two places of a combination", {1, 8}, {}, {}, {1, 5, 6, 99}, false},
-      {"six places of a combination", {8}, {}, {}, {5, 5, 6, 6, 7, 7, 99}, true},
-      {"a combination on Tutte alone", {12}, {}, {}, {5, 6, 99}, true}};
-  for (const auto& [perche, ruote, ambate, ambi, sup, atteso] : casi) {
-    scriviMetodoProva(p, "M", {{101, {}, ruote, 10, ambate, ambi, sup}});
-    EXPECT_EQ(!inGioco().empty(), atteso) << perche;
-    EXPECT_EQ(frm.eventi, atteso ? "0 max1 1 report" : "0 max1 1 nothing") << perche;
-  }
+  scriviMetodoProva(p, "M", {{101, {}, caso.ruote, 10, caso.ambate, caso.ambi, caso.sup}});
+  EXPECT_EQ(!inGioco().empty(), caso.inGioco);
+  EXPECT_EQ(frm.eventi, caso.inGioco ? "0 max1 1 report" : "0 max1 1 nothing");
 }
+
+const Aperta kInPlay[] = {{"ambata", {2, 1}, {9, 1}, {}, {}, false},
+                          {"ambata_on_tutte_alone", {12}, {1}, {}, {}, true},
+                          {"ambata_of_the_calculation_draw", {1}, {33}, {}, {}, true},
+                          {"ambo_outside_its_wheels", {1}, {}, {5, 6, 99}, {}, true},
+                          {"ambo_on_tutte_beside_a_wheel", {1, 12}, {}, {5, 6, 99}, {}, false},
+                          {"one_place_of_a_sorte", {8, 1}, {}, {}, {1, 5, 99}, true},
+                          {"two_places_of_a_sorte", {1, 8}, {}, {}, {1, 5, 6, 99}, false},
+                          {"six_places_of_a_sorte", {8}, {}, {}, {5, 5, 6, 6, 7, 7, 99}, true},
+                          {"sorte_on_tutte_alone", {12}, {}, {}, {5, 6, 99}, true}};
+
+INSTANTIATE_TEST_SUITE_P(, InPlay, testing::ValuesIn(kInPlay), perNome);
 
 TEST_F(Scans, WinnersAreWrittenWithTheHitsOfTheirFirstWinningColpo) {
   archivioDi(105, "105 Ba 12, 105 Ca 34").scrivi(p);
@@ -63,34 +74,47 @@ TEST_F(Scans, WinnersAreWrittenWithTheHitsOfTheirFirstWinningColpo) {
                              "| Ambata 12 Ba al 4°colpo| Ambata 34 Ca al 4°colpo"));
 }
 
-TEST_F(Scans, WinnersCountByTheLimitOfTheLastDraws) {
+const std::string kSuTutte = " Ambo 8-9 su Tutte (Na) al 5°colpo| Ambo 8-9 su Tutte (Ro) al 5°colpo";
+const std::string kOgniGiocata = " Ambata 9 Na al 5°colpo| Ambo 8-9 Na al 5°colpo|" + kSuTutte +
+                                 "| Ambo in sorti superiori 9 8 Na al 5° colpo";
+
+struct Limite {
+  const char* nome;
+  int ultime;  ///< so many draws count, the last ones
+  Celle ruote, ambate, ambi, sup;
+  std::optional<std::string> esito;  ///< the hits; listed without any when empty, not listed without a value
+  int colpi = 6;
+};
+
+void PrintTo(const Limite& caso, std::ostream* dove) { *dove << caso.nome; }
+
+class Winners : public Scans, public testing::WithParamInterface<Limite> {};
+
+TEST_P(Winners, CountByTheLimitOfTheLastDraws) {
+  const auto& caso = GetParam();
   archivioDi(110, "108 Ba 11 12 13 14 15, 109 Ba 21, 110 Ba 1 2 3 4 5, 110 Na 8 9, 110 Ro 9 8").scrivi(p);
-  const std::string tutte = " Ambo 8-9 su Tutte (Na) al 5°colpo| Ambo 8-9 su Tutte (Ro) al 5°colpo";
-  const auto ogniGiocata = " Ambata 9 Na al 5°colpo| Ambo 8-9 Na al 5°colpo|" + tutte +
-                           "| Ambo in sorti superiori 9 8 Na al 5° colpo";
-  // How many last draws count; ruote, ambate, ambi, sorti; the hits. "-": not listed, empty: listed without.
-  const std::tuple<const char*, Celle, Celle, Celle, Celle, std::string> casi[] = {
-      {"1", {1}, {1}, {}, {}, " Ambata 1 Ba al 5°colpo"},
-      {"1", {1}, {1, 21}, {}, {}, "-"},
-      {"2", {1}, {1, 21}, {}, {}, " Ambata 21 Ba al 4°colpo"},
-      {"1", {1}, {}, {}, {5, 9, 4, 3, 2, 1, 99}, " Cinquina in sorti superiori 5 4 3 2 1 Ba al 5° colpo"},
-      {"3", {1}, {}, {}, {5, 4, 3, 2, 1, 99}, ""},
-      {"3", {1}, {}, {}, {1, 2, 3, 4, 99}, ""},
-      {"3", {1}, {}, {}, {11, 12, 13, 14, 99}, " Quaterna in sorti superiori 11 12 13 14 Ba al 3° colpo"},
-      {"3", {1}, {}, {}, {1, 2, 3, 99}, " Terno in sorti superiori 1 2 3 Ba al 5° colpo"},
-      {"1", {1, 6, 12}, {}, {8, 9, 99}, {}, tutte + "| Ambo 8-9 Na al 5°colpo"},
-      {"1", {6, 12}, {9}, {8, 9, 99}, {9, 8, 99}, ogniGiocata}};
-  for (const auto& [ultime, ruote, ambate, ambi, sup, esito] : casi) {
-    frm.ultime = ultime;
-    scriviMetodoProva(p, "M", {{105, {}, ruote, 6, ambate, ambi, sup}});
-    const auto testo = vincenti();
-    EXPECT_EQ(testo.substr(std::min(testo.find(" Esito:"), testo.size())),
-              esito == "-" ? "" : voce(" Esito: |" + esito));
-    EXPECT_EQ(testo.empty(), esito == "-") << testo;
-  }
-  scriviMetodoProva(p, "M", {{.estrazione = 105, .ruote = {1}, .colpi = 5, .ambate = {1}}});
-  EXPECT_EQ(vincenti(), "") << "its last colpo is the last draw";
+  frm.ultime = std::to_string(caso.ultime);
+  scriviMetodoProva(p, "M", {{105, {}, caso.ruote, caso.colpi, caso.ambate, caso.ambi, caso.sup}});
+  const auto testo = vincenti();
+  EXPECT_EQ(testo.substr(std::min(testo.find(" Esito:"), testo.size())),
+            caso.esito ? voce(" Esito: |" + *caso.esito) : "");
+  EXPECT_EQ(testo.empty(), !caso.esito) << testo;
 }
+
+const Limite kWinners[] = {
+    {"on_the_last_draw", 1, {1}, {1}, {}, {}, " Ambata 1 Ba al 5°colpo"},
+    {"won_before_the_limit", 1, {1}, {1, 21}, {}, {}, std::nullopt},
+    {"at_the_limit", 2, {1}, {1, 21}, {}, {}, " Ambata 21 Ba al 4°colpo"},
+    {"six", 1, {1}, {}, {}, {5, 9, 4, 3, 2, 1, 99}, " Cinquina in sorti superiori 5 4 3 2 1 Ba al 5° colpo"},
+    {"all_of_five", 3, {1}, {}, {}, {5, 4, 3, 2, 1, 99}, ""},
+    {"all_of_four", 3, {1}, {}, {}, {1, 2, 3, 4, 99}, ""},
+    {"four", 3, {1}, {}, {}, {11, 12, 13, 14, 99}, " Quaterna in sorti superiori 11 12 13 14 Ba al 3° colpo"},
+    {"all_of_three", 3, {1}, {}, {}, {1, 2, 3, 99}, " Terno in sorti superiori 1 2 3 Ba al 5° colpo"},
+    {"ambo_on_tutte", 1, {1, 6, 12}, {}, {8, 9, 99}, {}, kSuTutte + "| Ambo 8-9 Na al 5°colpo"},
+    {"all_kinds", 1, {6, 12}, {9}, {8, 9, 99}, {9, 8, 99}, kOgniGiocata},
+    {"last_colpo_is_the_last_draw", 1, {1}, {1}, {}, {}, std::nullopt, 5}};
+
+INSTANTIATE_TEST_SUITE_P(, Winners, testing::ValuesIn(kWinners), perNome);
 
 TEST_F(Scans, AFailureEndsThemAndKeepsTheLinesWrittenBefore) {
   archivioDi(103).scrivi(p);

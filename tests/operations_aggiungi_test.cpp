@@ -26,29 +26,33 @@ TEST(AddedDraws, AreFetchedAgainOnlyWhenTheyHaveChanged) {
   }
 }
 
-TEST(AddedDraws, AreNoneOfABadServer) {
+struct Cattivo {
+  const char* nome;
+  std::string risposta, detto;  ///< by the server, and by the program of it
+};
+
+void PrintTo(const Cattivo& caso, std::ostream* dove) { *dove << caso.nome; }
+
+class BadServer : public testing::TestWithParam<Cattivo> {};
+
+TEST_P(BadServer, GivesNoDraws) {
   ProgrammaProva p;
-  const ServerProva server({{"/accesso", risposta("\r\n<!DOCTYPE html><html>Entrate qui</html>")},
-                            {"/errore", "HTTP/1.1 503 Service Unavailable\r\nContent-Length: 0\r\n\r\n"},
-                            {"/mozzo", "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n" + kNuova},
-                            {"/sbagliato", risposta(kNuova + "2005/03/17\tBA\t1\t2\t3\t4\n")},
-                            {"/rovinato", risposta("\x1F\x8Bxyz")},
-                            {"/vuoto", risposta("")},
-                            {"/uguale", "HTTP/1.1 304 Not Modified\r\nConnection: close\r\n\r\n"}});
-  for (const auto& [percorso, detto] : {std::pair{"/accesso", "una pagina web"},
-                                        {"/errore", "il codice 503"},
-                                        {"/mozzo", "interrotta"},
-                                        {"/sbagliato", "riga 2: attesa la forma"},
-                                        {"/rovinato", "è rovinato"},
-                                        {"/vuoto", "è vuoto"},
-                                        {"/uguale", "il codice 304"}}) {
-    p.servizi.messaggi.clear();
-    EXPECT_FALSE(estrazioniDaInternet(p.programma, server.indirizzo(percorso)));
-    EXPECT_THAT(p.servizi.detti(),
-                ElementsAre(testing::AllOf(HasSubstr(detto), EndsWith("L'archivio è rimasto com'era."))));
-  }
-  EXPECT_FALSE(estrazioniDaInternet(p.programma, "http://127.0.0.1:1/"));
+  const ServerProva server({{"/", GetParam().risposta}});
+  EXPECT_FALSE(estrazioniDaInternet(p.programma, server.indirizzo("/")));
+  EXPECT_THAT(p.servizi.detti(), ElementsAre(testing::AllOf(HasSubstr(GetParam().detto),
+                                                            EndsWith("L'archivio è rimasto com'era."))));
 }
+
+const Cattivo kBadServer[] = {
+    {"login_page", risposta("\r\n<!DOCTYPE html><html>Entrate qui</html>"), "una pagina web"},
+    {"unavailable", "HTTP/1.1 503 Service Unavailable\r\nContent-Length: 0\r\n\r\n", "il codice 503"},
+    {"cut_short", "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n" + kNuova, "interrotta"},
+    {"wrong_line", risposta(kNuova + "2005/03/17\tBA\t1\t2\t3\t4\n"), "riga 2: attesa la forma"},
+    {"damaged_gzip", risposta("\x1F\x8Bxyz"), "è rovinato"},
+    {"nothing", risposta(""), "è vuoto"},
+    {"unchanged_though_new", "HTTP/1.1 304 Not Modified\r\nConnection: close\r\n\r\n", "il codice 304"}};
+
+INSTANTIATE_TEST_SUITE_P(, BadServer, testing::ValuesIn(kBadServer), perNome);
 
 TEST(AddedDraws, AreComparedAgainWhenTheArchiveHasChangedMeanwhile) {
   ProgrammaProva p;

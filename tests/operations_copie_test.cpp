@@ -15,6 +15,7 @@ class Copie : public testing::Test {
     scriviMetodoProva(p, "M", {{.estrazione = 2}, {.estrazione = 3}});
     scriviMetodoProva(p, "N", {});
   }
+  /// The copies, each as "name: what it holds; ".
   [[nodiscard]] std::string elenco() const {
     std::string tutte;
     for (const auto& copia : elencoCopie(p.cartella())) tutte += copia.nome + ": " + contenuto(copia) + "; ";
@@ -26,34 +27,41 @@ class Copie : public testing::Test {
   ProgrammaProva p;
 };
 
-TEST_F(Copie, AreMadeByWhatTakesAwayOrWritesOver) {
-  const auto importa = [this] {
-    p.scrivi("uno.txt", "2005/01/08\tBA\t1\t2\t3\t4\t5\n");
-    p.servizi.scelto = p.radice / "uno.txt";
-    importaEstrazioniDaFile(p.programma);
-  };
-  const std::string archivio = "archivio-2026-03-14: 3 estrazioni, l'ultima del 12/3/2005; ";
-  const std::string metodi = "metodi-2026-03-14: 2 metodi, 2 previsioni; ";
-  for (const auto& [nome, fai, atteso] :
-       std::vector<std::tuple<const char*, std::function<void()>, std::string>>{
-           {"update", [this] { aggiornaArchivio(p.programma, ""); }, archivio},
-           {"import", importa, archivio},
-           {"refused import", [&] { p.servizi.risposta = Risposta::No, importa(); }, ""},
-           {"method deleted", [this] { GestioneMetodi(p.programma).elimina("N"); }, metodi},
-           {"method renamed", [this] { GestioneMetodi(p.programma).rinomina("N", "O"); }, metodi},
-           {"predictions", [this] { PrevisioniMetodo(p.programma).togli("M", {1}); }, metodi},
-           {"refused", [this] { GestioneMetodi(p.programma).elimina("Altro"); }, ""},
-           {"new method", [this] { GestioneMetodi(p.programma).crea("Altro"); }, ""}}) {
-    std::filesystem::remove_all(p.radice / "copie");
-    std::filesystem::remove_all(p.radice / "Metodi");
-    std::filesystem::create_directory(p.radice / "Metodi");
-    archivioDi(3).scrivi(p);
-    scriviMetodoProva(p, "M", {{.estrazione = 2}, {.estrazione = 3}});
-    scriviMetodoProva(p, "N", {});
-    fai();
-    EXPECT_EQ(elenco(), atteso) << nome;
-  }
+void importa(ProgrammaProva& p) {
+  p.scrivi("uno.txt", "2005/01/08\tBA\t1\t2\t3\t4\t5\n");
+  p.servizi.scelto = p.radice / "uno.txt";
+  importaEstrazioniDaFile(p.programma);
 }
+
+const std::string kArchivio = "archivio-2026-03-14: 3 estrazioni, l'ultima del 12/3/2005; ";
+const std::string kMetodi = "metodi-2026-03-14: 2 metodi, 2 previsioni; ";
+
+struct Cambio {
+  const char* nome;
+  std::function<void(ProgrammaProva&)> fai;
+  std::string copie;
+};
+
+void PrintTo(const Cambio& caso, std::ostream* dove) { *dove << caso.nome; }
+
+class CopieFatte : public Copie, public testing::WithParamInterface<Cambio> {};
+
+TEST_P(CopieFatte, AreOfWhatIsTakenAwayOrWrittenOver) {
+  GetParam().fai(p);
+  EXPECT_EQ(elenco(), GetParam().copie);
+}
+
+const Cambio kCopieFatte[] = {
+    {"update", [](auto& p) { aggiornaArchivio(p.programma, ""); }, kArchivio},
+    {"import", importa, kArchivio},
+    {"refused_import", [](auto& p) { p.servizi.risposta = Risposta::No, importa(p); }, ""},
+    {"method_deleted", [](auto& p) { GestioneMetodi(p.programma).elimina("N"); }, kMetodi},
+    {"method_renamed", [](auto& p) { GestioneMetodi(p.programma).rinomina("N", "O"); }, kMetodi},
+    {"predictions", [](auto& p) { PrevisioniMetodo(p.programma).togli("M", {1}); }, kMetodi},
+    {"method_that_is_not_there", [](auto& p) { GestioneMetodi(p.programma).elimina("Altro"); }, ""},
+    {"new_method", [](auto& p) { GestioneMetodi(p.programma).crea("Altro"); }, ""}};
+
+INSTANTIATE_TEST_SUITE_P(, CopieFatte, testing::ValuesIn(kCopieFatte), perNome);
 
 TEST_F(Copie, AreOneADayAndTheLastTen) {
   for (int giorno = 1; giorno <= 12; ++giorno, domani())
@@ -80,11 +88,10 @@ TEST_F(Copie, BringBackWhatWasThereAndKeepWhatIs) {
   EXPECT_TRUE(ripristinaCopia(p.programma, "metodi-2026-03-14"));
   EXPECT_EQ(ApriArchivio(p.cartella()).PrimoIndiceLibero(), 4);
   EXPECT_THAT(elencaFile(p.radice / "Metodi"), ElementsAre("M.dat", "N.dat"));
-  EXPECT_EQ(
-      elenco(),
-      "archivio-2026-03-14-2: 5 estrazioni, l'ultima del 12/3/2005; metodi-2026-03-14-2: 2 metodi, 2 "
-      "previsioni; archivio-2026-03-14: 3 estrazioni, l'ultima del 12/3/2005; metodi-2026-03-14: 2 metodi, 2 "
-      "previsioni; ");
+  EXPECT_EQ(elenco(),
+            "archivio-2026-03-14-2: 5 estrazioni, l'ultima del 12/3/2005; metodi-2026-03-14-2: 2 metodi, 2 "
+            "previsioni; archivio-2026-03-14: 3 estrazioni, l'ultima del 12/3/2005; metodi-2026-03-14: 2 "
+            "metodi, 2 previsioni; ");
   EXPECT_TRUE(ripristinaCopia(p.programma, "archivio-2026-03-14-2"));
   EXPECT_EQ(ApriArchivio(p.cartella()).PrimoIndiceLibero(), 6);
   EXPECT_EQ(elencoCopie(p.cartella()).size(), 4U) << "what was there is a copy already";

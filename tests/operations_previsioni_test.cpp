@@ -16,7 +16,7 @@ class Previsioni : public testing::Test {
       slot.push_back({e, {89, 9}, {1}, 10, {e % 100}, {1, 2, 99}, {1, 2, 3, 99}});
     scriviMetodoProva(p, nome, slot);
   }
-  /// The calculation draws of a method, each with its ambata where they belong together.
+  /// The predictions of a method as "1:101 2:200 ": slot and draw, each with the ambata of its draw.
   [[nodiscard]] std::string in(const std::string& nome) const {
     const auto metodo = LeggiMetodo(p.cartella(), nome);
     std::string testo;
@@ -47,12 +47,6 @@ TEST_F(Previsioni, AreTakenAwayCopiedAndMovedAndEachStepCanBeTakenBack) {
   for (; !passi.empty(); passi.pop_back()) EXPECT_TRUE(previsioni.annulla(passi.back()));
   EXPECT_EQ(in("A") + "| " + in("B"), "1:101 2:200 3:103 4:104 | 1:105 ");
   EXPECT_THAT(p.servizi.messaggi, IsEmpty());
-}
-
-TEST_F(Previsioni, AMethodWithTenIsRepairedByMovingOne) {
-  metti("A", std::vector<int>(10, 101));
-  EXPECT_EQ(previsioni.sposta("A", {10}, "B").size(), 2U);
-  EXPECT_EQ(ContaPrevisioni(LeggiMetodo(p.cartella(), "A")), 9);
 }
 
 TEST_F(Previsioni, WhatDoesNotFitIsRefusedBeforeAnythingIsWritten) {

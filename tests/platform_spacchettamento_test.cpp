@@ -46,17 +46,21 @@ std::string esito(const std::string& ottetti, std::size_t massimo = kMassimoTest
 }
 
 TEST(Unpacking, GivesTheOneTextOfAPackedFile) {
-  for (const auto& [ottetti, atteso] : std::vector<std::pair<std::string, std::string>>{
-           {kTesto, kTesto},
-           {"", ""},
-           {kGzip, kTesto},
-           {kGzip + kGzip, kTesto + kTesto},
-           {zip({{"storico.txt", kTesto}}), kTesto},
-           {zip({{"a/", ""}, {"a/DATI.TXT", kTesto}, {"leggimi.md", "x"}, {"_/._DATI.txt", "x"}}), kTesto},
-           {zip({{"dati", kTesto}}), kTesto},
-           {zip({{"a.txt", "x"}, {"b.txt", "x"}}), "nel file zip c'è più di un file di testo"},
-           {zip({}), "nel file zip non c'è nessun file"}})
-    EXPECT_EQ(esito(ottetti), atteso);
+  const struct {
+    const char* nome;
+    std::string ottetti, atteso;
+  } casi[] = {
+      {"no pack", kTesto, kTesto},
+      {"nothing", "", ""},
+      {"gzip", kGzip, kTesto},
+      {"gzip twice", kGzip + kGzip, kTesto + kTesto},
+      {"zip", zip({{"storico.txt", kTesto}}), kTesto},
+      {"zip of a text among others",
+       zip({{"a/", ""}, {"a/DATI.TXT", kTesto}, {"leggimi.md", "x"}, {"_/._DATI.txt", "x"}}), kTesto},
+      {"zip of one file", zip({{"dati", kTesto}}), kTesto},
+      {"zip of two texts", zip({{"a.txt", "x"}, {"b.txt", "x"}}), "nel file zip c'è più di un file di testo"},
+      {"empty zip", zip({}), "nel file zip non c'è nessun file"}};
+  for (const auto& caso : casi) EXPECT_EQ(esito(caso.ottetti), caso.atteso) << caso.nome;
   const auto lungo = kTesto.size();
   for (const auto& ottetti : {kGzip, zip({{"a.txt", kTesto}})}) {
     EXPECT_EQ(esito(ottetti, lungo), kTesto);

@@ -6,7 +6,7 @@ namespace {
 
 using Slot = std::vector<SlotProva>;
 
-/// A dialog that notes what a run does to it.
+/// A dialog that notes what a run does to it: " 0 iniziata max4 1", numbers being of the progress bar.
 struct PannelloProva : PannelloCorsa {
   [[nodiscard]] SceltaMetodo scelta() const override { return {}; }
   void prgbar_Value(int valore) override { eventi += " " + std::to_string(valore); }
@@ -58,36 +58,46 @@ TEST_F(Corsa, TheFirstWinningColpoIsCountedBetByBet) {
   const SlotProva ambate = {.estrazione = 101, .ruote = {1, 2}, .ambate = {7, 8}};
   const SlotProva ambi = {.estrazione = 101, .ruote = {1, 2, 12}, .ambi = {5, 6, 99}};
   const SlotProva sorte = {.estrazione = 101, .ruote = {1, 2}, .sup = {1, 2, 3, 4, 5, 99}};
-  // The prediction, what came out, the hits; ambate, ambi a ruota, a tutte, in sorti from ambi to cinquine.
-  const std::tuple<SlotProva, const char*, std::string, const char*> casi[] = {
-      {ambate, "103 Ba 8 7,103 Ca 7,104 Ba 7", " E 7 Ba ** E 7 Ca ** E 8 Ba ** 2", "3 0 0 0 0 0 0"},
-      {ambi, "102 Ba 5 6", " A 5-6 Ba ** A 5-6 Tu(Ba) ** A 5-6 Tu(Ba) ** 1", "0 1 2 0 0 0 0"},
-      {ambi, "102 Naz 5 6", " A 5-6 Tu(Naz) ** A 5-6 Tu(Naz) ** 1", "0 0 2 0 0 0 0"},
-      {sorte, "102 Ba 1 2,102 Ca 3 1", " Al 1 2 Ba ** Al 1 3 Ca ** 1", "0 0 0 2 0 0 0"},
-      {sorte, "102 Ba 5 4 3 2 1", " Cl 1 2 3 4 5 Ba ** 1", "0 0 0 10 10 5 1"},
-      {sorte, "102 Ba 1 2 3 4", " Ql 1 2 3 4 Ba ** 1", "0 0 0 6 4 1 0"}};
-  for (const auto& [slot, uscite, esito, attesi] : casi) {
+  const struct {
+    const char* nome;
+    SlotProva slot;
+    std::string uscite, esito;
+    const char* conti;  // ambate, ambi a ruota, a tutte, in sorti from ambi to cinquine
+  } casi[] = {
+      {"ambate", ambate, "103 Ba 8 7,103 Ca 7,104 Ba 7", " E 7 Ba ** E 7 Ca ** E 8 Ba ** 2", "3 0 0 0 0 0 0"},
+      {"ambi", ambi, "102 Ba 5 6", " A 5-6 Ba ** A 5-6 Tu(Ba) ** A 5-6 Tu(Ba) ** 1", "0 1 2 0 0 0 0"},
+      {"on tutte", ambi, "102 Naz 5 6", " A 5-6 Tu(Naz) ** A 5-6 Tu(Naz) ** 1", "0 0 2 0 0 0 0"},
+      {"two of five", sorte, "102 Ba 1 2,102 Ca 3 1", " Al 1 2 Ba ** Al 1 3 Ca ** 1", "0 0 0 2 0 0 0"},
+      {"five of five", sorte, "102 Ba 5 4 3 2 1", " Cl 1 2 3 4 5 Ba ** 1", "0 0 0 10 10 5 1"},
+      {"four of five", sorte, "102 Ba 1 2 3 4", " Ql 1 2 3 4 Ba ** 1", "0 0 0 6 4 1 0"}};
+  for (const auto& caso : casi) {
+    SCOPED_TRACE(caso.nome);
     auto& g = p.globals();
     g.AmbiTutte = 0;
-    archivio(archivioDi(104, uscite));
-    scriviMetodoProva(p, "M", {slot});
+    archivio(archivioDi(104, caso.uscite));
+    scriviMetodoProva(p, "M", {caso.slot});
     corri(101, 102);
-    EXPECT_THAT(vincite(), HasSubstr(rapportoDi(" Esito: " + esito + "° colpo||")));
+    EXPECT_THAT(vincite(), HasSubstr(rapportoDi(" Esito: " + caso.esito + "° colpo||")));
     std::ostringstream conti;
     conti << g.AmbateVincenti << ' ' << g.AmbiRuota << ' ' << g.AmbiTutte << ' ' << g.AmbiSorti << ' '
           << g.TerniSorti << ' ' << g.QuaterneSorti << ' ' << g.CinquineSorti;
-    EXPECT_EQ(conti.str(), attesi) << uscite;
+    EXPECT_EQ(conti.str(), caso.conti);
   }
 }
 
 TEST_F(Corsa, WonLostAndInPlayAreSeparated) {
-  // The predictions, what came out, how many have won and are in play, the entries. Draw 104 is the last.
-  const std::tuple<Slot, const char*, int, int, const char*> casi[] = {
-      {{ambata(102)}, "", 0, 0, "1M "},  // its last colpo is the last draw
-      {{ambata(103), ambata(104, 0)}, "", 0, 1, "2M "},
-      {{ambata(103), ambata(102, 1), ambata(101, 1)}, "104 Ba 7", 1, 0, "1M 2M 3M "},
-      {{ambata(101), ambata(102), ambata(104)}, "103 Ba 7", 2, 1, "1M 2M "}};
-  for (const auto& [slot, uscite, vincenti, inGioco, attese] : casi) {
+  const struct {
+    const char* nome;
+    Slot slot;
+    const char* uscite;  // up to draw 104
+    int vincenti, inGioco;
+    const char* voci;
+  } casi[] = {{"lost on the last draw", {ambata(102)}, "", 0, 0, "1M "},
+              {"in play", {ambata(103), ambata(104, 0)}, "", 0, 1, "2M "},
+              {"one won", {ambata(103), ambata(102, 1), ambata(101, 1)}, "104 Ba 7", 1, 0, "1M 2M 3M "},
+              {"two won", {ambata(101), ambata(102), ambata(104)}, "103 Ba 7", 2, 1, "1M 2M "}};
+  for (const auto& [nome, slot, uscite, vincenti, inGioco, attese] : casi) {
+    SCOPED_TRACE(nome);
     archivio(archivioDi(104, uscite));
     scriviMetodoProva(p, "M", slot);
     corri(101, 104);
@@ -105,14 +115,18 @@ TEST_F(Corsa, WonLostAndInPlayAreSeparated) {
 }
 
 TEST_F(Corsa, AFailureLosesTheRestOfItsDrawAndNoMore) {
-  const std::tuple<Slot, int, const char*> casi[] = {
-      // what stands in B, the predictions taken, the entries
-      {{ambo(101, {12}, {5, 6, 99}), ambata(101)}, 4, "1A 3A 4C "},
-      {{ambo(101, {1}, std::vector<int>(180, 7))}, 3, "1A 2A 3C "},
-      {Slot(10, ambata(305)), 2, "1A 2A "}};
+  const struct {
+    const char* nome;
+    Slot slot;  // of B
+    int giocabili;
+    const char* voci;
+  } casi[] = {{"Tutte alone", {ambo(101, {12}, {5, 6, 99}), ambata(101)}, 4, "1A 3A 4C "},
+              {"a list without an end", {ambo(101, {1}, std::vector<int>(180, 7))}, 3, "1A 2A 3C "},
+              {"ten predictions", Slot(10, ambata(305)), 2, "1A 2A "}};
   archivio(archivioDi(110));
   for (const char* nome : {"A", "C"}) scriviMetodoProva(p, nome, {ambata(101), ambata(102)});
-  for (const auto& [slot, giocabili, attese] : casi) {
+  for (const auto& [nome, slot, giocabili, attese] : casi) {
+    SCOPED_TRACE(nome);
     scriviMetodoProva(p, "B", slot);
     corri(101, 102);
     EXPECT_EQ(p.globals().ContaGiocabili, giocabili);

@@ -13,7 +13,7 @@ struct Estrazioni : PrincipaleProva {
     archivio.data(1, 3, 3, 1946).scrivi(p);
     scegli(voce);
   }
-  /// Number and date of the draw shown and its numbers of Bari.
+  /// The draw shown as "20 12/3/2005: 20 21 0 0 0": number, date, the numbers of Bari.
   [[nodiscard]] QString vista() const {
     return testo("lblnestr") + ' ' + testo("lbldataestr") + ": " + numeri(0);
   }

@@ -19,30 +19,34 @@ class FiglieGuiTest : public QObject {
   Q_OBJECT
 
  private slots:
+  void aWindowThatIsOpenIsBroughtUpAgainAndMostCloseTheOthers_data() {
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("mnu1Inserisci") << "Inserimento Estrazioni";
+    QTest::newRow("mnu1Modifica") << "Modifica Estrazione";
+    QTest::newRow("mnuGestione21") << "Inserisci Previsione";
+    QTest::newRow("mnuMetodi") << "Vaticla";
+  }
   void aWindowThatIsOpenIsBroughtUpAgainAndMostCloseTheOthers() {
     PrincipaleProva v;
     archivioDi(3).scrivi(v.p);
-    for (const auto& [voce, aperta] : {std::pair{"mnu1Inserisci", "Inserimento Estrazioni"},
-                                       {"mnu1Modifica", "Modifica Estrazione"},
-                                       {"mnuGestione21", "Inserisci Previsione"},
-                                       {"mnuMetodi", "Vaticla"}}) {
-      v.scegli(voce);
-      QCOMPARE(v.aperte(), QStringList(aperta));
-      const auto* prima = &v.figlia();
-      v.figlia().showMinimized();
-      v.scegli("mnuUtility3");
-      QVERIFY(&v.figlia() != prima);
-      v.scegli(voce);
-      QVERIFY(&v.figlia() == prima && !prima->isMinimized());
-      QCOMPARE(v.aperte().size(), 2);
-    }
+    v.scegli("mnu1metodo1");
+    v.scegli(QTest::currentDataTag());
+    QFETCH(const QString, caption);
+    QCOMPARE(v.aperte(), QStringList(caption));
+    const auto* prima = &v.figlia();
+    v.figlia().showMinimized();
+    v.scegli("mnuUtility3");
+    QVERIFY(&v.figlia() != prima);
+    v.scegli(QTest::currentDataTag());
+    QVERIFY(&v.figlia() == prima && !prima->isMinimized());
+    QCOMPARE(v.aperte().size(), 2);
     v.premi(Qt::Key_W, Qt::ControlModifier);
     QCOMPARE(v.aperte(), QStringList("Somma/Distanza Estratti"));
   }
 
   void everyWindowHasItsPlaceAndItsWords_data() {
     QTest::addColumn<QRect>("posto");
-    QTest::addColumn<QString>("parole");
+    QTest::addColumn<QString>("parole");  // "name=text", "name=text/tool tip" or "=text", separated by "|"
     const QString titolo = "Label1=Estrazione n°|Label13=del|", esci = "btnCancella=&Esci/";
     const QString ruote =
         "Label2=Bari|Label21=Cagliari|Label20=Firenze|Label19=Genova|Label18=Milano|Label17=Napoli|"
@@ -150,12 +154,16 @@ class FiglieGuiTest : public QObject {
 
   void accessKeysOfTheActiveWindowComeBeforeTheMenu() {
     PrincipaleProva v;
-    for (const auto& [voce, lettera, primo, secondo] :
-         {std::tuple{"mnu1Modifica", Qt::Key_S, "btnSalva", "btnAnnulla"},
-          {"mnu1metodo1", Qt::Key_E, "btnCancella", "btnElabora"}}) {  // which has the focus first
-      v.scegli(voce);
-      for (const char* nome : {primo, secondo, primo}) {
-        v.premi(lettera, Qt::AltModifier);
+    const struct {
+      const char* voce;
+      Qt::Key lettera;
+      const char *primo, *secondo;  // which has the focus first
+    } passi[] = {{"mnu1Modifica", Qt::Key_S, "btnSalva", "btnAnnulla"},
+                 {"mnu1metodo1", Qt::Key_E, "btnCancella", "btnElabora"}};
+    for (const auto& passo : passi) {
+      v.scegli(passo.voce);
+      for (const char* nome : {passo.primo, passo.secondo, passo.primo}) {
+        v.premi(passo.lettera, Qt::AltModifier);
         QCOMPARE(v.fuoco(), QString(nome));
       }
       QVERIFY(v.detti().isEmpty() && v.aperte().size() == 1);

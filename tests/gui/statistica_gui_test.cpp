@@ -24,7 +24,7 @@ struct Statistica : PrincipaleProva {
                        {.estrazione = 109, .ruote = {1}, .colpi = 2, .ambate = {8}}});
     scegli("mnu1metodo1");
   }
-  void intervallo(const char* inizio, const char* fine) {
+  void intervallo(const QString& inizio, const QString& fine) {
     for (const auto& [nome, testo] : {std::pair{"txtestr_0", inizio}, {"txtestr_1", fine}}) {
       usa<QLineEdit>(nome).selectAll();
       usa<QLineEdit>(nome).setFocus();
@@ -86,27 +86,43 @@ class StatisticaGuiTest : public QObject {
     QTRY_VERIFY(!v.finestra.isVisible());
   }
 
-  void aRangeIsRefusedOrRepairedInThisOrder() {
-    Statistica v;
+  void aRangeIsRefusedOrRepairedInThisOrder_data() {
     const QString inizio = "[Attenzione] L'estrazione di inzio non può essere ";
     const QString maggiore = inizio + "maggiore dell'estrazione di fine!";
     const QString uguale = inizio + "uguale all'estrazione di fine!";
-    // The range typed, its refusal, what the fields show then, the lists that can be opened.
-    const std::tuple<const char*, const char*, QString, const char*, const char*> casi[] = {
-        {"104", "106", "", "104 106", ""}, {"6", "5", maggiore, "6 5", ""},
-        {"5", "5", uguale, "5 5", ""},     {"0", "0", uguale, "0 0", ""},
-        {"0", "1", "", "1 1", ""},         {"0", "111", "", "1 110", "Vincite Prev "},
-        {"120", "130", "", "120 110", ""}, {"-3", "2", "", "-3 2", ""}};
-    for (const auto& [da, a, rifiuto, campi, liste] : casi) {
-      v.intervallo(da, a);
-      v.clicca("btnElabora");
-      QCOMPARE(v.detti().join('|'), rifiuto);
-      QCOMPARE(v.testo("txtestr_0") + ' ' + v.testo("txtestr_1"), QString(campi));
-      QCOMPARE(v.stato(), rifiuto.isEmpty()
-                              ? QString("RichTextBox1 Elabora %1Stampa Cancella menu").arg(liste)
-                              : QString("Elabora Cancella menu"));
-      QCOMPARE(v.p.contenuto("Stat.txt") == "\r\n", !rifiuto.isEmpty());
-    }
+    QTest::addColumn<QStringList>("digitati");
+    QTest::addColumn<QString>("rifiuto");
+    QTest::addColumn<QString>("mostrati");
+    QTest::addColumn<QString>("liste");  // that can be opened
+    const auto riga = [](const char* nome, const QStringList& digitati, const QString& rifiuto,
+                         const char* mostrati, const char* liste = "") {
+      QTest::newRow(nome) << digitati << rifiuto << mostrati << liste;
+    };
+    riga("right", {"104", "106"}, "", "104 106");
+    riga("first after last", {"6", "5"}, maggiore, "6 5");
+    riga("one draw", {"5", "5"}, uguale, "5 5");
+    riga("zeros", {"0", "0"}, uguale, "0 0");
+    riga("from zero", {"0", "1"}, "", "1 1");
+    riga("from zero beyond the end", {"0", "111"}, "", "1 110", "Vincite Prev ");
+    riga("beyond the end", {"120", "130"}, "", "120 110");
+    riga("negative", {"-3", "2"}, "", "-3 2");
+  }
+  void aRangeIsRefusedOrRepairedInThisOrder() {
+    Statistica v;
+    QFETCH(const QStringList, digitati);
+    QFETCH(const QString, rifiuto);
+    QFETCH(const QString, liste);
+    v.intervallo(digitati[0], digitati[1]);
+    v.clicca("btnElabora");
+    QCOMPARE(v.detti().join('|'), rifiuto);
+    QTEST(v.testo("txtestr_0") + ' ' + v.testo("txtestr_1"), "mostrati");
+    QCOMPARE(v.stato(), rifiuto.isEmpty() ? QString("RichTextBox1 Elabora %1Stampa Cancella menu").arg(liste)
+                                          : QString("Elabora Cancella menu"));
+    QCOMPARE(v.p.contenuto("Stat.txt") == "\r\n", !rifiuto.isEmpty());
+  }
+
+  void aFieldThatIsNoNumberIsNamedAndHasTheFocus() {
+    Statistica v;
     for (const auto& [da, a, campo] : {std::tuple{"", "x", "txtestr_0"}, {"1", "x", "txtestr_1"}}) {
       v.intervallo(da, a);
       v.clicca("btnElabora");

@@ -85,23 +85,26 @@ class Mano : public testing::Test {
 };
 
 TEST_F(Mano, ADateIsStoredAsItWasTyped) {
-  const std::tuple<const char*, int, int, int> casi[] = {
+  const struct {
+    const char* digitata;
+    int giorno, mese, anno;
+  } casi[] = {
       {"8/5/2026", 8, 5, 2026},  {"28/02/2026", 28, 2, 2026}, {"31102026", 31, 10, 2026},
       {"29022004", 29, 2, 2004}, {"7-6-25", 7, 6, 2025},      {"01.1.09", 1, 1, 2009},
       {"311203", 31, 12, 2003},  {"30/2/2026", 28, 2, 2026},  {"31-12-2027", 31, 12, 2027},
   };
   s.apri("Insert");
-  for (const auto& [digitata, giorno, mese, anno] : casi) {
-    SCOPED_TRACE(digitata);
+  for (const auto& caso : casi) {
+    SCOPED_TRACE(caso.digitata);
     ASSERT_NO_THROW({
       riempi();
-      schermo->scrivi(digitata);
-      if (std::string(digitata) == "30/2/2026") {  // refused: the focus stays, and a right one follows
+      schermo->scrivi(caso.digitata);
+      if (std::string(caso.digitata) == "30/2/2026") {  // refused: the focus stays, and a right one follows
         schermo->scrivi("\t");
         conferma(1);
         schermo->scrivi("28.2.2026", Schermo::kPressione);
       }
-      salva(giorno, mese, anno);
+      salva(caso.giorno, caso.mese, caso.anno);
     });
   }
 }

@@ -24,4 +24,7 @@ template <class Fai>
   return 0;
 }
 
+/// Names each test of INSTANTIATE_TEST_SUITE_P by the `nome` of its row.
+inline constexpr auto perNome = [](const auto& caso) { return caso.param.nome; };
+
 }  // namespace vaticlo::prova
