@@ -124,8 +124,7 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
   setWindowIcon(immagine(QStringLiteral("vaticlo")));
   const QSize cornice(2 * style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth),
                       style()->pixelMetric(QStyle::PM_TitleBarHeight) + kBordoInferiore);
-  // The status bar takes nothing of the height that there is for the rest.
-  resize(QSize(pixel(frmPrincipale::kLarghezza), pixel(frmPrincipale::kAltezza) + stato_->sizeHint().height())
+  resize(QSize(pixel(frmPrincipale::kLarghezza), pixel(frmPrincipale::kAltezza))
              .boundedTo(screen()->availableSize() - cornice));
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
