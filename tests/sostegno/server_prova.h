@@ -47,7 +47,7 @@ class ServerProva {
       const bool dopo = testo.find("\r\nIf-Modified-Since: ") != std::string::npos;
       const auto risposta = risposte_.find(dopo ? percorso + " dopo" : percorso);
       if (risposta == risposte_.end()) continue;
-      ::send(cliente, risposta->second.data(), static_cast<int>(risposta->second.size()), kInvio);
+      spedisci(cliente, risposta->second);
       chiudi(cliente);
     }
   }

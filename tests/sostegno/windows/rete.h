@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdlib>
+#include <string>
 
 #include <winsock2.h>
 #include <ws2tcpip.h>
@@ -8,7 +9,6 @@
 namespace vaticlo::prova {
 
 using Presa = SOCKET;
-inline constexpr int kInvio = 0;
 
 // Nothing of the network works before.
 inline const bool kRete = [] {
@@ -20,6 +20,9 @@ inline bool aperta(Presa presa) { return presa != INVALID_SOCKET; }
 /// Lets whoever waits for a client wait no longer.
 inline void fermaAscolto(Presa presa) { ::closesocket(presa); }
 inline void chiudi(Presa presa) { ::closesocket(presa); }
+inline void spedisci(Presa a, const std::string& testo) {
+  ::send(a, testo.data(), static_cast<int>(testo.size()), 0);
+}
 inline void ambiente(const char* nome, const char* valore) { ::_putenv_s(nome, valore); }
 
 }  // namespace vaticlo::prova
