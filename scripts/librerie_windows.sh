@@ -115,7 +115,7 @@ librerie_finestre() {
       $(spenti %s QT_BUILD_EXAMPLES QT_BUILD_TESTS QT_BUILD_TOOLS_WHEN_CROSSCOMPILING) \
       $(spenti QT_FEATURE_%s sql network dbus xml concurrent opengl vulkan direct2d tabletevent icu glib zstd jpeg gif \
         system_zlib system_pcre2 system_png system_freetype system_harfbuzz androiddeployqt wizard undocommand undostack \
-        undogroup undoview keysequenceedit lcdnumber dial fontdialog systemtrayicon movie columnview scroller picture \
+        undogroup undoview keysequenceedit lcdnumber dial fontdialog systemtrayicon movie columnview scroller \
         sharedmemory systemsemaphore)
     costruisci_in qt6-base install
     segna qt6-base
