@@ -117,7 +117,7 @@ void rinominaFile(const fs::path& percorso, const fs::path& nuovo) {
   try {
     blocco.sincronizza();
   } catch (const RuntimeFailure&) {
-    static_cast<void>(sposta(nuovo, percorso, Posto::Qualunque));
+    [[maybe_unused]] const auto tornato = sposta(nuovo, percorso, Posto::Qualunque);
     throw;
   }
 }

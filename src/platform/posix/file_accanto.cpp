@@ -52,7 +52,7 @@ bool FileAccanto::prendiIlPosto(std::optional<Descrittore>& vecchio, const Blocc
   try {
     cartella.sincronizza();
   } catch (const RuntimeFailure&) {
-    if (scambiati) static_cast<void>(scambia(percorso_, destinazione_));
+    if (scambiati) codice = scambia(percorso_, destinazione_);
     if (!vecchio) togliFile(destinazione_);
     throw;
   }
