@@ -16,7 +16,7 @@ if(VATICLO_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(vaticlo_options INTERFACE -fsanitize=address,undefined)
 endif()
-if(VATICLO_FUZZ)
+if(VATICLO_FUZZ AND NOT VATICLO_SANITIZE)  # with the sanitizers alone a corpus is replayed, not searched on
   target_compile_options(vaticlo_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
     -fno-sanitize-recover=all)
   target_link_options(vaticlo_options INTERFACE -fsanitize=address,undefined)

@@ -3,7 +3,7 @@
 
 pacchetti="g++ cmake ninja-build pkg-config
   libcurl4-openssl-dev libarchive-dev zlib1g-dev libutf8proc-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev
-  qt6-base-dev libqt6svg6-dev qt6-l10n-tools qt6-tools-dev qt6-translations-l10n libgl1-mesa-dev libqcustomplot-dev
+  qt6-base-dev qt6-svg-dev qt6-l10n-tools qt6-tools-dev qt6-translations-l10n libgl1-mesa-dev libqcustomplot-dev
   qt6-wayland qt6-gtk-platformtheme qt6-xdgdesktopportal-platformtheme
   cmark-gfm librsvg2-bin openssl xvfb openbox libxtst-dev"
 
