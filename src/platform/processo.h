@@ -21,7 +21,7 @@ class Processo {
 
  private:
   std::vector<std::string> parole_;
-  unsigned pagina_ = 0;  // of the terminal, to be given back; 0 where there is none to be given back
+  [[maybe_unused]] unsigned pagina_ = 0;  // of the terminal, where it is to be given back
 };
 
 /// Where the program itself lies.
