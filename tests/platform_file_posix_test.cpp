@@ -1,12 +1,11 @@
-#include <array>
 #include <csignal>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/file_intero.h"
 #include "platform/rapporto.h"
+#include "sostegno/file_prova.h"
 #include "sostegno/logica.h"
 
 namespace vaticlo::prova {
@@ -24,15 +23,7 @@ class ComeUtente {
   static constexpr uid_t kNessuno = 65534;
 };
 
-class PosixFiles : public testing::Test {
- protected:
-  [[nodiscard]] fs::path percorso(const std::string& nome) const { return p.radice / nome; }
-  void leggi(const std::string& nome) { leggiFile(percorso(nome), griglia); }
-  void scrivi(const std::string& nome) { scriviFile(percorso(nome), griglia); }
-
-  ProgrammaProva p;
-  std::array<std::uint8_t, 6> griglia{'1', '2', '3', '4', '5', '6'};
-};
+using PosixFiles = FileProva;
 
 TEST_F(PosixFiles, ThatArePipesFail) {
   ASSERT_EQ(::mkfifo(percorso("tubo").c_str(), 0600), 0);

@@ -1,10 +1,9 @@
-#include <array>
 #include <future>
 #include <thread>
 
 #include "platform/blocco.h"
-#include "platform/file_intero.h"
 #include "platform/rapporto.h"
+#include "sostegno/file_prova.h"
 #include "sostegno/logica.h"
 
 namespace vaticlo::prova {
@@ -12,15 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Files : public testing::Test {
- protected:
-  [[nodiscard]] fs::path percorso(const std::string& nome) const { return p.radice / nome; }
-  void leggi(const std::string& nome) { leggiFile(percorso(nome), griglia); }
-  void scrivi(const std::string& nome) { scriviFile(percorso(nome), griglia); }
-
-  ProgrammaProva p;
-  std::array<std::uint8_t, 6> griglia{'1', '2', '3', '4', '5', '6'};
-};
+using Files = FileProva;
 
 TEST_F(Files, AreReadAsZerosBehindTheirEndAndKeepATailThatIsNotTheirs) {
   p.scrivi("corto", "AB");

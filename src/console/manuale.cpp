@@ -293,15 +293,11 @@ std::string paginaDiManuale(const std::vector<Comando>& tavola) {
     testo += ".RE\n";
   }
   testo +=
-      ".SH \"USCITE PER ALTRI PROGRAMMI\"\nCon \\fB\\-\\-json\\fR un comando scrive un solo oggetto, in "
-      "UTF\\-8, con i "
-      "nomi "
-      "che stanno sotto il comando: gli stessi in ogni versione. Quanti, colpi e percentuali sono numeri, le "
-      "date "
-      "testi "
-      "come nell'archivio. Con \\fB\\-\\-csv\\fR scrive la tabella: UTF\\-8, la prima riga con i nomi "
-      "delle colonne, punto e virgola tra i campi, virgola decimale. Un rifiuto (stato 3) resta un messaggio "
-      "al "
+      ".SH \"USCITE PER ALTRI PROGRAMMI\"\n"
+      "Con \\fB\\-\\-json\\fR un comando scrive un solo oggetto, in UTF\\-8, con i nomi che stanno sotto il "
+      "comando: gli stessi in ogni versione. Quanti, colpi e percentuali sono numeri, le date testi come "
+      "nell'archivio. Con \\fB\\-\\-csv\\fR scrive la tabella: UTF\\-8, la prima riga con i nomi delle "
+      "colonne, punto e virgola tra i campi, virgola decimale. Un rifiuto (stato 3) resta un messaggio al "
       "posto dell'oggetto.\n"
       ".SH \"STATO D'USCITA\"\n.nf\n";
   auto stati = testoStatiDiUscita();

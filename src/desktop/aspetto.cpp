@@ -30,18 +30,17 @@ QPalette tavolozzaScura() {
 
 }  // namespace
 
-void vestiDiScuro(bool scuro) {
-  static bool nostra = false;
-  if (scuro == nostra || (scuro && vaticlo::scuro(QApplication::palette().color(QPalette::Window)))) return;
-  nostra = scuro;
-  QApplication::setPalette(scuro ? tavolozzaScura() : QPalette());
-}
-
 Aspetto::Aspetto() {
   chiedi();
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState stato) {
     if (stato == Qt::ApplicationActive) chiedi();
   });
+}
+
+void Aspetto::vesti(bool diScuro) {
+  if (diScuro == nostra_ || (diScuro && scuro(QApplication::palette().color(QPalette::Window)))) return;
+  nostra_ = diScuro;
+  QApplication::setPalette(diScuro ? tavolozzaScura() : QPalette());
 }
 
 }  // namespace vaticlo

@@ -16,7 +16,7 @@ using FilePerNome = std::map<std::string, std::vector<std::uint8_t>>;
 /// folder is there with all of them or not there. What a killed program leaves goes with the next folder made
 /// there; so whoever makes one holds what they lie in. Fails with Errore::FileEsistente when there is one of
 /// that name, DispositivoIO, DiscoPieno, AccessoAlFile or CartellaOccupata: there is none of it then. Folders
-/// above it are made.
+/// above it are made; throws std::filesystem::filesystem_error where they can't be.
 void scriviCartella(const std::filesystem::path& cartella, const FilePerNome& file);
 
 }  // namespace vaticlo

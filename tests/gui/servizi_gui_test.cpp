@@ -64,11 +64,12 @@ class ServiziGuiTest : public QObject {
  private slots:
   void darkColoursAreReadableAndGoAgain() {
     const auto prima = QApplication::palette().color(QPalette::Window);
-    vestiDiScuro(true);
+    Aspetto aspetto;
+    aspetto.vesti(true);
     const auto ora = QApplication::palette();
     QVERIFY(scuro(ora.color(QPalette::Window)) && scuro(ora.color(QPalette::Base)));
     QVERIFY(!scuro(ora.color(QPalette::WindowText)) && !scuro(ora.color(QPalette::Text)));
-    vestiDiScuro(false);
+    aspetto.vesti(false);
     QCOMPARE(QApplication::palette().color(QPalette::Window), prima);
   }
 

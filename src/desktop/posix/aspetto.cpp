@@ -18,12 +18,12 @@ void Aspetto::chiedi() {
       QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("Read"));
   domanda << QStringLiteral("org.freedesktop.appearance") << QStringLiteral("color-scheme");
   auto* attesa = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(domanda), this);
-  connect(attesa, &QDBusPendingCallWatcher::finished, this, [attesa] {
+  connect(attesa, &QDBusPendingCallWatcher::finished, this, [this, attesa] {
     attesa->deleteLater();
     const QDBusPendingReply<QDBusVariant> risposta = *attesa;
     if (risposta.isError()) return;
     const auto valore = risposta.value().variant().value<QDBusVariant>().variant();
-    vestiDiScuro(valore.toUInt() == kPreferisceScuro);
+    vesti(valore.toUInt() == kPreferisceScuro);
   });
 }
 

@@ -8,7 +8,7 @@ void Aspetto::chiedi() {
   const QSettings scelte(
       QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize"),
       QSettings::NativeFormat);
-  vestiDiScuro(scelte.value(QStringLiteral("AppsUseLightTheme"), 1).toInt() == 0);
+  vesti(scelte.value(QStringLiteral("AppsUseLightTheme"), 1).toInt() == 0);
 }
 
 }  // namespace vaticlo
