@@ -116,17 +116,17 @@ TEST(Frase, SaysNoMoreThanItsFigures) {
   c.attese = 15;
   EXPECT_EQ(fraseDel(c), "80% di vincenti; per caso se ne attendono 75%. Senza prove non si può dire altro.");
   c.prove = 999;
-  const std::tuple<int, int, const char*> casi[] = {
-      {429, 700, "75%: 43 prove su 100 fanno almeno così. Il risultato non si distingue dal caso."},
-      {49, 970, "75%: 5 prove su 100 fanno almeno così. Per caso succede di rado"},
-      {9, 999, "75%: 1 prova su 100 fa almeno così."},
-      {0, 999, "75%: 1 prova su 1000 fa almeno così."},
-      {990, 19, "75%: 2 prove su 100 fanno così o peggio."}};
-  for (const auto& [almeno, alPiu, attesa] : casi) {
+  const auto frase = [&c](int almeno, int alPiu) {
     c.almeno = almeno;
     c.alPiu = alPiu;
-    EXPECT_THAT(fraseDel(c), HasSubstr(attesa));
-  }
+    return fraseDel(c);
+  };
+  EXPECT_THAT(frase(429, 700), HasSubstr("75%: 43 prove su 100 fanno almeno così. Il risultato non si "
+                                         "distingue dal caso."));
+  EXPECT_THAT(frase(49, 970), HasSubstr("75%: 5 prove su 100 fanno almeno così. Per caso succede di rado"));
+  EXPECT_THAT(frase(9, 999), HasSubstr("75%: 1 prova su 100 fa almeno così."));
+  EXPECT_THAT(frase(0, 999), HasSubstr("75%: 1 prova su 1000 fa almeno così."));
+  EXPECT_THAT(frase(990, 19), HasSubstr("75%: 2 prove su 100 fanno così o peggio."));
   EXPECT_EQ(avvertenzaPer(1), "");
   EXPECT_THAT(avvertenzaPer(20), HasSubstr("Di 20 metodi"));
 }

@@ -23,12 +23,31 @@ class HitRules : public testing::Test {
   RegoleVincita regole{archivio.griglia};
 };
 
-TEST_F(HitRules, AnAmbataIsAnyCellOfItsRowAZeroAndTheDateIncluded) {
-  const std::tuple<int, int, int, bool> casi[] = {{50, 1, 2, true},  {255, 6, 2, true}, {0, 11, 2, true},
-                                                  {0, 1, 1, true},   {12, 0, 2, true},  {7, 1, 2, false},
-                                                  {10, 1, 1, false}, {0, 1, 2, false},  {10, 0, 2, false}};
-  for (const auto& [numero, ruota, estrazione, uscita] : casi)
-    EXPECT_EQ(regole.ambata(numero, ruota, estrazione), uscita) << numero << " on " << ruota;
+struct Ambata {
+  const char* nome;
+  int numero, ruota, estrazione;
+  bool uscita;
+};
+
+void PrintTo(const Ambata& caso, std::ostream* dove) { *dove << caso.nome; }
+
+class AmbataOut : public HitRules, public testing::WithParamInterface<Ambata> {};
+
+TEST_P(AmbataOut, IsAnyCellOfItsRowAZeroAndTheDateIncluded) {
+  const auto& caso = GetParam();
+  EXPECT_EQ(regole.ambata(caso.numero, caso.ruota, caso.estrazione), caso.uscita);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , AmbataOut,
+    testing::Values(Ambata{"drawn", 50, 1, 2, true}, Ambata{"no_number_of_the_game", 255, 6, 2, true},
+                    Ambata{"zero_of_cells_not_set", 0, 11, 2, true}, Ambata{"zero_of_no_draw", 0, 1, 1, true},
+                    Ambata{"day", 12, 0, 2, true}, Ambata{"on_another_wheel", 7, 1, 2, false},
+                    Ambata{"in_another_draw", 10, 1, 1, false}, Ambata{"zero_of_a_full_row", 0, 1, 2, false},
+                    Ambata{"not_in_the_date", 10, 0, 2, false}),
+    perNome);
+
+TEST_F(HitRules, AnAmbataOutsideTheGridFails) {
   for (const int ruota : {-1, 12}) EXPECT_EQ(failureDi([&] { return regole.ambata(1, ruota, 2); }), 9);
   for (const int estrazione : {0, 15001})
     EXPECT_EQ(failureDi([&] { return regole.ambata(1, 1, estrazione); }), 9) << estrazione;

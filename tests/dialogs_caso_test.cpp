@@ -95,12 +95,11 @@ TEST_F(Caso, WhatCannotBeRunIsRefusedInWords) {
 }
 
 TEST(TempoRimasto, IsToldInWords) {
-  using std::chrono::milliseconds;
-  for (const auto& [fatte, prove, trascorso, testo] : {std::tuple{0, 10, 5000, ""},
-                                                       {5, 10, 1000, "ancora 1 secondo"},
-                                                       {1, 10, 2000, "ancora 18 secondi"},
-                                                       {1, 121, 1000, "ancora 2 minuti"}})
-    EXPECT_EQ(testoRimasto(fatte, prove, milliseconds(trascorso)), testo);
+  using namespace std::chrono_literals;
+  EXPECT_EQ(testoRimasto(0, 10, 5s), "");
+  EXPECT_EQ(testoRimasto(5, 10, 1s), "ancora 1 secondo");
+  EXPECT_EQ(testoRimasto(1, 10, 2s), "ancora 18 secondi");
+  EXPECT_EQ(testoRimasto(1, 121, 1s), "ancora 2 minuti");
 }
 
 TEST(RitardiEFrequenze, FollowEveryChoice) {

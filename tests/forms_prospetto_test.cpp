@@ -18,15 +18,16 @@ Tabella tabella() {
 TEST(Prospetto, RowsFollowAColumnAndEmptyFieldsComeLast) {
   Prospetto p;
   p.mostra(tabella());
-  for (const auto& [colonna, crescente, righe] : {std::tuple{0U, true, Righe{3, 1, 2, 0}},
-                                                  {0U, false, Righe{0, 2, 1, 3}},
-                                                  {1U, true, Righe{0, 3, 1, 2}},
-                                                  {1U, false, Righe{1, 0, 3, 2}},
-                                                  {2U, false, Righe{1, 2, 0, 3}},
-                                                  {3U, true, Righe{3, 0, 2, 1}}}) {
+  const auto ordinate = [&p](unsigned colonna, bool crescente) {
     p.ordina({colonna, crescente});
-    EXPECT_EQ(p.mostrate(), righe) << colonna;
-  }
+    return p.mostrate();
+  };
+  EXPECT_EQ(ordinate(0, true), (Righe{3, 1, 2, 0}));
+  EXPECT_EQ(ordinate(0, false), (Righe{0, 2, 1, 3}));
+  EXPECT_EQ(ordinate(1, true), (Righe{0, 3, 1, 2}));
+  EXPECT_EQ(ordinate(1, false), (Righe{1, 0, 3, 2}));
+  EXPECT_EQ(ordinate(2, false), (Righe{1, 2, 0, 3}));
+  EXPECT_EQ(ordinate(3, true), (Righe{3, 0, 2, 1}));
   p.ordina({9, true});
   EXPECT_EQ(p.ordine().colonna, 3U) << "there is no such column";
   p.ordina({});

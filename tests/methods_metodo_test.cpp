@@ -30,21 +30,16 @@ FileMetodo calcolateSu(const Celle& estrazioni) {
 }
 
 TEST(MethodFile, ASlotCountsAsTakenForTheScansForTheListAndForTheSaveInThreeWays) {
-  struct Caso {
-    Celle estrazioni;
-    int viste, elencate, libero;
-  };
-  for (const auto& [estrazioni, viste, elencate, libero] : {Caso{{}, 0, 0, 1},
-                                                            {{57, 3501, 3500, 3502}, 2, 4, 1},
-                                                            {{3501, 57, 3502}, 3, 3, 2},
-                                                            {{100, 200}, 0, 2, 3},
-                                                            {Celle(9, 101), 9, 9, 10}}) {
-    SCOPED_TRACE(testing::PrintToString(estrazioni));
+  // How many the scans see, how many the editor lists, and where the next one is saved.
+  const auto conta = [](const Celle& estrazioni) {
     const auto metodo = calcolateSu(estrazioni);
-    EXPECT_EQ(ContaPrevisioni(metodo), viste);
-    EXPECT_EQ(ContaElencate(metodo), elencate);
-    EXPECT_EQ(PrimoSlotLibero(metodo), libero);
-  }
+    return std::array{ContaPrevisioni(metodo), ContaElencate(metodo), PrimoSlotLibero(metodo)};
+  };
+  EXPECT_THAT(conta({}), ElementsAre(0, 0, 1));
+  EXPECT_THAT(conta({57, 3501, 3500, 3502}), ElementsAre(2, 4, 1));
+  EXPECT_THAT(conta({3501, 57, 3502}), ElementsAre(3, 3, 2));
+  EXPECT_THAT(conta({100, 200}), ElementsAre(0, 2, 3));
+  EXPECT_THAT(conta(Celle(9, 101)), ElementsAre(9, 9, 10));
   const auto pieno = calcolateSu(Celle(10, 101));
   EXPECT_EQ(failureDi([&] { return ContaPrevisioni(pieno); }), 9);
   EXPECT_EQ(failureDi([&] { return ContaElencate(pieno); }), 9);
@@ -85,21 +80,24 @@ class Decoding : public testing::Test {
 };
 
 TEST_F(Decoding, ReadsTheTelephoneNumberUpToAZeroGroup) {
-  const std::pair<Celle, std::string> casi[] = {{{}, ""},
-                                                {{255, 9, 9, 10, 200}, "2559.09.10.200"},
-                                                {{89, 9, 12, 0, 34}, "899.12"},
-                                                {{89, 9, 0, 12}, "899.00.12"},
-                                                {{0, 9, 12}, ".12"}};
-  for (const auto& [celle, testo] : casi) EXPECT_EQ(decodifica({.telefono = celle}).NumeroTelefono, testo);
+  const auto numero = [&](const Celle& celle) { return decodifica({.telefono = celle}).NumeroTelefono; };
+  EXPECT_EQ(numero({}), "");
+  EXPECT_EQ(numero({255, 9, 9, 10, 200}), "2559.09.10.200");
+  EXPECT_EQ(numero({89, 9, 12, 0, 34}), "899.12");
+  EXPECT_EQ(numero({89, 9, 0, 12}), "899.00.12");
+  EXPECT_EQ(numero({0, 9, 12}), ".12");
 }
 
 TEST_F(Decoding, TakesTheFirstWheelUntestedAndTutteOutOfTheList) {
-  const std::tuple<Celle, Celle, bool> casi[] = {
-      {{3, 12, 3}, {3, 3}, true}, {{12}, {}, true}, {{}, {0}, false}, {{0, 4, 0, 5}, {0, 4}, false}};
-  for (const auto& [celle, ruote, tutte] : casi) {
-    EXPECT_EQ(decodifica({.ruote = celle}).Ruote, ruote);
-    EXPECT_EQ(previsione.Tutte, tutte);
-  }
+  const auto ruote = [&](const Celle& celle) { return decodifica({.ruote = celle}).Ruote; };
+  EXPECT_THAT(ruote({3, 12, 3}), ElementsAre(3, 3));
+  EXPECT_TRUE(previsione.Tutte);
+  EXPECT_THAT(ruote({12}), IsEmpty());
+  EXPECT_TRUE(previsione.Tutte);
+  EXPECT_THAT(ruote({}), ElementsAre(0));
+  EXPECT_FALSE(previsione.Tutte);
+  EXPECT_THAT(ruote({0, 4, 0, 5}), ElementsAre(0, 4));
+  EXPECT_FALSE(previsione.Tutte);
 }
 
 TEST_F(Decoding, WalksTheAmbateFromTheSecondCellEvenBehindAnEmptyFirstOne) {

@@ -36,53 +36,105 @@ class FieldTexts : public testing::Test {
   FileMetodo metodo;
 };
 
-TEST_F(FieldTexts, GoIntoTheirCellsAndComeBackInTheirPlainForm) {
-  const std::tuple<std::string T::*, Campo, std::string, Celle, std::string> casi[] = {
-      {&T::numero, kCampoEstrazione, " 2559.255.7 ", {255, 9, 255, 7}, "2559.255.07"},
-      {&T::ruote, kCampoRuote, " ba-TUTTE-Naz-Naz ", {1, 12, 11, 11}, "Ba-Tutte-Naz-Naz"},
-      {&T::colpi, kCampoColpi, "30", {30}, "30"},
-      {&T::ambate, kCampoAmbate, "12; 07;255", {12, 7, 255}, "12;7;255"},
-      {&T::ambi, kCampoAmbi, "12-34;5- 6", {12, 34, 99, 5, 6, 99}, "12-34;5-6"},
-      {&T::ambi, kCampoAmbi, "1-2-3;7;", {1, 2, 3, 99, 7, 99, 99}, "1-2-3;7;"},
-      {&T::ambi, kCampoAmbi, "  ", {}, ""},
-      {&T::sup, kCampoSup, "15-50-66-71;25", {15, 50, 66, 71, 99, 25, 99}, "15-50-66-71;25"}};
-  for (const auto& [testo, campo, scritto, attese, letto] : casi) {
-    metodo = {};
-    EXPECT_EQ(esito(testo, scritto), "") << scritto;
-    EXPECT_EQ(celle(campo, campo == kCampoEstrazione ? 3 : 1), attese) << scritto;
-    EXPECT_EQ(leggiTesti(metodo, 1).*testo, letto) << scritto;
-  }
+struct Letto {
+  const char* nome;
+  std::string T::*testo;
+  Campo campo;
+  std::string scritto;
+  Celle celle;           ///< what the field holds then
+  std::string mostrato;  ///< how it is shown again
+};
+
+void PrintTo(const Letto& caso, std::ostream* dove) { *dove << caso.nome; }
+
+class FieldTextsTaken : public FieldTexts, public testing::WithParamInterface<Letto> {};
+
+TEST_P(FieldTextsTaken, GoIntoTheirCellsAndComeBackInTheirPlainForm) {
+  const auto& caso = GetParam();
+  EXPECT_EQ(esito(caso.testo, caso.scritto), "");
+  EXPECT_EQ(celle(caso.campo, caso.campo == kCampoEstrazione ? 3 : 1), caso.celle);
+  EXPECT_EQ(leggiTesti(metodo, 1).*caso.testo, caso.mostrato);
 }
 
-TEST_F(FieldTexts, AreRefusedOrFailWhenTheCellsCannotTakeThem) {
-  const std::string ruote = "Errore nell'inserimento delle ruote!";
-  const std::tuple<std::string T::*, std::string, std::string> casi[] = {
-      {&T::numero, "2560", "6"},    {&T::numero, "-5", "6"},   {&T::numero, "899.256", "6"},
-      {&T::numero, "899..1", "13"}, {&T::numero, "  ", "9"},   {&T::ruote, "Ba - Ca", ruote},
-      {&T::ruote, "Bari", ruote},   {&T::ruote, "Ba-", ruote}, {&T::colpi, "256", "6"},
-      {&T::ambate, "12;", "13"},    {&T::ambate, "-1", "6"},   {&T::ambi, "5--6", "13"},
-      {&T::sup, "  ", "13"},        {&T::sup, "1-300", "6"}};
-  for (const auto& [campo, testo, atteso] : casi) EXPECT_EQ(esito(campo, testo), atteso) << testo;
+INSTANTIATE_TEST_SUITE_P(
+    , FieldTextsTaken,
+    testing::Values(
+        Letto{"number", &T::numero, kCampoEstrazione, " 2559.255.7 ", {255, 9, 255, 7}, "2559.255.07"},
+        Letto{"wheels", &T::ruote, kCampoRuote, " ba-TUTTE-Naz-Naz ", {1, 12, 11, 11}, "Ba-Tutte-Naz-Naz"},
+        Letto{"colpi", &T::colpi, kCampoColpi, "30", {30}, "30"},
+        Letto{"ambate", &T::ambate, kCampoAmbate, "12; 07;255", {12, 7, 255}, "12;7;255"},
+        Letto{"ambi", &T::ambi, kCampoAmbi, "12-34;5- 6", {12, 34, 99, 5, 6, 99}, "12-34;5-6"},
+        Letto{"groups_not_of_two", &T::ambi, kCampoAmbi, "1-2-3;7;", {1, 2, 3, 99, 7, 99, 99}, "1-2-3;7;"},
+        Letto{"no_ambi", &T::ambi, kCampoAmbi, "  ", {}, ""},
+        Letto{"combinations",
+              &T::sup,
+              kCampoSup,
+              "15-50-66-71;25",
+              {15, 50, 66, 71, 99, 25, 99},
+              "15-50-66-71;25"}),
+    perNome);
+
+struct Rifiutato {
+  const char* nome;
+  std::string T::*campo;
+  std::string testo, esito;
+};
+
+void PrintTo(const Rifiutato& caso, std::ostream* dove) { *dove << caso.nome; }
+
+class FieldTextsRefused : public FieldTexts, public testing::WithParamInterface<Rifiutato> {};
+
+TEST_P(FieldTextsRefused, EndAsTheCellsCannotTakeThem) {
+  EXPECT_EQ(esito(GetParam().campo, GetParam().testo), GetParam().esito);
 }
 
-TEST_F(FieldTexts, FillAllCellsOfAListAndNotOneMore) {
-  const std::string ambi = "Il numero degli ambi inseriti supera il limite massimo possibile!";
-  const std::string sup =
-      "Il numero delle combinazioni superiori inserite supera il limite massimo possibile!";
-  // The text that takes all cells, what one more makes of it, and how the save of that ends.
-  const std::tuple<std::string T::*, std::string, std::string, std::string> casi[] = {
-      {&T::ambi, ripetuto("1-2", 60, ';'), "-3", ambi},
-      {&T::sup, ripetuto(ripetuto("1", 8, '-'), 20, ';'), ";", sup},
-      {&T::ambate, ripetuto("1", 180, ';'), ";1", "9"},
-      {&T::ruote, ripetuto("Ba", 180, '-'), "-Ba", "9"},
-      {&T::numero, "899." + ripetuto("1", 176, '.'), ".1", "9"}};
-  for (const auto& [campo, testo, ancora, atteso] : casi) {
-    metodo = {};
-    EXPECT_EQ(esito(campo, testo), "") << testo;
-    EXPECT_EQ(failureDi([&] { return leggiTesti(metodo, 1); }), 9) << "no end: " << testo;
-    EXPECT_EQ(esito(campo, testo + ancora), atteso) << testo;
-  }
+const std::string kRuote = "Errore nell'inserimento delle ruote!";
+
+const Rifiutato kRifiutati[] = {{"first_cell_above_a_byte", &T::numero, "2560", "6"},
+                                {"negative_number", &T::numero, "-5", "6"},
+                                {"group_above_a_byte", &T::numero, "899.256", "6"},
+                                {"empty_group", &T::numero, "899..1", "13"},
+                                {"no_number", &T::numero, "  ", "9"},
+                                {"blanks_between_wheels", &T::ruote, "Ba - Ca", kRuote},
+                                {"whole_name", &T::ruote, "Bari", kRuote},
+                                {"wheels_end_in_a_hyphen", &T::ruote, "Ba-", kRuote},
+                                {"colpi_above_a_byte", &T::colpi, "256", "6"},
+                                {"ambate_end_in_a_semicolon", &T::ambate, "12;", "13"},
+                                {"negative_ambata", &T::ambate, "-1", "6"},
+                                {"two_hyphens", &T::ambi, "5--6", "13"},
+                                {"blank_combination", &T::sup, "  ", "13"},
+                                {"combination_above_a_byte", &T::sup, "1-300", "6"}};
+
+INSTANTIATE_TEST_SUITE_P(, FieldTextsRefused, testing::ValuesIn(kRifiutati), perNome);
+
+struct Pieno {
+  const char* nome;
+  std::string T::*campo;
+  std::string testo, ancora;  ///< what takes all cells, and what is one too many
+  std::string esito;          ///< of both together
+};
+
+void PrintTo(const Pieno& caso, std::ostream* dove) { *dove << caso.nome; }
+
+class FieldTextsFull : public FieldTexts, public testing::WithParamInterface<Pieno> {};
+
+TEST_P(FieldTextsFull, FillAllCellsOfAListAndNotOneMore) {
+  const auto& [nome, campo, testo, ancora, atteso] = GetParam();
+  EXPECT_EQ(esito(campo, testo), "");
+  EXPECT_EQ(failureDi([&] { return leggiTesti(metodo, 1); }), 9) << "no end";
+  EXPECT_EQ(esito(campo, testo + ancora), atteso);
 }
+
+const Pieno kPieni[] = {
+    {"ambi", &T::ambi, ripetuto("1-2", 60, ';'), "-3",
+     "Il numero degli ambi inseriti supera il limite massimo possibile!"},
+    {"combinations", &T::sup, ripetuto(ripetuto("1", 8, '-'), 20, ';'), ";",
+     "Il numero delle combinazioni superiori inserite supera il limite massimo possibile!"},
+    {"ambate", &T::ambate, ripetuto("1", 180, ';'), ";1", "9"},
+    {"wheels", &T::ruote, ripetuto("Ba", 180, '-'), "-Ba", "9"},
+    {"number", &T::numero, "899." + ripetuto("1", 176, '.'), ".1", "9"}};
+
+INSTANTIATE_TEST_SUITE_P(, FieldTextsFull, testing::ValuesIn(kPieni), perNome);
 
 TEST_F(FieldTexts, OfADrawRoundTheCenturyAndFailForYearsThatGoBelowIt) {
   const auto data = [](int anno) { return dataDaTesto("12/3/" + std::to_string(anno)).value(); };

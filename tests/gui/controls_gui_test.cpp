@@ -172,13 +172,13 @@ class ControlsGuiTest : public QObject {
     auto* opzione = new xpradiobutton("Somma && &Distanza", &f);
     auto* riquadro = new xpgroupbox("Opzioni di Ricerca", &f);
     const auto leggi = [](QWidget* widget) { return QAccessible::queryAccessibleInterface(widget); };
-    for (const auto& [widget, ruolo, nome] :
-         {std::tuple<QWidget*, QAccessible::Role, const char*>{f.pulsante, QAccessible::PushButton, "Salva"},
-          {opzione, QAccessible::RadioButton, "Somma & Distanza"},
-          {riquadro, QAccessible::Grouping, "Opzioni di Ricerca"}}) {
-      QCOMPARE(leggi(widget)->role(), ruolo);
-      QCOMPARE(leggi(widget)->text(QAccessible::Name), QString(nome));
-    }
+    const auto nome = [&leggi](QWidget* widget) { return leggi(widget)->text(QAccessible::Name); };
+    QCOMPARE(leggi(f.pulsante)->role(), QAccessible::PushButton);
+    QCOMPARE(nome(f.pulsante), QString("Salva"));
+    QCOMPARE(leggi(opzione)->role(), QAccessible::RadioButton);
+    QCOMPARE(nome(opzione), QString("Somma & Distanza"));
+    QCOMPARE(leggi(riquadro)->role(), QAccessible::Grouping);
+    QCOMPARE(nome(riquadro), QString("Opzioni di Ricerca"));
     QVERIFY(leggi(opzione)->state().checkable && !leggi(opzione)->state().checked);
     leggi(opzione)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
     QVERIFY(opzione->Value() && leggi(opzione)->state().checked);
