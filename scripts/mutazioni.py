@@ -25,6 +25,8 @@ from mutanti import slips
 
 MEMORY = 4 << 30
 FILE = 1 << 30
+BUILD = 7200  # seconds, for all of it
+WAIT = 10  # how much longer a test may wait than work
 CAUGHT, SURVIVED, NO_BUILD, NO_CHANGE = "caught", "survived", "does not compile", "changes nothing"
 
 
@@ -55,9 +57,11 @@ class Copy:
             if file.is_file() and file not in wanted:
                 file.unlink()
 
-    def run(self, *command, limit):
-        """Whether it ended well and in time; what it said is in the log."""
+    def run(self, *command, limit, processor=resource.RLIM_INFINITY):
+        """Whether it ended well and in time; what it said is in the log. Each of its processes has that much
+        processor time, in seconds: on a busy machine a slow test is not taken for one that turns in circles."""
         def bounds():
+            resource.setrlimit(resource.RLIMIT_CPU, (processor, processor))
             resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
             resource.setrlimit(resource.RLIMIT_FSIZE, (FILE, FILE))
         with open(self.log, "w") as log:
@@ -78,17 +82,18 @@ class Copy:
         return self.run("cmake", "-G", "Ninja", "-S", ".", "-B", str(self.build), "-DCMAKE_BUILD_TYPE=Debug",
                         "-DCMAKE_CXX_FLAGS_DEBUG=-O1", limit=600)
 
-    def make(self, limit, *target):
-        return self.run("cmake", "--build", str(self.build), "-j", self.jobs, *target, limit=limit)
+    def make(self, *target):
+        return self.run("cmake", "--build", str(self.build), "-j", self.jobs, *target, limit=BUILD)
 
     def test(self, *which):
         return self.run("ctest", "--test-dir", str(self.build), "-j", self.jobs, "--stop-on-failure",
-                        "--output-on-failure", "--timeout", str(self.limit), *which, limit=2 * self.limit)
+                        "--output-on-failure", "--timeout", str(WAIT * self.limit), *which, limit=2 * WAIT * self.limit,
+                        processor=self.limit)
 
     def caught_in(self, folder):
         """Whether the folder's own tests notice; they are built much sooner than all."""
         program = f"{folder}_test"
-        return ((self.build / "tests" / program).exists() and self.make(20 * self.limit, "--target", program) and
+        return ((self.build / "tests" / program).exists() and self.make("--target", program) and
                 not self.test("-R", f"^{folder}: "))
 
     def programs(self):
@@ -104,7 +109,7 @@ class Copy:
         try:
             if self.caught_in(file.relative_to(self.tree).parts[1]):
                 return CAUGHT
-            if not self.make(20 * self.limit):
+            if not self.make():
                 return NO_BUILD
             if self.programs() == unchanged:
                 return NO_CHANGE
@@ -146,8 +151,8 @@ def main():
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--only", default="", metavar="REGEX", help="files, as src/FOLDER/FILE")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
-    parser.add_argument("--limit", type=int, default=120, metavar="SECONDS",
-                        help="a test that takes longer has noticed (120); a whole run may take twice that")
+    parser.add_argument("--limit", type=int, default=60, metavar="SECONDS",
+                        help="a test that takes more processor time has noticed (60), or that waits ten times as long")
     parser.add_argument("--work", type=pathlib.Path, metavar="DIR", help="keep copy and build there for the next time")
     options = parser.parse_args()
 
@@ -156,7 +161,7 @@ def main():
         copy.unpack(pathlib.Path(__file__).parent.parent)
         print("building the copy and running its tests once ...", flush=True)
         started = time.monotonic()
-        if not (copy.configure() and copy.make(7200) and copy.test()):
+        if not (copy.configure() and copy.make() and copy.test()):
             print(copy.log.read_text()[-4000:])
             sys.exit("The copy itself does not build, or fails its tests.")
         print(f"done in {time.monotonic() - started:.0f} s", flush=True)
