@@ -130,7 +130,7 @@ libreria_qt6_base() {  # windows, printing, their tests; no network, no graphics
   incrocia "$(echo "$sorgenti"/qt6-base-*/)" qt6-base "${qt_di_qui[@]}" -DCMAKE_BUILD_TYPE=MinSizeRel \
     -DCMAKE_INSTALL_PREFIX="$librerie/qt" -DQT_QMAKE_TARGET_MKSPEC=win32-g++ -DINPUT_opengl=no \
     $(spenti %s QT_BUILD_EXAMPLES QT_BUILD_TESTS QT_BUILD_TOOLS_WHEN_CROSSCOMPILING) \
-    $(spenti QT_FEATURE_%s sql network dbus xml concurrent opengl vulkan direct2d tabletevent icu glib zstd jpeg gif \
+    $(spenti QT_FEATURE_%s sql network dbus xml concurrent opengl vulkan direct2d1_1 tabletevent icu glib zstd jpeg gif \
       system_zlib system_pcre2 system_png system_freetype system_harfbuzz androiddeployqt wizard undocommand undostack \
       undogroup undoview keysequenceedit lcdnumber dial fontdialog systemtrayicon movie columnview scroller \
       sharedmemory systemsemaphore)
