@@ -123,13 +123,14 @@ class PrincipaleGuiTest : public QObject {
     const QString testo = "Dalla barra la statistica non conta nulla: apritela dal menu";
     v.finestra.resize(1300, v.finestra.height());
     QTRY_COMPARE(avviso->text(), testo);
-    v.finestra.statusBar()->showMessage("Estrazione 3 salvata");
+    const QString fatto = "Aggiunte 3 estrazioni, dal 10/3/2005 al 15/3/2005, a quelle che c'erano";
+    v.finestra.statusBar()->showMessage(fatto);
     v.finestra.resize(600, v.finestra.height());
     QTRY_VERIFY(avviso->text() != testo && avviso->width() + 20 < v.finestra.width());
     QVERIFY(avviso->isVisible() && avviso->accessibleName() == testo);
     QStatusTipEvent vuoto{QString()};  // as an entry of a menu sends it
     QApplication::sendEvent(&v.finestra, &vuoto);
-    QCOMPARE(v.finestra.statusBar()->accessibleDescription(), QString("Estrazione 3 salvata"));
+    QCOMPARE(v.finestra.statusBar()->accessibleDescription(), fatto);
     v.scegli("mnu1metodo1");
     QVERIFY(avviso->isHidden());
   }

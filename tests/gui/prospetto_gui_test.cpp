@@ -58,6 +58,8 @@ class ProspettoGuiTest : public QObject {
   Q_OBJECT
 
  private slots:
+  void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
   void headsAndKeysPutTheRowsInOrderAndTheChoiceStays() {
     Prova v;
     QCOMPARE(v.colonna(1), QStringList({"2,0", "1,5", ""}));

@@ -44,6 +44,8 @@ class RapportiGuiTest : public QObject {
   Q_OBJECT
 
  private slots:
+  void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
   void aPaneBreaksNoLineAndIsCopiedAndSearchedByKeys() {
     Rapporto v;
     QVERIFY(v.area->horizontalScrollBar()->isVisible());

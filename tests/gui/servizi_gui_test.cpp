@@ -62,6 +62,8 @@ class ServiziGuiTest : public QObject {
   void pagina(const QUrl& indirizzo) { pagine_ << indirizzo.toString(); }
 
  private slots:
+  void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
   void darkColoursAreReadableAndGoAgain() {
     const auto prima = QApplication::palette().color(QPalette::Window);
     Aspetto aspetto;
