@@ -26,7 +26,7 @@ from mutanti import slips
 MEMORY = 4 << 30
 FILE = 1 << 30
 BUILD = 7200  # seconds, for all of it
-WAIT = 10  # how much longer a test may wait than work
+WAIT = 3  # how much longer a test may wait than work
 CAUGHT, SURVIVED, NO_BUILD, NO_CHANGE = "caught", "survived", "does not compile", "changes nothing"
 
 
@@ -153,7 +153,7 @@ def main():
     parser.add_argument("--only", default="", metavar="REGEX", help="files, as src/FOLDER/FILE")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--limit", type=int, default=60, metavar="SECONDS",
-                        help="a test that takes more processor time has noticed (60), or that waits ten times as long")
+                        help="a test that takes more processor time has noticed (60), or that waits three times as long")
     parser.add_argument("--work", type=pathlib.Path, metavar="DIR", help="keep copy and build there for the next time")
     options = parser.parse_args()
 

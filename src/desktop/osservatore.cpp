@@ -1,5 +1,6 @@
 #include "desktop/osservatore.h"
 
+#include <QFileInfo>
 #include <QStringList>
 
 #include "archive/archivio.h"
@@ -19,8 +20,8 @@ QString percorso(const std::filesystem::path& file) { return QString::fromStdStr
 OsservatoreCartella::OsservatoreCartella(const CartellaProgramma& cartella, std::function<bool()> cambiata,
                                          QObject* padre)
     : QObject(padre),
-      archivio_(cartella.file(kFileArchivio)),
-      metodi_(cartellaMetodi(cartella)),
+      archivio_(percorso(cartella.file(kFileArchivio))),
+      metodi_(percorso(cartellaMetodi(cartella))),
       cambiata_(std::move(cambiata)) {
   attesa_.setSingleShot(true);
   attesa_.setInterval(kAttesa);
@@ -35,19 +36,14 @@ OsservatoreCartella::OsservatoreCartella(const CartellaProgramma& cartella, std:
 // A file that was replaced is another one, and a folder may have been made only now.
 void OsservatoreCartella::guarda() {
   const auto visti = sentinella_.files() + sentinella_.directories();
-  std::error_code codice;
   for (const auto& file : {archivio_, metodi_})
-    if (!visti.contains(percorso(file)) && std::filesystem::exists(file, codice))
-      sentinella_.addPath(percorso(file));
+    if (!visti.contains(file) && QFileInfo::exists(file)) sentinella_.addPath(file);
 }
 
+// The standard library knows whole seconds alone on Windows: two changes would be one.
 OsservatoreCartella::Impronta OsservatoreCartella::impronta() const {
-  Impronta impronta;
-  std::error_code codice;
-  impronta.archivio = std::filesystem::last_write_time(archivio_, codice);
-  impronta.metodi = std::filesystem::last_write_time(metodi_, codice);
-  impronta.lunghezza = std::filesystem::file_size(archivio_, codice);
-  return impronta;
+  const QFileInfo archivio(archivio_);
+  return {archivio.lastModified(), QFileInfo(metodi_).lastModified(), archivio.size()};
 }
 
 void OsservatoreCartella::controlla() {

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <QDateTime>
 #include <QFileSystemWatcher>
 #include <QObject>
+#include <QString>
 #include <QTimer>
-#include <filesystem>
 #include <functional>
 
 #include "platform/cartella.h"
@@ -24,13 +25,13 @@ class OsservatoreCartella : public QObject {
 
   /// What is there, so far as a change shows in it.
   struct Impronta {
-    std::filesystem::file_time_type archivio, metodi;
-    std::uintmax_t lunghezza = 0;
+    QDateTime archivio, metodi;
+    qint64 lunghezza = 0;
     bool operator==(const Impronta&) const = default;
   };
   [[nodiscard]] Impronta impronta() const;
 
-  std::filesystem::path archivio_, metodi_;
+  QString archivio_, metodi_;
   std::function<bool()> cambiata_;
   QFileSystemWatcher sentinella_;
   QTimer attesa_;
