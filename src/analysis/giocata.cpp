@@ -41,7 +41,7 @@ int postiAlMassimo(const GiocataSuRuota::Ripetuta& posti) {
   return somma;
 }
 
-void aggiungiRipetuta(GiocataSuRuota& giocata, GiocataSuRuota::Ripetuta posti) {
+void aggiungiPosti(GiocataSuRuota& giocata, GiocataSuRuota::Ripetuta posti) {
   InsiemeNumeri gruppo;
   if (postiAlMassimo(posti) > kMassimo) {
     for (const auto& [numero, quanti] : posti) giocata.coinvolti.aggiungi(numero);
@@ -54,22 +54,14 @@ void aggiungiRipetuta(GiocataSuRuota& giocata, GiocataSuRuota::Ripetuta posti) {
 
 void aggiungiCombinazione(GiocataSuRuota& giocata, std::span<const std::int16_t> combinazione) {
   InsiemeNumeri numeri;
-  bool ripete = false;
-  for (const int numero : combinazione) {
-    if (!nellUrna(numero)) continue;
-    ripete = ripete || numeri.contiene(numero);
-    numeri.aggiungi(numero);
-  }
-  if (!ripete) {
-    aggiungiGruppo(giocata, numeri);
-    return;
-  }
+  for (const int numero : combinazione)
+    if (nellUrna(numero)) numeri.aggiungi(numero);
   GiocataSuRuota::Ripetuta posti;
   numeri.perOgni([&](int numero) {
     posti.emplace_back(numero,
                        static_cast<int>(std::count(combinazione.begin(), combinazione.end(), numero)));
   });
-  aggiungiRipetuta(giocata, std::move(posti));
+  aggiungiPosti(giocata, std::move(posti));
 }
 
 }  // namespace

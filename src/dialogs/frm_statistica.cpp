@@ -40,7 +40,6 @@ frmStatistica::frmStatistica(Programma& programma, Cornice& cornice)
   btnStampa.Click = [this] { btnStampa_Click(); };
   btnCancella.Click = [this] { btnCancella_Click(); };
   btnStampa.Enabled(false);
-  btnStop.Enabled(false);
 }
 
 void frmStatistica::Form_Load() {

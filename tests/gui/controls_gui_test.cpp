@@ -167,6 +167,19 @@ class ControlsGuiTest : public QObject {
     QCOMPARE(immagine.pixelColor(100, 60), QColor(0, 200, 0));
   }
 
+  void everyControlShowsItsCaption() {
+    Finestra f;
+    const auto mostra = [&f](auto* controllo) {
+      controllo->setGeometry(10, 100, 200, 40);
+      const QImage prima = controllo->grab().toImage();
+      controllo->setCaption("Altro");
+      return controllo->grab().toImage() != prima;
+    };
+    QVERIFY(mostra(f.pulsante));
+    QVERIFY(mostra(new xpradiobutton("Uno", &f)));
+    QVERIFY(mostra(new xpgroupbox("Uno", &f)));
+  }
+
   void assistiveToolsReadNameRoleAndState() {
     Finestra f;
     auto* opzione = new xpradiobutton("Somma && &Distanza", &f);

@@ -73,6 +73,9 @@ class ProspettoGuiTest : public QObject {
     QTest::keyClick(v.vista, Qt::Key_2, Qt::ControlModifier);
     QCOMPARE(v.colonna(0), QStringList({"uno", "<b>due", "tre"}));
     QCOMPARE(testa.sortIndicatorOrder(), Qt::DescendingOrder);
+    QTest::mouseClick(testa.viewport(), Qt::LeftButton, {},
+                      {testa.sectionPosition(1) + 5, testa.height() / 2});
+    QCOMPARE(v.colonna(0), QStringList({"uno", "<b>due", "tre"}));  // as it came
     QTest::keyClick(v.vista, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QApplication::clipboard()->text(), QString("Nome\tQuota\nuno\t2\n<b>due\t1,5\n"));
     QTest::keyClick(v.vista, Qt::Key_End, Qt::ControlModifier);
@@ -91,6 +94,9 @@ class ProspettoGuiTest : public QObject {
     scriviMetodoProva(v.p, "B", std::vector<SlotProva>(10, slot));
     v.scegli("mnuGestione3");
     QCOMPARE(v.fuoco(), QString("metodi"));
+    v.usa("txtDal").setFocus();
+    v.premi(Qt::Key_Return);
+    QCOMPARE(v.fuoco(), QString("txtAl"));
     v.premi(Qt::Key_F, Qt::ControlModifier);
     v.scrivi("b");
     v.premi(Qt::Key_Down);
