@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Tries the tests: makes one small slip at a time in src/ and sees whether a test notices.
 
-Works on a copy of the last commit, never in the checkout. Each mutant, drawn from the seed, is built
-incrementally and tested up to the first failure, by the tests of its folder first. Mutants that do not compile, and those that change nothing
-(the programs come out the same to the byte), are counted apart and others are drawn for them. At the end: the
+Works on a copy of the last commit, never in the checkout. Each mutant, drawn from the seed, is built incrementally
+and tested up to the first failure, by the tests of its folder first. Mutants that do not compile, and those that
+change nothing (the programs come out the same to the byte), are counted apart and others are drawn for them. What no
+test notices is shown to the comparison of the guide's pictures, which sees what windows look like. At the end: the
 share caught by folder, and what survived."""
 import argparse
 import collections
@@ -80,7 +81,7 @@ class Copy:
 
     def configure(self):
         return self.run("cmake", "-G", "Ninja", "-S", ".", "-B", str(self.build), "-DCMAKE_BUILD_TYPE=Debug",
-                        "-DCMAKE_CXX_FLAGS_DEBUG=-O1", limit=600)
+                        "-DCMAKE_CXX_FLAGS_DEBUG=-O1", "-DVATICLO_FIGURE=ON", limit=600)
 
     def make(self, *target):
         return self.run("cmake", "--build", str(self.build), "-j", self.jobs, *target, limit=BUILD)
@@ -89,6 +90,9 @@ class Copy:
         return self.run("ctest", "--test-dir", str(self.build), "-j", self.jobs, "--stop-on-failure",
                         "--output-on-failure", "--timeout", str(WAIT * self.limit), *which, limit=2 * WAIT * self.limit,
                         processor=self.limit)
+
+    def pictures(self):
+        return self.run("scripts/confronta_figure.sh", str(self.build / "docs/figure/vaticlo_figure"), limit=600)
 
     def caught_in(self, folder):
         """Whether the folder's own tests notice, or those of the windows where it has none: sooner than all."""
@@ -114,7 +118,7 @@ class Copy:
                 return NO_BUILD
             if self.programs() == unchanged:
                 return NO_CHANGE
-            return SURVIVED if self.test() else CAUGHT
+            return SURVIVED if self.test() and self.pictures() else CAUGHT
         finally:
             file.write_text(text)
 
@@ -162,7 +166,7 @@ def main():
         copy.unpack(pathlib.Path(__file__).parent.parent)
         print("building the copy and running its tests once ...", flush=True)
         started = time.monotonic()
-        if not (copy.configure() and copy.make() and copy.test()):
+        if not (copy.configure() and copy.make() and copy.test() and copy.pictures()):
             print(copy.log.read_text()[-4000:])
             sys.exit("The copy itself does not build, or fails its tests.")
         print(f"done in {time.monotonic() - started:.0f} s", flush=True)
