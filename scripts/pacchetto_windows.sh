@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Vaticlo for Windows, cross-built on Debian 12 from Debian's packages and sources alone.
-#   scripts/pacchetto_windows.sh          vaticlo-VERSION-windows-x86_64.zip in build/windows: both programs and all tests
-#                                         of the logic under Wine. The first time it also builds Qt: near half an hour.
+#   scripts/pacchetto_windows.sh          vaticlo-VERSION-windows-x86_64.zip in build/windows: both programs, after all their
+#                                         tests under Wine. The first time it also builds Qt: near half an hour.
 #   scripts/pacchetto_windows.sh logica   only the logic and the console, and their tests under Wine
 # The libraries stay in build/windows/librerie and, as an archive to be carried to another machine, in
 # build/windows/librerie.tar.xz: what is there is not built again.
