@@ -21,13 +21,14 @@ void confronta(const Tavola& tavola, Converti converti) {
 }
 
 TEST(Conversion, RoundsATextHalfToEvenAndTellsNoNumberFromOutOfRange) {
-  const std::string enorme = "1" + std::string(40, '0');
-  confronta({{"0", {"0", "0,5", "-0,5"}},
-             {"14", {"14", "+14", " 014 ", "13,5", "14,5", "14,49"}},
-             {"254", {"254,5"}},
-             {"failure 6", {"256", "255,5", "-1", "-0,51", enorme}},
-             {"failure 13", {"", "  ", "a", "1 2", "1.5", "1e1", "0x1", "--1", "-", "\t5", "1,2,3", "5;"}}},
-            inByte);
+  const std::string enorme = "1" + std::string(400, '0'), minimo = "0," + std::string(400, '0') + "1";
+  confronta(
+      {{"0", {"0", "0,5", "-0,5", minimo}},
+       {"14", {"14", "+14", " 014 ", "13,5", "14,5", "14,49"}},
+       {"254", {"254,5"}},
+       {"failure 6", {"256", "255,5", "-1", "-0,51", enorme}},
+       {"failure 13", {"", "  ", "a", "1 2", "1.5", "1e1", "0x1", "--1", "-", "\t5", "1,2,3", "5;", ",5"}}},
+      inByte);
   confronta({{"32767", {"32767", "32767,4"}},
              {"32766", {"32766,5"}},
              {"-32768", {"-32768", "-32768,5"}},
@@ -35,6 +36,8 @@ TEST(Conversion, RoundsATextHalfToEvenAndTellsNoNumberFromOutOfRange) {
              {"failure 6", {"32768", "32767,5", "-32769", enorme}},
              {"failure 13", {"1/2", ""}}},
             inIntero16);
+  EXPECT_EQ(interoTra("7,0", 7, 7), 7);
+  EXPECT_EQ(interoTra("0,0000000000000001", 0, 7), std::nullopt) << "not whole, however little";
 }
 
 TEST(Conversion, WritesARoundedNumberWithFifteenDigitsAndAComma) {

@@ -5,6 +5,8 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <string>
+#include <system_error>
 
 #include "platform/failure.h"
 #include "platform/testo.h"
@@ -40,24 +42,18 @@ std::optional<double> numeroDaTesto(std::string_view testo) {
   auto resto = senzaBlanchi(testo);
   const bool negativo = resto.starts_with('-');
   if (negativo || resto.starts_with('+')) resto.remove_prefix(1);
-  if (resto.empty() || !cifra(resto.front())) return std::nullopt;
+  const auto virgola = std::min(resto.find(','), resto.size());
+  const auto interi = resto.substr(0, virgola);
+  std::string comune(resto);
+  if (virgola < resto.size()) comune[virgola] = '0';
+  if (interi.empty() || !std::ranges::all_of(comune, cifra)) return std::nullopt;
 
+  if (virgola < resto.size()) comune[virgola] = '.';
   double valore = 0;
-  while (!resto.empty() && cifra(resto.front())) {
-    valore = valore * 10 + (resto.front() - '0');
-    resto.remove_prefix(1);
-  }
-  if (resto.starts_with(',')) {
-    resto.remove_prefix(1);
-    double decimali = 0, scala = 1;
-    for (; !resto.empty() && cifra(resto.front()); resto.remove_prefix(1)) {
-      if (scala >= 1e15) continue;  // digits after the fifteenth decimal change no rounding
-      decimali = decimali * 10 + (resto.front() - '0');
-      scala *= 10;
-    }
-    valore += decimali / scala;
-  }
-  if (!resto.empty()) return std::nullopt;
+  const auto [fine, codice] =
+      std::from_chars(comune.data(), comune.data() + comune.size(), valore, std::chars_format::fixed);
+  if (codice == std::errc::result_out_of_range && interi.find_first_not_of('0') != std::string_view::npos)
+    valore = std::numeric_limits<double>::infinity();
   return negativo ? -valore : valore;
 }
 
