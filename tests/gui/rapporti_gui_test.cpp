@@ -88,6 +88,20 @@ class RapportiGuiTest : public QObject {
     QCOMPARE(riga.charFormat().foreground().style(), Qt::NoBrush);  // of the text itself
   }
 
+  void aNumberThatHasWonStandsOutInItsField() {
+    PrincipaleProva v;
+    archivioDi(110, "103 Ba 7 8").scrivi(v.p);
+    scriviMetodoProva(v.p, "Mio", {{.estrazione = 102, .ruote = {1}, .colpi = 3, .ambate = {7}}});
+    v.scegli("mnuMetodi");
+    v.p.servizi.digitato = "103";
+    v.premi(Qt::Key_F3);
+    const auto &sette = v.usa("txtestr_0"), &otto = v.usa("txtestr_1");
+    QVERIFY(sette.toolTip().startsWith("Ambata 7 Ba al 1°colpo") && otto.toolTip().isEmpty());
+    QVERIFY(sette.font().bold() && !otto.font().bold());
+    QVERIFY(sette.palette().color(QPalette::Text) != QColor(Qt::black));
+    QCOMPARE(otto.palette().color(QPalette::Text), QColor(Qt::black));
+  }
+
   void itsMenuSavesTheWholeText() {
     Rapporto v;
     const QTemporaryDir cartella;
