@@ -128,6 +128,7 @@ TEST_F(Quadro, AFailureOfTheDiskIsToldAndTheWindowLivesOn) {
   p.servizi.digitato = "Vuoto";
   frm.btnCopia_Click();
   EXPECT_EQ(p.servizi.messaggi.size(), 1U);
+  EXPECT_THAT(p.servizi.fatti, IsEmpty());
   EXPECT_EQ(previsioni("A"), 3);
   EXPECT_FALSE(frm.btnAnnulla.Enabled());
 }
