@@ -169,7 +169,7 @@ class ControlsGuiTest : public QObject {
 
   void everyControlShowsItsCaption() {
     Finestra f;
-    const auto mostra = [&f](auto* controllo) {
+    const auto mostra = [](auto* controllo) {
       controllo->setGeometry(10, 100, 200, 40);
       const QImage prima = controllo->grab().toImage();
       controllo->setCaption("Altro");
