@@ -5,6 +5,7 @@
 #include "methods/testi_previsione.h"
 #include "platform/conversione.h"
 #include "platform/failure.h"
+#include "program/rapporti.h"
 
 namespace vaticlo {
 
@@ -18,7 +19,7 @@ clsMetodo::clsMetodo(Programma& programma, SceltaVerifica scelta)
   g_.ContaGiocabili = 0;
   g_.ContaVincenti = 0;
   g_.ContaInGioco = 0;
-  g_.RapportiIncompleti.clear();
+  g_.RapportiInteri = true;
 }
 
 void clsMetodo::ricerca([[maybe_unused]] int estrazione) {
@@ -31,9 +32,7 @@ void clsMetodo::ricerca([[maybe_unused]] int estrazione) {
   }
 }
 
-void clsMetodo::rilascia() {
-  if (!rapporto_.concludi()) g_.RapportiIncompleti.push_back(rapporto_.nome());
-}
+void clsMetodo::rilascia() { concludi(rapporto_, programma_); }
 
 void clsMetodo::ScorriMetodi() {
   g_.ElencoMetodi = CaricaElencoMetodi(programma_.cartella, scelta_.metodo);

@@ -119,12 +119,12 @@ void ProspettoVista::segnaOrdine() {
 
 void ProspettoVista::aggiornaOrdini() {
   const auto& colonne = modello_.tabella().colonne;
-  const bool uguali = std::equal(colonne.begin(), colonne.end(), ordini_->actions().begin(),
-                                 ordini_->actions().end(), [](const Colonna& colonna, const QAction* azione) {
-                                   return azione->text() == QString::fromStdString(colonna.nome);
-                                 });
+  const auto azioni = ordini_->actions();  // a copy at each call
+  const bool uguali = std::ranges::equal(colonne, azioni, [](const Colonna& colonna, const QAction* azione) {
+    return azione->text() == QString::fromStdString(colonna.nome);
+  });
   if (uguali) return;
-  for (auto* azione : ordini_->actions()) {
+  for (auto* azione : azioni) {
     removeAction(azione);
     delete azione;
   }

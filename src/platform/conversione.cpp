@@ -44,15 +44,15 @@ std::optional<double> numeroDaTesto(std::string_view testo) {
   if (negativo || resto.starts_with('+')) resto.remove_prefix(1);
   const auto virgola = std::min(resto.find(','), resto.size());
   const auto interi = resto.substr(0, virgola);
-  std::string comune(resto);
-  if (virgola < resto.size()) comune[virgola] = '0';
-  if (interi.empty() || !std::ranges::all_of(comune, cifra)) return std::nullopt;
+  const auto decimali = resto.substr(std::min(virgola + 1, resto.size()));
+  if (interi.empty() || !std::ranges::all_of(interi, cifra) || !std::ranges::all_of(decimali, cifra))
+    return std::nullopt;
 
-  if (virgola < resto.size()) comune[virgola] = '.';
   double valore = 0;
-  const auto [fine, codice] =
+  const auto comune = std::string(interi).append(".").append(decimali);
+  const auto letto =
       std::from_chars(comune.data(), comune.data() + comune.size(), valore, std::chars_format::fixed);
-  if (codice == std::errc::result_out_of_range && interi.find_first_not_of('0') != std::string_view::npos)
+  if (letto.ec == std::errc::result_out_of_range && interi.find_first_not_of('0') != std::string_view::npos)
     valore = std::numeric_limits<double>::infinity();
   return negativo ? -valore : valore;
 }

@@ -39,7 +39,7 @@ struct Globals {
   int QuaterneSorti = 0;
   int CinquineSorti = 0;
 
-  std::vector<std::string> RapportiIncompleti;  ///< the reports that the disk did not take whole
+  bool RapportiInteri = true;  ///< whether the disk took the reports whole
 
   bool SoloVincenti = false;
   std::string TestoEsito;

@@ -3,6 +3,7 @@
 #include "archive/ruota.h"
 #include "methods/scansione.h"
 #include "platform/failure.h"
+#include "program/rapporti.h"
 #include "statistics/giudizio_statistica.h"
 
 namespace vaticlo {
@@ -20,12 +21,11 @@ clsStatistica::clsStatistica(Programma& programma, PannelloCorsa& frm)
   g_.ContaNonGiocabili = 0;
   g_.ContaVincenti = 0;
   g_.ContaInGioco = 0;
-  g_.RapportiIncompleti.clear();
+  g_.RapportiInteri = true;
 }
 
 void clsStatistica::rilascia() {
-  for (auto* rapporto : {&stat_, &prevGioco_, &vincite_})
-    if (!rapporto->concludi()) g_.RapportiIncompleti.push_back(rapporto->nome());
+  for (auto* rapporto : {&stat_, &prevGioco_, &vincite_}) concludi(*rapporto, programma_);
 }
 
 void clsStatistica::Inizia(std::int16_t inizio, std::int16_t fine) {

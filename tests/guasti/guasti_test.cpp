@@ -73,6 +73,20 @@ class ProgrammaVero {
     ::waitpid(figlio, &esito, 0);
     return WIFEXITED(esito) ? WEXITSTATUS(esito) : -WTERMSIG(esito);
   }
+  /// The exit status under faults, which the library knows by their names.
+  [[nodiscard]] int conGuasti(const std::string& guasti, const Parole& parole,
+                              const std::string& sistema = "") const {
+    return fine(avvia(parole, {"LD_PRELOAD=" VATICLO_GUASTI, "no_proxy=*", "GUASTI=" + guasti,
+                               "GUASTI_CARTELLA=" + p.radice.string(), "GUASTI_SISTEMA=" + sistema,
+                               "GUASTI_TRACCIA=" + (fuori.radice / "traccia").string()}));
+  }
+  /// The names of the last run's calls.
+  [[nodiscard]] Parole chiamate() const {
+    Parole nomi;
+    std::istringstream traccia(fuori.contenuto("traccia"));
+    for (std::string nome; traccia >> nome;) nomi.push_back(nome);
+    return nomi;
+  }
 };
 
 TEST(DueProgrammi, ThatStoreAtTheSameTimeLoseAndMixNothing) {
@@ -103,6 +117,26 @@ TEST(DueProgrammi, ThatStoreAtTheSameTimeLoseAndMixNothing) {
   EXPECT_THAT(quante, ElementsAre(Pair(10, kVolte), Pair(11, kVolte)));
 }
 
+TEST(Rapporti, ADiskThatDoesNotTakeOneWholeIsNotToldAsASuccess) {
+  const ProgrammaVero v;
+  archivioDi(300, "251 Ba 12").scrivi(v.p);
+  scriviMetodoProva(v.p, "Metodo 1",
+                    {{.estrazione = 250, .ruote = {1}, .colpi = 2, .ambate = {12}},
+                     {.estrazione = 299, .ruote = {1}, .colpi = 9, .ambate = {12}}});
+  for (const auto& [parole, rapporti] :
+       {std::pair{Parole{"verifica", "250"}, 1},
+        {Parole{"statistica", "250", "299"}, 4}}) {  // three, and one that is emptied first
+    SCOPED_TRACE(parole[0]);
+    ASSERT_EQ(v.conGuasti("0:", parole), 0);
+    const auto chiamate = v.chiamate();
+    std::map<std::string, int> nonFatti;
+    for (std::size_t n = 0; n < chiamate.size(); ++n)
+      if (chiamate[n] == "write" || chiamate[n] == "close")
+        nonFatti[chiamate[n]] += v.conGuasti(std::to_string(n + 1) + ":" + std::to_string(EIO), parole) == 1;
+    EXPECT_THAT(nonFatti, ElementsAre(Pair("close", rapporti), Pair("write", rapporti)));
+  }
+}
+
 class Guasti : public testing::TestWithParam<Caso>, public ProgrammaVero {
  protected:
   Guasti() {
@@ -126,9 +160,7 @@ class Guasti : public testing::TestWithParam<Caso>, public ProgrammaVero {
     auto parole = GetParam().parole;
     std::ranges::replace(parole, "FILE", (fuori.radice / "estrazioni.txt").string());
     std::ranges::replace(parole, "INDIRIZZO", server.indirizzo("/archivio"));
-    return fine(avvia(parole, {"LD_PRELOAD=" VATICLO_GUASTI, "no_proxy=*", "GUASTI=" + guasti,
-                               "GUASTI_CARTELLA=" + p.radice.string(), "GUASTI_SISTEMA=" + GetParam().sistema,
-                               "GUASTI_TRACCIA=" + (fuori.radice / "traccia").string()}));
+    return conGuasti(guasti, parole, GetParam().sistema);
   }
 
   [[nodiscard]] Stato stato() const {
@@ -203,9 +235,7 @@ TEST_P(Guasti, LeaveEveryFileAsBeforeOrAsAfterAndNoSuccessToldThatIsNone) {
   ASSERT_EQ(esegui("0:"), 0);
   dopo = stato();
   ASSERT_FALSE(dopo == prima);
-  std::vector<std::string> chiamate;
-  std::istringstream traccia(fuori.contenuto("traccia"));
-  for (std::string nome; traccia >> nome;) chiamate.push_back(nome);
+  const auto chiamate = this->chiamate();
   ASSERT_GE(chiamate.size(), 4U);
 
   prova("0:c", "the end");

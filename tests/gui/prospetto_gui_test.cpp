@@ -86,6 +86,19 @@ class ProspettoGuiTest : public QObject {
     QCOMPARE(QString::fromStdString(v.frm->aperte), QString("tre uno "));
   }
 
+  void aTableOfOtherColumnsHasKeysAndEntriesOfItsOwn() {
+    Prova v;
+    v.frm->tavola.mostra(
+        {{{"Ruota"}, {"Colpi", Colonna::Tipo::Numero}}, {{std::string("Ba"), 2}, {std::string("To"), 1}}});
+    QStringList voci;
+    for (const auto* azione : v.vista->findChildren<QAction*>())
+      if (azione->shortcut().toString().startsWith("Ctrl+") && azione->shortcut() != QKeySequence::Copy)
+        voci << azione->text();
+    QCOMPARE(voci, QStringList({"Ruota", "Colpi"}));
+    QTest::keyClick(v.vista, Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(v.colonna(0), QStringList({"To", "Ba"}));
+  }
+
   void theMethodsAreWorkedOnByKeys() {
     PrincipaleProva v;
     archivioDi(110).scrivi(v.p);

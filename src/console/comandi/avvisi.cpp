@@ -15,10 +15,7 @@ void avvisaDeiMetodi(const Programma& programma, const std::optional<std::string
 }
 
 Esito esitoDeiRapporti(const Programma& programma) {
-  const auto& incompleti = programma.globals.RapportiIncompleti;
-  for (const auto& nome : incompleti)
-    std::cerr << "Il rapporto " << nome << " non è intero: il disco non ha accettato tutte le sue righe.\n";
-  return incompleti.empty() ? kFatto : kErrore;
+  return programma.globals.RapportiInteri ? kFatto : kErrore;
 }
 
 }  // namespace vaticlo

@@ -12,7 +12,7 @@ namespace vaticlo {
 /// among all, each one whose failure the run swallows.
 void avvisaDeiMetodi(const Programma& programma, const std::optional<std::string>& metodo);
 
-/// The outcome of a run: kErrore, and their names on standard error, when the disk did not take its reports.
+/// The outcome of a run: kErrore when the disk did not take its reports whole.
 [[nodiscard]] Esito esitoDeiRapporti(const Programma& programma);
 
 }  // namespace vaticlo
