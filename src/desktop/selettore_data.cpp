@@ -11,8 +11,6 @@ namespace vaticlo {
 
 namespace {
 
-const QString kFormato = QStringLiteral("dd/MM/yyyy");
-
 QDate giornoQt(const Data& data) { return {anno(data), mese(data), giorno(data)}; }
 
 Data daGiornoQt(const QDate& giorno) {
@@ -21,7 +19,7 @@ Data daGiornoQt(const QDate& giorno) {
 }
 
 QString scritta(const SelettoreData& modello) {
-  return modello.Value() ? giornoQt(*modello.Value()).toString(kFormato) : QString();
+  return modello.Value() ? giornoQt(*modello.Value()).toString(QStringLiteral("dd/MM/yyyy")) : QString();
 }
 
 }  // namespace
