@@ -1,6 +1,6 @@
 # vaticlo_folder(NAME LINKS ... [SOURCES ...]): the library of one folder of src/, made of its *.cpp (main.cpp left out)
-# unless SOURCES names them, and reached as "NAME/file.h" by those alone that link it. Each folder gets an include root of its own that holds nothing but a link to it, so an #include against the
-# arrows of the design does not build.
+# unless SOURCES names them, and reached as "NAME/file.h" by those alone that link it. Each folder gets an include root of
+# its own that holds nothing but a link to it, so an #include against the arrows of the design does not build.
 function(vaticlo_folder name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   if(NOT ARG_SOURCES)
