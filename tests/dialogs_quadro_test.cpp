@@ -112,6 +112,12 @@ TEST_F(Quadro, WhatHasChangedMeanwhileIsShownAndNotTouched) {
   EXPECT_THAT(p.servizi.detti(), ElementsAre(HasSubstr("\"A\" è cambiato")));
   EXPECT_EQ(colonna(frm.previsioni, 1), "90|102|");
   EXPECT_FALSE(frm.btnTogli.Enabled() || frm.btnAnnulla.Enabled());
+  frm.previsioni.scegli({0});
+  frm.btnDuplica_Click();
+  scriviMetodoProva(p, "A", {ambata(90)});
+  frm.btnAnnulla_Click();
+  EXPECT_THAT(p.servizi.detti().back(), HasSubstr("non si può più annullare"));
+  EXPECT_FALSE(frm.btnAnnulla.Enabled()) << "steps before it must not wait for it";
   std::filesystem::remove(p.radice / "Metodi/A.dat");
   frm.Form_Activate();
   EXPECT_EQ(colonna(frm.metodi, 0), "Dieci|Vuoto|");
@@ -122,14 +128,23 @@ TEST_F(Quadro, WhatHasChangedMeanwhileIsShownAndNotTouched) {
 }
 
 TEST_F(Quadro, AFailureOfTheDiskIsToldAndTheWindowLivesOn) {
+  const auto accanto = p.radice / "Metodi/.A.dat.nuovo";  // what is written goes there first
+  const auto nonSiScrive = [&](Pulsante& pulsante) {
+    std::filesystem::create_directories(accanto / "x");
+    pulsante.Click();
+    std::filesystem::remove_all(accanto);
+    EXPECT_THAT(p.servizi.detti().back(), HasSubstr("Non è stato possibile"));
+  };
   frm.previsioni.scegli({0});
-  std::filesystem::remove_all(p.radice / "Metodi/Vuoto.dat");
-  std::filesystem::create_directory(p.radice / "Metodi/Vuoto.dat");
-  p.servizi.digitato = "Vuoto";
-  frm.btnCopia_Click();
-  EXPECT_EQ(p.servizi.messaggi.size(), 1U);
+  nonSiScrive(frm.btnDuplica);
   EXPECT_THAT(p.servizi.fatti, IsEmpty());
   EXPECT_EQ(previsioni("A"), 3);
+  EXPECT_FALSE(frm.btnAnnulla.Enabled());
+  frm.btnDuplica_Click();
+  nonSiScrive(frm.btnAnnulla);
+  EXPECT_EQ(previsioni("A"), 4);
+  frm.btnAnnulla_Click();
+  EXPECT_EQ(previsioni("A"), 3) << "the step was kept";
   EXPECT_FALSE(frm.btnAnnulla.Enabled());
 }
 

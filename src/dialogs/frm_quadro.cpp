@@ -364,9 +364,14 @@ void frmQuadro::racconta(const std::string& fatto) {
 
 void frmQuadro::btnAnnulla_Click() {
   if (fatti_.empty()) return;
-  const auto ultimo = std::move(fatti_.back());
-  fatti_.pop_back();
-  const bool fatto = prova([&] { return PrevisioniMetodo(programma_).annulla(ultimo.passo); });
+  const auto ultimo = fatti_.back();
+  const bool fatto = prova([&] {
+    const bool annullato = PrevisioniMetodo(programma_).annulla(ultimo.passo);
+    // One that is refused goes as well, or it would bar the way to those before it. After a failure it can be
+    // tried again.
+    fatti_.pop_back();
+    return annullato;
+  });
   racconta(fatto ? "Annullata la modifica: " + ultimo.testo : "");
 }
 
