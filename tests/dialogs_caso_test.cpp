@@ -130,12 +130,21 @@ TEST(RitardiEFrequenze, FollowEveryChoice) {
   frm.estrazioni.txtestr[0].Change();
   EXPECT_EQ(barre().front(), "6-7");
   EXPECT_EQ(frm.estrazioni.lblDate.Caption(), "da 1 a 9");
+  frm.cmbRuota.scegli(1);
+  frm.optSorte_Click(Sorte::Numeri);
+  frm.optMisura_Click(MisuraRitardi::Massimo);
+  EXPECT_EQ(frm.grafico.disegno().titolo, "Gli ambi con il ritardo massimo più lungo su Bari");
+  frm.optSorte_Click(Sorte::Ambi);
   frm.estrazioni.txtestr[0].Text("1");
   frm.cmbRuota.scegli(7);
   EXPECT_EQ(frm.lblFrase.Caption(), "Nessuna estrazione su Roma in questo intervallo.");
   EXPECT_TRUE(barre().empty());
   frm.cmbRuota.scegli(11);
   EXPECT_THAT(frm.lblFrase.Caption(), StartsWith("4 estrazioni su tutte le ruote: ogni ambo"));
+  EXPECT_EQ(barre().size(), 90U);
+  frm.estrazioni.txtestr[0].Text("30");
+  frm.archivioNuovo();
+  EXPECT_TRUE(barre().empty() && frm.righe.tabella().righe.empty() && frm.lblFrase.Caption().empty());
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "dialogs/frm_ritardi.h"
 
+#include <utility>
+
 #include "archive/ruota.h"
 
 namespace vaticlo {
@@ -44,7 +46,12 @@ void frmRitardi::Form_Load() {
 
 void frmRitardi::archivioNuovo() {
   estrazioni.segui(ApriArchivio(programma_.cartella));
+  mostrati_.reset();
   calcola();
+  if (mostrati_) return;
+  righe.mostra({});
+  lblFrase.Caption("");
+  grafico.mostra({});
 }
 
 void frmRitardi::optSorte_Click(Sorte sorte) {
@@ -63,16 +70,19 @@ void frmRitardi::optMisura_Click(MisuraRitardi misura) {
 void frmRitardi::calcola() {
   const auto intervallo = estrazioni.intervallo();
   if (!intervallo) return;  // a number is being typed, and what is shown stays
-  ritardi_ = ritardiDi(ApriArchivio(programma_.cartella), cmbRuota.ItemDataScelta(), sorte_, *intervallo);
-  const auto& caso = caso_.emplace(ritardi_, sorte_);
+  auto ritardi = ritardiDi(ApriArchivio(programma_.cartella), cmbRuota.ItemDataScelta(), sorte_, *intervallo);
+  CasoDeiRitardi caso(ritardi, sorte_);
   righe.Titolo("Ritardi e frequenze " + dove());
-  righe.mostra(ritardi_.ruote.empty() ? Tabella() : tabellaColCaso(ritardi_, sorte_, caso));
-  lblFrase.Caption(fraseDei(ritardi_, sorte_, caso, dove()));
+  righe.mostra(ritardi.ruote.empty() ? Tabella() : tabellaColCaso(ritardi, sorte_, caso));
+  lblFrase.Caption(fraseDei(ritardi, sorte_, caso, dove()));
+  mostrati_ = {sorte_, dove(), std::move(ritardi), std::move(caso)};
   disegna();
 }
 
 void frmRitardi::disegna() {
-  if (caso_) grafico.mostra(disegnoDei(ritardi_, sorte_, *caso_, misura_, dove()));
+  if (!mostrati_) return;
+  const auto& ora = *mostrati_;
+  grafico.mostra(disegnoDei(ora.ritardi, ora.sorte, ora.caso, misura_, ora.dove));
 }
 
 std::string frmRitardi::dove() const {

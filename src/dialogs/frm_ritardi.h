@@ -47,11 +47,18 @@ class frmRitardi : public Finestra {
   void disegna();
   [[nodiscard]] std::string dove() const;
 
+  /// What is shown: the choices may be others already, while there is no range.
+  struct Mostrati {
+    Sorte sorte;
+    std::string dove;
+    Ritardi ritardi;
+    CasoDeiRitardi caso;
+  };
+
   Programma& programma_;
   Sorte sorte_ = Sorte::Numeri;
   MisuraRitardi misura_ = MisuraRitardi::Ritardo;
-  Ritardi ritardi_;
-  std::optional<CasoDeiRitardi> caso_;  // of them; none before there was a range
+  std::optional<Mostrati> mostrati_;
 };
 
 }  // namespace vaticlo
