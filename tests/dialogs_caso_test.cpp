@@ -120,6 +120,7 @@ TEST(RitardiEFrequenze, FollowEveryChoice) {
   frm.optMisura_Click(MisuraRitardi::Frequenza);
   EXPECT_EQ(prima(), "6 0");
   EXPECT_EQ(barre().front(), "6");
+  EXPECT_EQ(frm.grafico.disegno().titolo, "I numeri più frequenti su Bari");
   frm.optSorte_Click(Sorte::Ambi);
   EXPECT_EQ(frm.righe.tabella().righe.size(), 4005U);
   EXPECT_EQ(barre().front(), "1-2");

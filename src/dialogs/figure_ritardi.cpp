@@ -36,16 +36,16 @@ int valore(const RigaRitardi& riga, MisuraRitardi misura) {
 }
 
 std::string titolo(Sorte sorte, MisuraRitardi misura) {
-  const std::string chi = sorte == Sorte::Ambi ? "ambi" : "numeri";
+  const std::string chi = sorte == Sorte::Ambi ? "Gli ambi" : "I numeri";
   switch (misura) {
     case MisuraRitardi::Massimo:
-      return "Gli " + chi + " con il ritardo massimo più lungo";
+      return chi + " con il ritardo massimo più lungo";
     case MisuraRitardi::Frequenza:
-      return "Gli " + chi + " più frequenti";
+      return chi + " più frequenti";
     case MisuraRitardi::Ritardo:
       break;
   }
-  return "Gli " + chi + " che mancano da più estrazioni";
+  return chi + " che mancano da più estrazioni";
 }
 
 }  // namespace
