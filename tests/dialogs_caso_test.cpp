@@ -39,6 +39,8 @@ TEST_F(Caso, ASeedGivesTheSameRunsAndTheSentenceSaysWhatTheyMean) {
   EXPECT_EQ(esito(), prima);
 
   EXPECT_THAT(frm.grafico.disegno().posti, ElementsAre(0, 1));
+  EXPECT_THAT(frm.grafico.disegno().letture,
+              ElementsAre(StartsWith("0 vincenti: "), StartsWith("1 vincente: ")));
   frm.optFigura_Click(FiguraCaso::Colpi);
   EXPECT_EQ(frm.grafico.disegno().serie.at(0).valori, (std::vector<double>{1, 0}));
   EXPECT_NEAR(frm.grafico.disegno().serie.at(1).valori.at(0), 1.0 / 18, 1e-9);
@@ -123,7 +125,7 @@ TEST(RitardiEFrequenze, FollowEveryChoice) {
   EXPECT_EQ(frm.grafico.disegno().titolo, "I numeri più frequenti su Bari");
   frm.optSorte_Click(Sorte::Ambi);
   EXPECT_EQ(frm.righe.tabella().righe.size(), 4005U);
-  EXPECT_EQ(barre().front(), "1-2");
+  EXPECT_EQ(frm.grafico.disegno().descrizione, "In testa 1-2 con 1 uscita.");
   frm.estrazioni.txtestr[0].Text("3");
   frm.estrazioni.txtestr[0].Change();
   EXPECT_EQ(barre().front(), "6-7");

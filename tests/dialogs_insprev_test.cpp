@@ -146,6 +146,10 @@ TEST_F(InsPrev, TheFieldBesideTheBarGoesToANumberOrADate) {
     EXPECT_EQ(frm->estrazione.lblnestr.Caption(), "77") << scritto;
   }
   EXPECT_EQ(p.servizi.messaggi.size(), 5U);
+  archivioDi(0).scrivi(p);
+  apri(false).txtVai.Text("1");
+  frm->txtVai_Invio();
+  detto("[Attenzione] L'archivio non contiene ancora estrazioni!");
 }
 
 TEST_F(InsPrev, AWheelButtonPutsItsWheelInAndTakesItAway) {

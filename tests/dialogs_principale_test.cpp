@@ -6,6 +6,7 @@
 #include "dialogs/frm_principale.h"
 #include "dialogs/frm_somdif.h"
 #include "dialogs/frm_statistica.h"
+#include "dialogs/pagina_iniziale.h"
 #include "platform/blocco.h"
 #include "platform/presenza.h"
 #include "sostegno/logica.h"
@@ -151,6 +152,16 @@ TEST_F(Principale, AnUpdateLeavesTheOpenWindowWithWhatItShows) {
   principale.comando("mnu1Aggiorna");
   EXPECT_EQ(aperte(), "Modifica Estrazione|");
   EXPECT_EQ(principale.aperta<frmModifica>()->estrazione.lblnestr.Caption(), "2");
+}
+
+TEST(PaginaIniziale, SaysHowManyItLeavesOut) {
+  Situazione situazione;
+  situazione.inGioco.resize(7);
+  situazione.vinteAllUltima.resize(8);
+  situazione.daGuardare.resize(7);
+  std::string ultime;
+  for (const auto& sezione : paginaIniziale(situazione, {}).sezioni) ultime += sezione.righe.back() + "|";
+  EXPECT_EQ(ultime, "e altre 2|e un'altra|e un altro|");
 }
 
 TEST_F(Principale, TheTwoPagesOfTheGameAreTheOnesNamed) {

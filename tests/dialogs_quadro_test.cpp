@@ -79,6 +79,14 @@ TEST_F(Quadro, ItsRangeIsTwoNumbersOrTwoDates) {
   EXPECT_EQ(frm.txtDal.Text() + "-" + frm.txtAl.Text() + frm.lblDal.Caption(), "1-110del 7/1/1939");
 }
 
+TEST_F(Quadro, AnArchiveWithoutDrawsHasNoRange) {
+  archivioDi(0).scrivi(p);
+  frm.archivioNuovo();
+  frm.txtAl.Text("1");
+  EXPECT_TRUE(frm.txtAl_Validate());
+  EXPECT_THAT(p.servizi.detti(), ElementsAre("[Attenzione] L'archivio non contiene ancora estrazioni!"));
+}
+
 TEST_F(Quadro, AMethodWithTenIsRepairedByMovingOneAndEachStepIsTakenBack) {
   scegli("Dieci");
   frm.previsioni.scegli({9, 3});

@@ -1,5 +1,6 @@
 #include "dialogs/campi_intervallo.h"
 
+#include "dialogs/estremo_digitato.h"
 #include "platform/conversione.h"
 
 namespace vaticlo {
@@ -35,7 +36,7 @@ std::optional<IntervalloEstrazioni> CampiIntervallo::intervallo() const {
 std::optional<IntervalloEstrazioni> CampiIntervallo::leggi() {
   if (const auto letto = intervallo()) return letto;
   const auto dal = numero(0), al = numero(1);
-  const std::string testo = ultima_ < 1   ? "L'archivio non contiene ancora estrazioni!"
+  const std::string testo = ultima_ < 1   ? kSenzaEstrazioni
                             : !dal || !al ? "Il numero di un'estrazione dev'essere compreso tra 1 e " +
                                                 std::to_string(ultima_) + "!"
                                           : "La prima estrazione non può venire dopo l'ultima!";

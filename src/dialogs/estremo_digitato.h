@@ -7,6 +7,9 @@
 
 namespace vaticlo {
 
+/// What is said of a draw that is typed while there is none.
+inline constexpr const char* kSenzaEstrazioni = "L'archivio non contiene ancora estrazioni!";
+
 /// Which end of a range of draws is typed.
 enum class Estremo { Primo, Ultimo };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "dialogs/quanti.h"
 #include "platform/conversione.h"
 
 namespace vaticlo {
@@ -12,6 +13,8 @@ namespace {
 constexpr auto kNumero = Colonna::Tipo::Numero;
 
 std::string decimali(double valore, int quanti = 1) { return testoDiNumero(arrotonda(valore, quanti)); }
+
+std::string vincentiInParole(int vincenti) { return quanti(vincenti, "vincente", "vincenti"); }
 
 double percento(double parte, int intero) { return intero == 0 ? 0 : 100.0 * parte / intero; }
 
@@ -43,8 +46,8 @@ Disegno vincenti(const Confronto& confronto) {
   for (int v = meno; v <= piu; ++v) {
     disegno.posti.push_back(v);
     prove.valori.push_back(proveCon(confronto, v));
-    disegno.letture.push_back(std::to_string(v) + " vincenti: " + std::to_string(proveCon(confronto, v)) +
-                              " prove su " + std::to_string(confronto.prove));
+    disegno.letture.push_back(vincentiInParole(v) + ": " + quanti(proveCon(confronto, v), "prova", "prove") +
+                              " su " + std::to_string(confronto.prove));
   }
   disegno.serie.push_back(std::move(prove));
   disegno.segni = {{.dove = static_cast<double>(confronto.vincenti),
@@ -67,8 +70,8 @@ Disegno colpi(const Confronto& confronto) {
     vinte.valori.push_back(confronto.vincentiPerColpo[c]);
     attese.valori.push_back(confronto.attesePerColpo[c]);
     disegno.letture.push_back(std::to_string(c + 1) +
-                              "° colpo: " + std::to_string(confronto.vincentiPerColpo[c]) +
-                              " vincenti, attese " + decimali(confronto.attesePerColpo[c]));
+                              "° colpo: " + vincentiInParole(confronto.vincentiPerColpo[c]) + ", attese " +
+                              decimali(confronto.attesePerColpo[c]));
   }
   disegno.serie = {std::move(vinte), std::move(attese)};
   return disegno;
@@ -94,8 +97,7 @@ Disegno tempo(const Confronto& confronto, const ArchivioEstrazioni& archivio) {
     banda.valori.push_back(punto.basso);
     banda.fino.push_back(punto.alto);
     disegno.letture.push_back("Fino all'estrazione " + std::to_string(punto.estrazione) + " del " + data +
-                              ": " + std::to_string(punto.vincenti) + " vincenti, attese " +
-                              decimali(punto.attese));
+                              ": " + vincentiInParole(punto.vincenti) + ", attese " + decimali(punto.attese));
     if (confronto.prove > 0)
       disegno.letture.back() +=
           "\nNove prove su dieci: da " + std::to_string(punto.basso) + " a " + std::to_string(punto.alto);

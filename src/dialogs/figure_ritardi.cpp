@@ -7,6 +7,7 @@
 
 #include "analysis/tabelle.h"
 #include "archive/ruota.h"
+#include "dialogs/quanti.h"
 #include "platform/conversione.h"
 
 namespace vaticlo {
@@ -94,8 +95,9 @@ Disegno disegnoDei(const Ritardi& ritardi, Sorte sorte, const CasoDeiRitardi& ca
 
   disegno.titolo = titolo(sorte, misura) + " " + dove;
   disegno.descrizione = "In testa " + nome(righe.front()) + " con " +
-                        std::to_string(valore(righe.front(), misura)) +
-                        (misura == MisuraRitardi::Frequenza ? " uscite." : " estrazioni.");
+                        (misura == MisuraRitardi::Frequenza
+                             ? quanti(righe.front().frequenza, "uscita.", "uscite.")
+                             : quanti(valore(righe.front(), misura), "estrazione.", "estrazioni."));
   disegno.asseX = sorte == Sorte::Ambi ? "Ambo" : "Numero";
   disegno.asseY = misura == MisuraRitardi::Frequenza ? "Uscite" : "Estrazioni";
   Serie barre{.nome = disegno.asseY, .ruolo = Serie::Ruolo::Proprio};
@@ -105,7 +107,7 @@ Disegno disegnoDei(const Ritardi& ritardi, Sorte sorte, const CasoDeiRitardi& ca
     barre.valori.push_back(valore(riga, misura));
     disegno.letture.push_back(nome(riga) + ": ritardo " + std::to_string(riga.ritardo) + ", massimo " +
                               std::to_string(riga.ritardoMassimo) + ", uscito " +
-                              std::to_string(riga.frequenza) + (riga.frequenza == 1 ? " volta" : " volte"));
+                              quanti(riga.frequenza, "volta", "volte"));
   }
   disegno.serie.push_back(std::move(barre));
   if (misura == MisuraRitardi::Frequenza)
@@ -132,9 +134,10 @@ std::string fraseDei(const Ritardi& ritardi, Sorte sorte, const CasoDeiRitardi& 
                         [](const auto& a, const auto& b) { return a.ritardoMassimo < b.ritardoMassimo; });
   const auto estrazioni = static_cast<int>(ritardi.ruote.size());
   const std::string chi = ambi ? "ambo" : "numero";
-  return std::to_string(estrazioni) + (estrazioni == 1 ? " estrazione " : " estrazioni ") + dove + ": ogni " +
-         chi + " vi è atteso per caso " + decimali(caso.frequenzaAttesa()) + " volte. Il più in ritardo è " +
-         nome(oggi) + ", da " + std::to_string(oggi.ritardo) + ": a un " + chi +
+  const auto attese = decimali(caso.frequenzaAttesa());
+  return quanti(estrazioni, "estrazione ", "estrazioni ") + dove + ": ogni " + chi +
+         " vi è atteso per caso " + attese + (attese == "1" ? " volta" : " volte") +
+         ". Il più in ritardo è " + nome(oggi) + ", da " + std::to_string(oggi.ritardo) + ": a un " + chi +
          " qualsiasi capita per caso nel " + percento(caso.probabilitaRitardo(oggi.ritardo)) +
          " dei casi. Il ritardo più lungo di tutti è stato " + std::to_string(sempre.ritardoMassimo) + " (" +
          nome(sempre) + "); in un archivio su due il caso arriva almeno a " +

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "dialogs/quanti.h"
 #include "operations/importa_estrazioni.h"
 
 namespace vaticlo {
@@ -12,7 +13,7 @@ namespace {
 std::string inArchivio(const ArchivioEstrazioni& archivio) {
   const int ultima = archivio.PrimoIndiceLibero() - 1;
   if (ultima == 0) return "L'archivio è vuoto.";
-  return "L'archivio contiene " + std::to_string(ultima) + " estrazioni, l'ultima del " +
+  return "L'archivio contiene " + quanti(ultima, "estrazione", "estrazioni") + ", l'ultima del " +
          archivio.DataEstrazione(ultima) + ".";
 }
 

@@ -6,6 +6,7 @@
 
 #include "analysis/parole_confronto.h"
 #include "analysis/tabelle.h"
+#include "dialogs/quanti.h"
 #include "methods/cartella_metodi.h"
 #include "methods/catalogo.h"
 #include "platform/conversione.h"
@@ -31,17 +32,13 @@ class Fermata {
   std::stop_source& fonte_;
 };
 
-std::string numero(int quanti, const char* uno, const char* piu) {
-  return std::to_string(quanti) + (quanti == 1 ? uno : piu);
-}
-
 }  // namespace
 
 std::string testoRimasto(int fatte, int prove, std::chrono::milliseconds trascorso) {
   if (fatte == 0) return "";
   const double secondi = static_cast<double>(trascorso.count()) / 1000 * (prove - fatte) / fatte;
-  if (secondi < 60) return "ancora " + numero(static_cast<int>(std::ceil(secondi)), " secondo", " secondi");
-  return "ancora " + numero(static_cast<int>(std::lround(secondi / 60)), " minuto", " minuti");
+  if (secondi < 60) return "ancora " + quanti(static_cast<int>(std::ceil(secondi)), "secondo", "secondi");
+  return "ancora " + quanti(static_cast<int>(std::lround(secondi / 60)), "minuto", "minuti");
 }
 
 frmCaso::frmCaso(Programma& programma, Cornice& cornice)
@@ -112,9 +109,9 @@ void frmCaso::btnElabora_Click() {
   const int fatte = risultati_.empty() ? 0 : risultati_.front().prove;
   lblRimasto.Caption(risultati_.empty() ? ""
                      : fatte < richiesta->opzioni.prove
-                         ? "Fermato dopo " + numero(fatte, " prova", " prove") + " su " +
+                         ? "Fermato dopo " + quanti(fatte, "prova", "prove") + " su " +
                                std::to_string(richiesta->opzioni.prove)
-                         : numero(fatte, " prova", " prove") + " col seme " +
+                         : quanti(fatte, "prova", "prove") + " col seme " +
                                std::to_string(richiesta->opzioni.seme));
   const auto metodi = risultati_.size() > 1 ? risultati_.size() - 1 : risultati_.size();
   lblAvvertenza.Caption(avvertenzaPer(metodi));

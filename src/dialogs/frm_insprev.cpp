@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "dialogs/estremo_digitato.h"
 #include "forms/controlli_metodo.h"
 #include "methods/cartella_metodi.h"
 #include "methods/giocata_in_parole.h"
@@ -158,8 +159,9 @@ void frmInsPrev::txtVai_Invio() {
     n = cercaData(ApriArchivio(programma_.cartella),
                   {giorno(*data), mese(*data), annoDueCifre(*data), anno(*data) / 100}, ultima);
   if (n < 1 || n > ultima) {
-    rifiuta("Scrivete il numero di un'estrazione, da 1 a " + std::to_string(ultima) +
-            ", o la data di una che c'è.");
+    rifiuta(ultima < 1 ? kSenzaEstrazioni
+                       : "Scrivete il numero di un'estrazione, da 1 a " + std::to_string(ultima) +
+                             ", o la data di una che c'è.");
     return;
   }
   if (estrazione.VScroll1.Value() == n + 1)

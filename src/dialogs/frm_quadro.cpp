@@ -5,6 +5,7 @@
 
 #include "analysis/elenco_previsioni.h"
 #include "analysis/tabelle.h"
+#include "dialogs/quanti.h"
 #include "methods/cartella_metodi.h"
 #include "methods/catalogo.h"
 #include "platform/failure.h"
@@ -21,10 +22,6 @@ std::vector<std::string> nomiDei(const CartellaProgramma& cartella) {
   auto nomi = CaricaElencoMetodi(cartella, {}, NomeSenzaDat::VoceVuota);
   std::erase(nomi, "");  // a file without ".dat" is no method
   return nomi;
-}
-
-std::string quante(int numero, const char* una, const char* diverse) {
-  return std::to_string(numero) + " " + (numero == 1 ? una : diverse);
 }
 
 std::string tra(const std::string& nome) { return "\"" + nome + "\""; }
@@ -142,9 +139,9 @@ void frmQuadro::mostraMetodi() {
 
 std::string frmQuadro::riassunto() const {
   const auto mostrate = metodi.mostrate().size();
-  auto testo = mostrate == righe_.size() ? quante(static_cast<int>(mostrate), "metodo", "metodi")
+  auto testo = mostrate == righe_.size() ? quanti(static_cast<int>(mostrate), "metodo", "metodi")
                                          : std::to_string(mostrate) + " di " +
-                                               quante(static_cast<int>(righe_.size()), "metodo", "metodi");
+                                               quanti(static_cast<int>(righe_.size()), "metodo", "metodi");
   RigaQuadro somma;
   for (const auto riga : metodi.mostrate()) {
     somma.giocate += righe_[riga].giocate;
@@ -152,9 +149,9 @@ std::string frmQuadro::riassunto() const {
     somma.negative += righe_[riga].negative;
     somma.inGioco += righe_[riga].inGioco;
   }
-  return testo + ". " + quante(somma.giocate, "previsione giocata: ", "previsioni giocate: ") +
-         quante(somma.vincenti, "vincente, ", "vincenti, ") +
-         quante(somma.negative, "negativa, ", "negative, ") + std::to_string(somma.inGioco) + " in gioco.";
+  return testo + ". " + quanti(somma.giocate, "previsione giocata: ", "previsioni giocate: ") +
+         quanti(somma.vincenti, "vincente, ", "vincenti, ") +
+         quanti(somma.negative, "negativa, ", "negative, ") + std::to_string(somma.inGioco) + " in gioco.";
 }
 
 std::string frmQuadro::nota(const RigaQuadro& riga) const {
@@ -238,8 +235,10 @@ bool frmQuadro::leggiEstremo(CampoTesto& campo, int& estremo, Estremo quale) {
     estremo = *letto;
     return true;
   }
-  rifiuta("\"" + citazione(campo.Text()) + "\" non è un'estrazione: scrivete un numero da 1 a " +
-          std::to_string(ultima_) + ", oppure una data, per esempio 28/02/2026.");
+  rifiuta(ultima_ < 1
+              ? kSenzaEstrazioni
+              : "\"" + citazione(campo.Text()) + "\" non è un'estrazione: scrivete un numero da 1 a " +
+                    std::to_string(ultima_) + ", oppure una data, per esempio 28/02/2026.");
   campo.Text(std::to_string(estremo));
   return false;
 }

@@ -46,13 +46,20 @@ std::string rigaArchivio(const Situazione& situazione, const Data& oggi) {
   return testo;
 }
 
+/// How a section says what it leaves out.
+struct Altri {
+  const char *uno, *diversi;
+};
+constexpr Altri kAltrePrevisioni{"e un'altra", "e altre "}, kAltriMetodi{"e un altro", "e altri "};
+
 template <class Voci, class Riga>
-void aggiungi(PaginaIniziale& pagina, const std::string& titolo, const Voci& voci, Riga riga) {
+void aggiungi(PaginaIniziale& pagina, const std::string& titolo, const Voci& voci, Altri altri, Riga riga) {
   if (voci.empty()) return;
   PaginaIniziale::Sezione sezione{titolo + " (" + std::to_string(voci.size()) + ")", {}};
   for (const auto& voce : voci) {
     if (sezione.righe.size() == kRigheAlMassimo) {
-      sezione.righe.push_back("e altre " + std::to_string(voci.size() - kRigheAlMassimo));
+      const auto restano = voci.size() - kRigheAlMassimo;
+      sezione.righe.push_back(restano == 1 ? altri.uno : altri.diversi + std::to_string(restano));
       break;
     }
     sezione.righe.push_back(riga(voce));
@@ -86,12 +93,12 @@ PaginaIniziale paginaIniziale(const Situazione& situazione, const Data& oggi) {
   pagina.inBreve = quante(situazione.estrazioni);
   if (situazione.ultima) pagina.inBreve += " · ultima " + dataScritta(*situazione.ultima);
   pagina.archivioVuoto = situazione.estrazioni == 0;
-  aggiungi(pagina, "Vinte all'ultima estrazione", situazione.vinteAllUltima,
+  aggiungi(pagina, "Vinte all'ultima estrazione", situazione.vinteAllUltima, kAltrePrevisioni,
            [](const auto& voce) { return voce.metodo + ": " + voce.previsione.esito; });
-  aggiungi(pagina, "In gioco", situazione.inGioco, [](const auto& voce) {
+  aggiungi(pagina, "In gioco", situazione.inGioco, kAltrePrevisioni, [](const auto& voce) {
     return voce.metodo + ": " + puntateInParole(voce.previsione.testi) + " · " + ancora(voce.colpiRimasti);
   });
-  aggiungi(pagina, "Metodi da guardare", situazione.daGuardare,
+  aggiungi(pagina, "Metodi da guardare", situazione.daGuardare, kAltriMetodi,
            [](const auto& voce) { return voce.metodo + ": " + std::string(testoStato(voce.stato)); });
   return pagina;
 }
