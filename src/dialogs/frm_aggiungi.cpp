@@ -78,6 +78,7 @@ void frmAggiungi::confronta(ArchivioEstrazioni testo) {
 
 void frmAggiungi::mostra() {
   const auto& anteprima = aggiunta_->anteprima();
+  lblArchivio.Caption(inArchivio(ApriArchivio(programma_.cartella)));  // it may have changed meanwhile
   lblAnteprima.Caption(anteprimaInParole(anteprima));
   std::string avvertenze;
   for (const auto& frase : anteprima.avvertenze) avvertenze += (avvertenze.empty() ? "" : "\n") + frase;

@@ -34,8 +34,13 @@ class ArchivioGuiTest : public QObject {
     QCOMPARE(v.testo("lblAnteprima"), QString("Da aggiungere: 1 estrazione, del 15/3/2005. Confrontate: 2."));
     QCOMPARE(colonna(v.usa<QAbstractItemView>("differenze"), 2), QStringList({"", "7 0 0 0 0"}));
     QCOMPARE(v.testo("btnAggiungi"), QString("&Aggiungi lo stesso"));
+    archivioDi(1, "1 Ba 7").scrivi(v.p);
     v.clicca("btnAggiungi");
-    QCOMPARE(v.detti(), QStringList("[Aggiungi Estrazioni] Aggiunta 1 estrazione, del 15/3/2005"));
+    QCOMPARE(v.testo("lblArchivio"), QString("L'archivio contiene 1 estrazione, l'ultima del 12/3/2005."));
+    archivioDi(2, "2 Ba 7").scrivi(v.p);
+    v.clicca("btnAggiungi");
+    v.clicca("btnAggiungi");
+    QCOMPARE(v.detti().last(), QString("[Aggiungi Estrazioni] Aggiunta 1 estrazione, del 15/3/2005"));
     QVERIFY(!v.visibile("btnAggiungi").isEnabled());
     v.clicca("btnEsci");
     QCOMPARE(v.testo("lblnestr"), QString("3"));  // of the window that was open meanwhile
