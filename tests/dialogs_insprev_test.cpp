@@ -140,12 +140,12 @@ TEST_F(InsPrev, TheFieldBesideTheBarGoesToANumberOrADate) {
     EXPECT_EQ(frm->estrazione.lblnestr.Caption(), mostrata) << scritto;
   }
   EXPECT_THAT(p.servizi.detti(), IsEmpty());
-  for (const char* scritto : {"0", "151", "1/1/2030", "ieri", ""}) {
+  for (const char* scritto : {"0", "151", "12,7", "1/1/2030", "ieri", ""}) {
     frm->txtVai.Text(scritto);
     frm->txtVai_Invio();
     EXPECT_EQ(frm->estrazione.lblnestr.Caption(), "77") << scritto;
   }
-  EXPECT_EQ(p.servizi.messaggi.size(), 5U);
+  EXPECT_EQ(p.servizi.messaggi.size(), 6U);
   archivioDi(0).scrivi(p);
   apri(false).txtVai.Text("1");
   frm->txtVai_Invio();

@@ -7,12 +7,7 @@ namespace vaticlo {
 std::optional<int> estremoDigitato(const std::string& testo, Estremo estremo,
                                    const ArchivioEstrazioni& archivio, int ultima) {
   const auto data = dataDigitata(testo);
-  if (!data) {
-    const auto numero = numeroDaTesto(testo);
-    const bool estrazione =
-        numero && *numero >= 1 && *numero <= ultima && *numero == static_cast<int>(*numero);
-    return estrazione ? std::optional(static_cast<int>(*numero)) : std::nullopt;
-  }
+  if (!data) return interoTra(testo, 1, ultima);
   const auto sua = [&](int n) { return dataDaTesto(archivio.DataEstrazione(n)); };
   if (estremo == Estremo::Primo) {
     for (int n = 1; n <= ultima; ++n)

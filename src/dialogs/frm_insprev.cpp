@@ -150,12 +150,10 @@ void frmInsPrev::btnRuota_Click(int codice) {
 
 void frmInsPrev::txtVai_Invio() {
   const int ultima = estrazione.VScroll1.Max() - 1;
-  const auto numero = numeroDaTesto(txtVai.Text());
-  const auto data = dataDigitata(txtVai.Text());
   int n = 0;
-  if (numero && *numero >= 1 && *numero <= ultima)
-    n = static_cast<int>(*numero);
-  else if (data)
+  if (const auto numero = interoTra(txtVai.Text(), 1, ultima))
+    n = *numero;
+  else if (const auto data = dataDigitata(txtVai.Text()))
     n = cercaData(ApriArchivio(programma_.cartella),
                   {giorno(*data), mese(*data), annoDueCifre(*data), anno(*data) / 100}, ultima);
   if (n < 1 || n > ultima) {
