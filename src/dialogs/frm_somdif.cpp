@@ -22,7 +22,7 @@ frmSomdif::frmSomdif(Programma& programma, Cornice& cornice) : Finestra(cornice)
 }
 
 void frmSomdif::Form_Load() {
-  // Meant: this window alone leaves the other child windows open.
+  // Meant: unlike the windows that enter and modify a draw, this one leaves the other child windows open.
   prendiMisure({6630, 11655, 500, 50});
   mostraUltima();
 }
