@@ -12,7 +12,8 @@ lavoro=$PWD/build/windows
 librerie=$lavoro/librerie
 . scripts/prepara.sh
 . scripts/librerie_windows.sh
-installa_pacchetti g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 fonts-dejavu-core dpkg-dev librsvg2-bin icoutils xz-utils
+installa_pacchetti g++-mingw-w64-x86-64-posix mingw-w64-tools wine wine64 fonts-dejavu-core dpkg-dev librsvg2-bin icoutils \
+  xz-utils xauth
 mkdir -p "$lavoro"
 if [ ! -d "$librerie" ] && [ -e "$librerie.tar.xz" ]; then tar xf "$librerie.tar.xz" -C "$lavoro"; fi
 
