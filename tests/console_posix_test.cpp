@@ -1,6 +1,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <thread>
 
 #include <sys/stat.h>
@@ -35,6 +36,20 @@ TEST_F(PosixConsole, APipeIsWaitedFor) {
   std::thread scrittore([&pipe] { std::ofstream(pipe) << "2005/01/08\tBA\t1\t2\t3\t4\t5\n"; });
   EXPECT_EQ(esegui("importa @/pipe"), 0);
   scrittore.join();
+}
+
+/// A pipe that nobody reads any more.
+struct PipeRotta : std::streambuf {
+  int_type overflow(int_type /*c*/) override { return std::raise(SIGPIPE), traits_type::eof(); }
+};
+
+TEST_F(PosixConsole, WhatStoresSaysSoWhenNobodyReadsTheStandardOutput) {
+  PipeRotta pipe;
+  auto* prima = std::cout.rdbuf(&pipe);
+  EXPECT_EQ(esegui("metodo crea M"), 0);
+  EXPECT_THAT(errori, StartsWith("Fatto"));
+  EXPECT_EXIT(sessione.esegui({"metodo", "elenco"}), testing::KilledBySignal(SIGPIPE), "");
+  std::cout.rdbuf(prima);
 }
 
 TEST_F(PosixConsole, CtrlCStopsARunWithItsOwnStatus) {

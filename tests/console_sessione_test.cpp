@@ -55,6 +55,8 @@ TEST_F(Console, WhatIsStoredIsNoErrorWhenTheStandardOutputTakesNoText) {
   EXPECT_EQ(esegui("inserisci 16/03/2005 NUMERI"), 0);
   EXPECT_THAT(errori, StartsWith("Fatto"));
   std::cout.setstate(std::ios::badbit);
+  EXPECT_EQ(eseguiFile("metodo crea M"), 0) << "each command answers for itself";
+  std::cout.setstate(std::ios::badbit);
   EXPECT_EQ(esegui("estrazione 1"), 1);
   EXPECT_THAT(errori, StartsWith("Errore di run-time 61"));
 }

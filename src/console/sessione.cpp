@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <iostream>
+#include <optional>
 
 #include "console/riga_di_comando.h"
 #include "methods/cartella_metodi.h"
@@ -20,6 +21,7 @@ namespace {
 Esito dopoLaStampa(const Comando& comando, Esito esito) {
   std::cout.flush();
   if (std::cout) return esito;
+  std::cout.clear();  // each command of a file answers for its own text alone
   if (comando.scrive && esito == kFatto) {
     std::cerr << "Fatto, ma lo standard output non accetta il testo che lo dice.\n";
     return esito;
@@ -65,6 +67,9 @@ Esito Sessione::esegui(RigaDiComando& righe, const std::vector<std::string>& par
     }
     if (ordine.cartella) cartella_ = ordine.cartella;
     controllaCartella(*ordine.comando);
+    // Who stops reading may end what only reads ("| head"), but not what is about to say that it has stored.
+    std::optional<PipeSenzaSegnale> senzaSegnale;
+    if (ordine.comando->scrive) senzaSegnale.emplace();
     const auto esito = ordine.comando->fai(*this, ordine.argomenti);
     return dopoLaStampa(*ordine.comando, esito == kFatto && servizi.rifiutato() ? kRifiutato : esito);
   } catch (const UsoErrato& errore) {

@@ -24,6 +24,19 @@ class Processo {
   [[maybe_unused]] unsigned pagina_ = 0;  // of the terminal, where it is to be given back
 };
 
+/// While it lives, writing into a pipe that nobody reads any more shows as a write that fails, not as the end
+/// of the process.
+class PipeSenzaSegnale {
+ public:
+  PipeSenzaSegnale();
+  PipeSenzaSegnale(const PipeSenzaSegnale&) = delete;
+  PipeSenzaSegnale& operator=(const PipeSenzaSegnale&) = delete;
+  ~PipeSenzaSegnale();
+
+ private:
+  [[maybe_unused]] void (*prima_)(int) = nullptr;
+};
+
 /// Where the program itself lies.
 [[nodiscard]] std::filesystem::path cartellaEseguibile();
 

@@ -12,6 +12,10 @@ Processo::Processo(int argc, char* argv[]) : parole_(argv + (argc > 0 ? 1 : 0), 
 
 Processo::~Processo() = default;
 
+PipeSenzaSegnale::PipeSenzaSegnale() : prima_(std::signal(SIGPIPE, SIG_IGN)) {}
+
+PipeSenzaSegnale::~PipeSenzaSegnale() { std::signal(SIGPIPE, prima_); }
+
 std::filesystem::path cartellaEseguibile() {
   return std::filesystem::read_symlink("/proc/self/exe").parent_path();
 }

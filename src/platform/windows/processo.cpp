@@ -29,6 +29,11 @@ Processo::~Processo() {
   if (pagina_ != 0) ::SetConsoleOutputCP(pagina_);
 }
 
+// Windows has no such signal.
+PipeSenzaSegnale::PipeSenzaSegnale() = default;
+
+PipeSenzaSegnale::~PipeSenzaSegnale() = default;
+
 std::filesystem::path cartellaEseguibile() {
   std::wstring nome(MAX_PATH, L'\0');
   for (DWORD lungo = 0;
