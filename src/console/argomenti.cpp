@@ -4,6 +4,7 @@
 
 #include "console/esito.h"
 #include "platform/conversione.h"
+#include "platform/testo.h"
 
 namespace vaticlo {
 
@@ -20,7 +21,7 @@ int Argomenti::intero(std::string_view nome) const {
   const auto& testo = (*this)[nome];
   const auto numero = numeroDaTesto(testo);
   if (!numero || std::abs(*numero) > kMassimoIntero || *numero != std::trunc(*numero))
-    throw UsoErrato(std::string(nome) + " deve essere un numero intero, non \"" + testo + "\"");
+    throw UsoErrato(std::string(nome) + " deve essere un numero intero, non \"" + citazione(testo) + "\"");
   return static_cast<int>(*numero);
 }
 

@@ -6,6 +6,7 @@
 
 #include "console/manuale.h"
 #include "console/suggerimento.h"
+#include "platform/testo.h"
 
 namespace vaticlo {
 
@@ -55,8 +56,8 @@ std::string cheManca(const CLI::App& comando) {
     if (parole.empty()) return "manca il comando";
     const auto& parola = parole.front();
     if (parola.starts_with("--"))
-      return "opzione sconosciuta: " + parola + forse(parola, nomiDelleOpzioni(comando, comando));
-    return "comando sconosciuto: " + parola + forse(parola, nomiDeiComandi(comando));
+      return "opzione sconosciuta: " + citazione(parola) + forse(parola, nomiDelleOpzioni(comando, comando));
+    return "comando sconosciuto: " + citazione(parola) + forse(parola, nomiDeiComandi(comando));
   }
   for (const auto* opzione : comando.get_options())
     if (opzione->get_required() && opzione->count() == 0) return "manca " + opzione->get_name();
@@ -64,12 +65,13 @@ std::string cheManca(const CLI::App& comando) {
 }
 
 std::string cheAvanza(const CLI::App& comando, const CLI::App& app) {
-  std::string motivo = "argomento di troppo o sconosciuto:", nome;
+  std::string avanzate, nome;
   for (const auto& parola : app.remaining(true)) {
-    motivo += " " + parola;
+    avanzate += (avanzate.empty() ? "" : " ") + parola;
     if (nome.empty() && parola.starts_with('-')) nome = parola.substr(0, parola.find('='));
   }
-  return motivo + forse(nome, nomiDelleOpzioni(comando, app));
+  return "argomento di troppo o sconosciuto: " + citazione(avanzate) +
+         forse(nome, nomiDelleOpzioni(comando, app));
 }
 
 // An option given twice or an argument with too few values shows itself; what is left is an option without
@@ -80,7 +82,7 @@ std::string cheNonTorna(const CLI::App& comando, const std::string& ultima) {
     } catch (const CLI::ArgumentMismatch&) {
       return "numero di valori sbagliato per " + opzione->get_name();
     }
-  return "numero di valori sbagliato per " + ultima;
+  return "numero di valori sbagliato per " + citazione(ultima);
 }
 
 std::string spiega(const CLI::App& app, const CLI::ParseError& errore, const std::string& ultima) {

@@ -68,7 +68,7 @@ int codiceRuota(const std::string& testo) {
     if (maiuscolo(SiglaRuotaTutte(codice)) == maiuscolo(senzaBlanchi(testo))) return codice;
   std::string sigle;
   for (int codice = 1; codice <= kTutte; ++codice) sigle.append(" ").append(SiglaRuotaTutte(codice));
-  throw UsoErrato("ruota sconosciuta: \"" + testo + "\"; le ruote:" + sigle);
+  throw UsoErrato("ruota sconosciuta: \"" + citazione(testo) + "\"; le ruote:" + sigle);
 }
 
 }  // namespace

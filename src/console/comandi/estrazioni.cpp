@@ -10,6 +10,7 @@
 #include "dialogs/frm_modifica.h"
 #include "dialogs/frm_somdif.h"
 #include "operations/copie.h"
+#include "platform/testo.h"
 
 namespace vaticlo::comandi {
 
@@ -106,7 +107,8 @@ Esito trova(Sessione& sessione, const Argomenti& argomenti) {
 Esito inserisci(Sessione& sessione, const Argomenti& argomenti) {
   EstrazioneNuova nuova;
   nuova.data = dataDaTesto(argomenti["DATA"]);
-  if (!nuova.data) throw UsoErrato("DATA deve avere la forma gg/mm/aaaa, non \"" + argomenti["DATA"] + "\"");
+  if (!nuova.data)
+    throw UsoErrato("DATA deve avere la forma gg/mm/aaaa, non \"" + citazione(argomenti["DATA"]) + "\"");
   riempi(nuova, argomenti.tutti("NUMERI"));
   const int n = gestione(sessione).salva(nuova);
   std::cout << "Salvata l'estrazione n° " << n << '\n';
@@ -147,8 +149,8 @@ Esito somdif(Sessione& sessione, const Argomenti& argomenti) {
                                                           {"somma", TipoSomDif::Somma}};
   const auto tipo = kTipi.find(argomenti["--tipo"]);
   if (tipo == kTipi.end())
-    throw UsoErrato("--tipo deve essere ciclometrica, matematica o somma, non \"" + argomenti["--tipo"] +
-                    "\"");
+    throw UsoErrato("--tipo deve essere ciclometrica, matematica o somma, non \"" +
+                    citazione(argomenti["--tipo"]) + "\"");
   const int n = argomenti.intero("N");
   CorniceVuota cornice;
   frmSomdif frm(sessione.programma(), cornice);

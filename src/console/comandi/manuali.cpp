@@ -2,6 +2,7 @@
 
 #include "console/comandi/comandi.h"
 #include "console/manuale.h"
+#include "platform/testo.h"
 
 namespace vaticlo::comandi {
 
@@ -12,7 +13,8 @@ Esito manuale(Sessione& /*sessione*/, const Argomenti& /*argomenti*/) {
 
 Esito completamento(Sessione& /*sessione*/, const Argomenti& argomenti) {
   const auto testo = vaticlo::completamento(argomenti["GUSCIO"], tavolaComandi());
-  if (testo.empty()) throw UsoErrato("GUSCIO deve essere bash, zsh o fish, non " + argomenti["GUSCIO"]);
+  if (testo.empty())
+    throw UsoErrato("GUSCIO deve essere bash, zsh o fish, non " + citazione(argomenti["GUSCIO"]));
   std::cout << testo;
   return kFatto;
 }
