@@ -5,7 +5,7 @@ if(NOT dpkg_query)
   message(FATAL_ERROR "Debian's packages tell the licences of the carried libraries, and there is no dpkg-query")
 endif()
 
-set(pacchetti libcli11-dev qt6-translations-l10n)
+set(pacchetti libcli11-dev nlohmann-json3-dev qt6-translations-l10n)
 foreach(file ${librerie} ${moduli})
   file(REAL_PATH "${file}" vero)
   string(REGEX REPLACE "^/usr/lib" "/lib" altro "${vero}")  # a package may still put there what /usr/lib now holds
@@ -39,7 +39,8 @@ endforeach()
 
 file(WRITE "${radice}/licenze/LEGGIMI.txt"
 "Le librerie di lib/ vengono, immutate, dai pacchetti di Debian qui elencati (sorgente=versione: pacchetto); i primi
-due, compilati dentro i programmi, sono CLI11 (cli11) e i testi italiani di Qt (qt6-translations).
+tre, compilati dentro i programmi, sono CLI11 (cli11), JSON for Modern C++ (nlohmann-json3) e i testi italiani di Qt
+(qt6-translations).
 Le licenze stanno accanto, col nome del sorgente. I sorgenti sono su https://snapshot.debian.org/ e si scaricano anche
 con \"apt source NOME=VERSIONE\".
 
