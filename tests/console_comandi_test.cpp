@@ -101,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{"AddedFromTwoPlaces", "aggiungi @/uno.txt --da http://127.0.0.1:1/", 2, "", "non tutti e due"}),
     perNome);
 
-/// A standard output that looks, when it is given a text, whether another program could take the folder.
+/// An output that looks, when it is given a text, whether another program could take the folder.
 struct UscitaCheGuarda : std::streambuf {
   explicit UscitaCheGuarda(std::filesystem::path radice) : cartella(std::move(radice)) {}
   std::streamsize xsputn(const char_type* /*testo*/, std::streamsize n) override {
@@ -117,13 +117,15 @@ struct UscitaCheGuarda : std::streambuf {
 TEST_F(Console, HoldsTheFolderNeverWhileItPrints) {
   archivioDi(3).scrivi(p);
   scriviMetodoProva(p, "M", {{.estrazione = 2, .ruote = {1}, .ambate = {8}}});
-  for (const auto* comando :
-       {"modifica 1 NUMERI", "cancella 1", "cancella 9", "previsione modifica M 1 --ambi 1-2",
-        "inserisci 14/03/2026 NUMERI", "metodo crea Nuovo", "previsione togli M 1"}) {
+  p.scrivi("nuove.txt", "2005/03/15\tNA\t1\t2\t3\t4\t5\n");
+  for (const auto* comando : {"aggiungi @/nuove.txt", "modifica 1 NUMERI", "cancella 1", "cancella 9",
+                              "previsione modifica M 1 --ambi 1-2", "inserisci 14/03/2026 NUMERI",
+                              "metodo crea Nuovo", "previsione togli M 1"}) {
     UscitaCheGuarda uscita(p.radice);
-    auto* prima = std::cout.rdbuf(&uscita);
+    auto *cout = std::cout.rdbuf(&uscita), *cerr = std::cerr.rdbuf(&uscita);
     esegui(comando);
-    std::cout.rdbuf(prima);
+    std::cout.rdbuf(cout);
+    std::cerr.rdbuf(cerr);
     EXPECT_THAT(uscita.libera, testing::MatchesRegex("1+")) << comando;
   }
 }
