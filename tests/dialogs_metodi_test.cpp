@@ -39,8 +39,9 @@ TEST_F(Metodi, TheirWindowRenamesAndDeletesAfterAYes) {
 TEST_F(Metodi, ANameMustBeAFileOnEverySystemAndNew) {
   scriviMetodoProva(p, "Città", {});
   const std::string lungo(256, 'a');
-  for (const std::string nome : {"  ", "a/b", "..\\b", "a:b", "a\nb", "a?", ".a", "a.", "a\xFF", "nul", "Aux",
-                                 "Com1.x", "a.DAT", "a.dat.b", " CITTÀ ", lungo.c_str()}) {
+  for (const std::string nome : {"  ",     "a/b",       "..\\b", "a:b",     "a\nb",    "a?",         ".a",
+                                 "a.",     "a\xFF",     "nul",   "Aux",     "Com1.x",  "com¹",       "Lpt³.x",
+                                 "conin$", "CONOUT$.a", "a.DAT", "a.dat.b", " CITTÀ ", lungo.c_str()}) {
     p.servizi.messaggi.clear();
     EXPECT_FALSE(gestione.crea(nome)) << nome;
     EXPECT_THAT(p.servizi.detti(), ElementsAre(StartsWith("[Attenzione] "))) << nome;

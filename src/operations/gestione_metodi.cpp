@@ -17,9 +17,10 @@ namespace {
 
 constexpr std::string_view kEstensione = ".dat";
 constexpr std::size_t kMassimoOttetti = 200;  // both systems take 255 with the extension
-constexpr std::array<std::string_view, 22> kRiservati = {
-    "CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4", "COM5", "COM6", "COM7",
-    "COM8", "COM9", "LPT1", "LPT2", "LPT3", "LPT4", "LPT5", "LPT6", "LPT7", "LPT8", "LPT9"};
+constexpr std::array<std::string_view, 30> kRiservati = {
+    "CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4", "COM5",   "COM6",
+    "COM7", "COM8", "COM9", "COM¹", "COM²", "COM³", "LPT1", "LPT2", "LPT3",   "LPT4",
+    "LPT5", "LPT6", "LPT7", "LPT8", "LPT9", "LPT¹", "LPT²", "LPT³", "CONIN$", "CONOUT$"};
 
 bool nomeDiFile(const std::string& nome) {
   if (nome.empty() || nome.size() > kMassimoOttetti || !formaDiConfronto(nome)) return false;
