@@ -1,5 +1,6 @@
 #include <fstream>
 #include <regex>
+#include <stdexcept>
 
 #include "platform/rapporto.h"
 #include "sostegno/console_prova.h"
@@ -42,6 +43,7 @@ std::vector<Caso> casiDi(const std::filesystem::path& file) {
       casi.back().passi.back().detto += riga + "\n";
   }
   casi.erase(casi.begin());
+  if (casi.empty()) throw std::runtime_error("no case in " + file.string());
   return casi;
 }
 
