@@ -257,7 +257,7 @@ std::string perFish(const std::vector<Comando>& tavola) {
 std::string testoStatiDiUscita() {
   return "Stato d'uscita:\n"
          "  0    fatto\n"
-         "  1    un errore di run-time: standard error ne dice il numero\n"
+         "  1    un errore di run-time, o un rapporto non intero: standard error dice il numero o il nome\n"
          "  2    uso sbagliato, o un file che non si legge: standard error dice che cosa e come si fa\n"
          "  3    rifiutato con un messaggio: archivio e metodi sono com'erano\n"
          "  130  fermato con Ctrl-C\n";
