@@ -18,7 +18,7 @@ using PosixConsole = Console;
 TEST_F(PosixConsole, AReportThatIsNotWholeIsNamedAndItsRunGoesOn) {
   archivioDi(110).scrivi(p);
   scriviMetodoProva(p, "M", {{.estrazione = 101, .ruote = {1}, .colpi = 2, .ambate = {5}}});
-  for (const char* nome : {"Vincite.txt", "Esiti.txt"})
+  for (const char* nome : {"Vincite.txt", "Esiti.txt", "PrevGioco.txt"})
     std::filesystem::create_symlink("/dev/full", p.radice / nome);
   EXPECT_EQ(esegui("statistica 99 100"), 0) << "nothing to write into it";
   EXPECT_EQ(esegui("statistica 100 102 --metodo M"), 1);
@@ -28,6 +28,9 @@ TEST_F(PosixConsole, AReportThatIsNotWholeIsNamedAndItsRunGoesOn) {
   EXPECT_THAT(errori, HasSubstr("Esiti.txt"));
   EXPECT_THAT(detto, HasSubstr("Giocabili: 1\n"));
   EXPECT_EQ(esegui("verifica 102"), 0) << "each run for itself";
+  scriviMetodoProva(p, "M", {{.estrazione = 109, .ruote = {1}, .colpi = 2, .ambate = {5}}});
+  EXPECT_EQ(esegui("in-gioco"), 1);
+  EXPECT_THAT(errori, HasSubstr("PrevGioco.txt"));
 }
 
 TEST_F(PosixConsole, APipeIsWaitedFor) {

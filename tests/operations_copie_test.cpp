@@ -99,6 +99,38 @@ TEST_F(Copie, BringBackWhatWasThereAndKeepWhatIs) {
     EXPECT_FALSE(ripristinaCopia(p.programma, altra)) << altra;
 }
 
+TEST_F(Copie, TheOneToGoBackToIsKeptThoughItIsTheOldest) {
+  for (int giorno = 1; giorno <= 10; ++giorno, domani()) {
+    archivioDi(giorno).scrivi(p);
+    faiCopia(p.programma, GenereCopia::Archivio);
+  }
+  archivioDi(50).scrivi(p);
+  EXPECT_TRUE(ripristinaCopia(p.programma, "archivio-2026-03-14"));
+  EXPECT_THAT(elenco(), AllOf(HasSubstr("archivio-2026-03-24: 50 "), HasSubstr("archivio-2026-03-14: 1 ")));
+}
+
+TEST_F(Copie, NothingIsBroughtBackWhenWhatIsThereCanNotBeKept) {
+  faiCopia(p.programma, GenereCopia::Metodi);
+  GestioneMetodi(p.programma).crea("Nuovo");
+  p.scrivi("copie/metodi-2026-03-14-2", "a file where the folder is to be");
+  EXPECT_FALSE(ripristinaCopia(p.programma, "metodi-2026-03-14"));
+  EXPECT_THAT(p.servizi.detti(), ElementsAre(HasSubstr("Non è cambiato niente")));
+  EXPECT_TRUE(p.esiste("Metodi/Nuovo.dat"));
+}
+
+TEST_F(Copie, AMethodThatCanNotBeWrittenBringsTheOthersBack) {
+  scriviMetodoProva(p, "Z", {{.estrazione = 9}});
+  faiCopia(p.programma, GenereCopia::Metodi);
+  scriviMetodoProva(p, "M", {{.estrazione = 5}});
+  std::filesystem::remove(p.radice / "Metodi/N.dat");
+  std::filesystem::remove(p.radice / "Metodi/Z.dat");
+  std::filesystem::create_directory(p.radice / "Metodi/Z.dat");
+  const auto prima = p.contenuto("Metodi/M.dat");
+  EXPECT_THROW(ripristinaCopia(p.programma, "metodi-2026-03-14"), RuntimeFailure);
+  EXPECT_EQ(p.contenuto("Metodi/M.dat"), prima);
+  EXPECT_FALSE(p.esiste("Metodi/N.dat"));
+}
+
 TEST_F(Copie, ThatCanNotBeMadeHinderNothing) {
   p.scrivi("copie", "a file where the folder is to be");
   EXPECT_TRUE(GestioneMetodi(p.programma).elimina("N"));

@@ -83,7 +83,7 @@ TEST_F(Files, AReportHasItsLinesInTheCodePageEndedByCrLf) {
   EXPECT_EQ(p.contenuto("Esiti.txt"), "");
   rapporto.riga(" Previsione n.°", 7, " è");
   rapporto.riga();
-  rapporto.chiudi();
+  EXPECT_TRUE(rapporto.concludi());
   EXPECT_EQ(p.contenuto("Esiti.txt"), std::string(" Previsione n.\xB0") + "7 \xE8\r\n\r\n");
   EXPECT_EQ(testoRapporto(percorso("Esiti.txt")), " Previsione n.°7 è\n\n");
   EXPECT_EQ(failureDi([&] { return rapporto.riga(), 0; }), 52) << "it is closed";

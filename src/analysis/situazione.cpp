@@ -17,7 +17,7 @@ class Voci {
       : cartella_(cartella), archivio_(archivio), metodo_(std::move(metodo)) {}
 
   void aggiungi(std::vector<Situazione::Prevista>& dove, int slot, int colpiRimasti) {
-    if (!voci_) voci_ = elencoPrevisioni(LeggiMetodo(cartella_, metodo_), archivio_);
+    if (!voci_) voci_ = elencoPrevisioni(LeggiMetodo(cartella_, metodo_, SeManca::Vuoto), archivio_);
     const auto voce =
         std::find_if(voci_->begin(), voci_->end(), [&](const auto& v) { return v.slot == slot; });
     if (voce != voci_->end()) dove.push_back({metodo_, *voce, colpiRimasti});

@@ -50,7 +50,7 @@ PrevisioniPerEstrazione::PrevisioniPerEstrazione(const CartellaProgramma& cartel
 }
 
 void PrevisioniPerEstrazione::leggi(const CartellaProgramma& cartella, const std::string& metodo) {
-  const auto file = LeggiMetodo(cartella, metodo);
+  const auto file = LeggiMetodo(cartella, metodo, SeManca::Vuoto);
   const int previsioni = ContaPrevisioni(file);
   for (int slot = 1; slot <= previsioni; ++slot) {
     auto& calcolate = estrazioni_[file.EstrazioneCalcolo(slot)];

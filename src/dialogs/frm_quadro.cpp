@@ -176,7 +176,7 @@ void frmQuadro::mostraPrevisioni() {
   std::vector<VocePrevisione> voci;
   try {
     if (riga != nullptr && esisteMetodo(programma_.cartella, riga->metodo)) {
-      griglia_ = LeggiMetodo(programma_.cartella, riga->metodo);
+      griglia_ = LeggiMetodo(programma_.cartella, riga->metodo, SeManca::Vuoto);
       voci = elencoPrevisioni(*griglia_, archivio_);
     }
   } catch (const RuntimeFailure&) {

@@ -4,6 +4,7 @@
 #include "platform/conversione.h"
 #include "platform/failure.h"
 #include "platform/rapporto.h"
+#include "program/rapporti.h"
 #include "statistics/clsstatistica.h"
 
 namespace vaticlo {
@@ -97,7 +98,7 @@ void frmStatistica::btnElabora_Click() {
   {
     FileRapporto vuoto(programma_.cartella.file(kFileStat));
     vuoto.riga();
-    vuoto.chiudi();
+    concludi(vuoto, programma_);
   }
   RichTextBox1.Text(testoRapporto(programma_.cartella.file(kFileStat)));
   RichTextBox1.Visible(false);

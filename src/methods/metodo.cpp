@@ -13,9 +13,9 @@ std::int16_t FileMetodo::EstrazioneCalcolo(int slot) const {
   return static_cast<std::int16_t>(m(slot, kCampoEstrazione, 1) * 100 + m(slot, kCampoEstrazione, 2));
 }
 
-FileMetodo LeggiMetodo(const CartellaProgramma& cartella, std::string_view nome) {
+FileMetodo LeggiMetodo(const CartellaProgramma& cartella, std::string_view nome, SeManca seManca) {
   FileMetodo metodo;
-  leggiFile(fileMetodo(cartella, nome), metodo.ottetti());
+  leggiFile(fileMetodo(cartella, nome), metodo.ottetti(), seManca);
   return metodo;
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/cartella.h"
+#include "platform/file_intero.h"
 
 namespace vaticlo {
 
@@ -50,9 +51,10 @@ class FileMetodo {
   std::array<std::uint8_t, Ottetti> celle_{};
 };
 
-/// Reads the file of a method; a missing one is created empty and reads as having no predictions.
-/// Failures of leggiFile().
-[[nodiscard]] FileMetodo LeggiMetodo(const CartellaProgramma& cartella, std::string_view nome);
+/// Reads the file of a method; a missing one reads as having no predictions, and is created empty unless
+/// `seManca` says otherwise. Failures of leggiFile().
+[[nodiscard]] FileMetodo LeggiMetodo(const CartellaProgramma& cartella, std::string_view nome,
+                                     SeManca seManca = SeManca::Crea);
 
 /// Writes the whole grid. Failures of scriviFile(); the file is then as it was.
 void ScriviMetodo(const CartellaProgramma& cartella, std::string_view nome, const FileMetodo& metodo);

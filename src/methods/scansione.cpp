@@ -3,6 +3,7 @@
 #include "methods/spiegazioni.h"
 #include "methods/testi_previsione.h"
 #include "platform/conversione.h"
+#include "program/rapporti.h"
 
 namespace vaticlo {
 
@@ -29,6 +30,7 @@ void ScansionePrevisioni::scorriMetodi(const std::filesystem::path& percorso) {
   if (g_.SoloVincenti) UltimeEstrazioni_ = inIntero16(frm_.txtColpi_Text());
 
   FileRapporto rapporto(percorso);
+  g_.RapportiInteri = true;
   g_.ElencoMetodi = CaricaElencoMetodi(programma_.cartella, frm_.scelta());
   frm_.prgbar_Value(0);
   frm_.prgbar_Max(g_.NumeroMetodi());
@@ -48,7 +50,7 @@ void ScansionePrevisioni::scorriMetodi(const std::filesystem::path& percorso) {
     frm_.prgbar_Value(++fatti);
     programma_.servizi.ridisegna();
   }
-  rapporto.chiudi();
+  concludi(rapporto, programma_);
   frm_.mostraRapporto(g_.ContaGiocabili >= 1);
 }
 

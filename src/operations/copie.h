@@ -33,7 +33,8 @@ void faiCopia(const Programma& programma, GenereCopia genere);
 [[nodiscard]] std::vector<Copia> elencoCopie(const CartellaProgramma& cartella);
 
 /// Brings back what a copy holds; what was there is kept as a copy first. Methods that the copy has not are
-/// gone afterwards. False, and the user told, when there is no such copy; failures of the disk.
+/// gone afterwards. False, and the user told, when there is no such copy or what is there can't be kept.
+/// Fails as scriviFile() and eliminaFile() do, and all is then as it was as far as the disk lets it.
 bool ripristinaCopia(Programma& programma, const std::string& nome);
 
 /// What a copy holds, in words (Italian).

@@ -11,7 +11,8 @@ namespace {
 /// Empty for a method that can be judged.
 std::string motivo(const CartellaProgramma& cartella, const std::string& nome) {
   try {
-    if (esisteMetodo(cartella, nome)) static_cast<void>(ContaPrevisioni(LeggiMetodo(cartella, nome)));
+    if (esisteMetodo(cartella, nome))
+      static_cast<void>(ContaPrevisioni(LeggiMetodo(cartella, nome, SeManca::Vuoto)));
     return "";
   } catch (const RuntimeFailure& failure) {
     return failure.errore() == Errore::Indice ? "contiene dieci previsioni" : failure.what();

@@ -13,7 +13,8 @@ namespace vaticlo {
 class BloccoCartella {
  public:
   /// Waits up to `attesa` for another program to let go; fails with Errore::CartellaOccupata when it does
-  /// not. Where the folder or its file system does not offer locks, nothing is held.
+  /// not, with DispositivoIO when the disk fails. Where the folder may not be read, or its file system does
+  /// not offer locks, nothing is held.
   explicit BloccoCartella(const std::filesystem::path& cartella,
                           std::chrono::milliseconds attesa = std::chrono::seconds(5));
 

@@ -16,11 +16,9 @@ std::vector<std::string> elencaFile(const fs::path& cartella) {
   std::error_code codice;
   fs::directory_iterator voce(cartella, codice);
   if (codice == std::errc::no_such_file_or_directory) return {};
-  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nomeFile(cartella));
 
   std::vector<std::pair<std::string, std::string>> chiavi;
   for (const fs::directory_iterator fine; voce != fine; voce.increment(codice)) {
-    if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nomeFile(cartella));
     std::error_code ignorato;
     auto nome = nomeFile(voce->path());
     if (!nome.starts_with('.') && voce->is_regular_file(ignorato)) {
@@ -28,6 +26,8 @@ std::vector<std::string> elencaFile(const fs::path& cartella) {
       chiavi.emplace_back(std::move(chiave), std::move(nome));
     }
   }
+  // A failure ends the walk as the last entry does.
+  if (codice) throw RuntimeFailure(Errore::AccessoAlFile, nomeFile(cartella));
   std::sort(chiavi.begin(), chiavi.end());
 
   std::vector<std::string> nomi;

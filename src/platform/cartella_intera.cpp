@@ -33,4 +33,12 @@ void scriviCartella(const fs::path& cartella, const FilePerNome& file) {
   }
 }
 
+void eliminaCartella(const fs::path& cartella) {
+  const auto nascosta = cartella.parent_path() / ".vecchia";
+  std::error_code ignorato;
+  fs::remove_all(nascosta, ignorato);
+  rinominaFile(cartella, nascosta);
+  fs::remove_all(nascosta, ignorato);
+}
+
 }  // namespace vaticlo

@@ -19,4 +19,9 @@ using FilePerNome = std::map<std::string, std::vector<std::uint8_t>>;
 /// above it are made; throws std::filesystem::filesystem_error where they can't be.
 void scriviCartella(const std::filesystem::path& cartella, const FilePerNome& file);
 
+/// Takes a folder away with all that is in it: a reader finds all of it or none. What a killed program
+/// leaves, under a hidden name, goes with the next folder taken away there. Fails as rinominaFile() does: the
+/// folder is still there then.
+void eliminaCartella(const std::filesystem::path& cartella);
+
 }  // namespace vaticlo

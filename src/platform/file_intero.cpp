@@ -11,14 +11,13 @@ namespace vaticlo {
 
 namespace {
 
-// Opening in this way creates a missing file. Where that is refused, reading is enough; nothing when there is
-// nothing to read either.
-std::optional<Descrittore> apriGriglia(const std::filesystem::path& percorso) {
-  try {
-    return std::optional<Descrittore>(std::in_place, percorso, Apertura::ModificaOCrea);
-  } catch (const RuntimeFailure& failure) {
-    if (failure.errore() != Errore::AccessoAlFile) throw;
-  }
+// Where creating a missing file is refused, reading is enough; nothing when there is nothing to read either.
+std::optional<Descrittore> apriGriglia(const std::filesystem::path& percorso, SeManca seManca) {
+  if (seManca == SeManca::Crea) try {
+      return std::optional<Descrittore>(std::in_place, percorso, Apertura::ModificaOCrea);
+    } catch (const RuntimeFailure& failure) {
+      if (failure.errore() != Errore::AccessoAlFile) throw;
+    }
   try {
     return std::optional<Descrittore>(std::in_place, percorso, Apertura::Lettura);
   } catch (const RuntimeFailure& failure) {
@@ -34,8 +33,8 @@ void richiediFileVero(const Descrittore& file, const std::filesystem::path& perc
 
 }  // namespace
 
-void leggiFile(const std::filesystem::path& percorso, std::span<std::uint8_t> dati) {
-  const auto file = apriGriglia(percorso);
+void leggiFile(const std::filesystem::path& percorso, std::span<std::uint8_t> dati, SeManca seManca) {
+  const auto file = apriGriglia(percorso, seManca);
   std::size_t letti = 0;
   if (file) {
     richiediFileVero(*file, percorso);

@@ -8,11 +8,17 @@
 
 namespace vaticlo {
 
-/// Reads as many bytes as `dati` holds. A missing file is created empty; what a short one does not have is 0;
-/// what follows in a longer one is left out. A file that may only be read is no failure, and a missing one
-/// that can't be created reads as empty. Fails with Errore::AccessoAlFile (no plain file either),
-/// PercorsoNonTrovato (no folder) or DispositivoIO (reading went wrong).
-void leggiFile(const std::filesystem::path& percorso, std::span<std::uint8_t> dati);
+/// What reading does with a file that is missing.
+enum class SeManca {
+  Crea,   ///< it is created empty; where it can't be, it reads as empty
+  Vuoto,  ///< it reads as empty: one that was listed a moment ago and is gone does not come back
+};
+
+/// Reads as many bytes as `dati` holds. What a short file does not have is 0; what follows in a longer one is
+/// left out. A file that may only be read is no failure. Fails with Errore::AccessoAlFile (no plain file
+/// either), PercorsoNonTrovato (no folder) or DispositivoIO (reading went wrong).
+void leggiFile(const std::filesystem::path& percorso, std::span<std::uint8_t> dati,
+               SeManca seManca = SeManca::Crea);
 
 /// What becomes of a file that is there already.
 enum class Scrittura {
@@ -27,10 +33,13 @@ enum class Scrittura {
 /// goes with the next write of that file. The new file has the permissions of the old one and its owner where
 /// the system allows it; a link stays a link, to the new file; other hard links keep the old one. Where
 /// nothing can be put beside (a folder that can't be written, a tail beyond 64 MiB) the bytes go over the old
-/// ones, which are put back on a failure; there alone a kill -9 may leave a mixture.
+/// ones, which are put back on a failure.
 /// Fails with Errore::DispositivoIO, DiscoPieno, AccessoAlFile (a file that can't be written is not replaced
 /// either), PercorsoNonTrovato (no folder), FileEsistente or CartellaOccupata (another program holds the
-/// folder); the file is then as it was.
+/// folder); the file is then as it was. This has two limits. Where the bytes go over the old ones, a mixture
+/// may be left by a kill -9, a signal that another thread of the program gets, or a disk that refuses the old
+/// bytes too. Where a file system can't exchange two names, the new file may stay although the folder could
+/// not be brought to the disk.
 void scriviFile(const std::filesystem::path& percorso, std::span<const std::uint8_t> dati,
                 Scrittura come = Scrittura::Griglia);
 
@@ -42,6 +51,9 @@ void rinominaFile(const std::filesystem::path& percorso, const std::filesystem::
 
 /// Takes a file away, from the disk too. Failure 53, 57, 70 or 75: it is still there then.
 void eliminaFile(const std::filesystem::path& percorso);
+
+/// Takes away what killed programs have left beside the files of a folder. Whoever calls holds the folder.
+void togliResti(const std::filesystem::path& cartella);
 
 /// The longest text that is taken from a user, in bytes: far more than any that makes sense.
 inline constexpr std::size_t kMassimoTesto = std::size_t{64} << 20;

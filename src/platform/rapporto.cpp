@@ -30,35 +30,24 @@ void FileRapporto::fineRiga() {
   if (attesa_.size() >= kAttesa) svuota();
 }
 
-void FileRapporto::chiudi() {
-  if (!file_) return;
-  try {
-    svuota();
-    file_->chiudi(percorso_);
-  } catch (const RuntimeFailure&) {
-    intero_ = false;
-    file_.reset();
-    throw;
-  }
-  file_.reset();
-}
-
 bool FileRapporto::concludi() {
-  try {
-    chiudi();
-  } catch (const RuntimeFailure&) {
-    // The result says so.
-  }
+  if (!file_) return intero_;
+  svuota();
+  prova([&] { file_->chiudi(percorso_); });
+  file_.reset();
   return intero_;
 }
 
 void FileRapporto::svuota() {
   const auto righe = std::exchange(attesa_, {});
+  if (intero_) prova([&] { file_->scrivi(righe, percorso_); });
+}
+
+void FileRapporto::prova(const std::function<void()>& passo) {
   try {
-    file_->scrivi(righe, percorso_);
+    passo();
   } catch (const RuntimeFailure&) {
     intero_ = false;
-    throw;
   }
 }
 

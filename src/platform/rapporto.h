@@ -3,6 +3,7 @@
 #include <charconv>
 #include <concepts>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,8 +19,9 @@ namespace vaticlo {
 [[nodiscard]] std::string testoRapporto(const std::filesystem::path& percorso);
 
 /// A report file: text lines in the 8-bit code page, each ended by carriage return and line feed. Opening
-/// creates or empties it. Whole lines reach the disk: when some are waiting, on chiudi(), and at the end of
-/// its life whatever happens, so that a failure leaves every line written before it.
+/// creates or empties it. Whole lines reach the disk: when some are waiting, on concludi(), and at the end of
+/// its life whatever happens, so that a failure of the run leaves every line written before it. A disk that
+/// does not take them stops no run: nothing more is written then.
 class FileRapporto {
  public:
   /// Fails with Errore::AccessoAlFile or PercorsoNonTrovato when the file can't be opened for writing.
@@ -28,19 +30,16 @@ class FileRapporto {
   FileRapporto& operator=(FileRapporto&&) = delete;
   ~FileRapporto();
 
-  /// Writes one line made of texts (UTF-8) and whole numbers. Fails with Errore::DiscoPieno or DispositivoIO
-  /// when the disk does not take it, with NomeFile when the report is closed.
+  /// Writes one line made of texts (UTF-8) and whole numbers. Fails with Errore::NomeFile when the report is
+  /// closed.
   template <class... Pezzi>
   void riga(const Pezzi&... pezzi) {
     (aggiungi(pezzi), ...);
     fineRiga();
   }
 
-  /// Brings the last lines to the disk and closes the file, whatever happens. Fails with Errore::DiscoPieno
-  /// or DispositivoIO; not the second time.
-  void chiudi();
-  /// The same for a run that no failure of its report stops: whether every line, from the first one on, has
-  /// reached the disk.
+  /// Brings the last lines to the disk and closes the file: whether every line, from the first one on, has
+  /// reached it.
   bool concludi();
   /// The name of the file.
   [[nodiscard]] std::string nome() const { return nomeFile(percorso_); }
@@ -53,6 +52,7 @@ class FileRapporto {
   }
   void fineRiga();
   void svuota();
+  void prova(const std::function<void()>& passo);
 
   std::filesystem::path percorso_;
   std::optional<Descrittore> file_;  ///< none once it is closed

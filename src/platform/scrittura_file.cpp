@@ -63,6 +63,17 @@ void chiudiAParte(Descrittore vecchio) {
   }
 }
 
+// As far as the disk lets it; the failure that made it necessary is the one to tell.
+void rimetti(const Descrittore& file, std::string_view vecchi, std::size_t lungo, const fs::path& percorso) {
+  try {
+    file.vaiA(0, percorso);
+    file.scrivi(vecchi, percorso);
+    file.tagliaA(lungo, percorso);
+    file.sincronizza(percorso);
+  } catch (const RuntimeFailure&) {
+  }
+}
+
 void scriviSulPosto(const Descrittore& file, std::string_view dati, bool intera, const fs::path& percorso) {
   const SegnaliFermi fermi;
   const auto lungo = lunghezza(file, percorso);
@@ -73,9 +84,7 @@ void scriviSulPosto(const Descrittore& file, std::string_view dati, bool intera,
     file.sincronizza(percorso);
     if (intera && lungo > dati.size()) file.tagliaA(dati.size(), percorso);
   } catch (const RuntimeFailure&) {
-    file.vaiA(0, percorso);
-    file.scrivi(vecchi, percorso);
-    file.tagliaA(lungo, percorso);
+    rimetti(file, vecchi, lungo, percorso);
     throw;
   }
 }

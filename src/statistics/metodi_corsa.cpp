@@ -42,7 +42,8 @@ void MetodiDellaCorsa::leggiProssimo() {
 }
 
 void MetodiDellaCorsa::leggi(std::size_t indice, MetodoLetto& letto) {
-  const auto& metodo = griglie_.emplace_back(LeggiMetodo(cartella_, elenco_[indice]));
+  const auto seManca = seGuasto_ == SeGuasto::SiSalta ? SeManca::Vuoto : SeManca::Crea;
+  const auto& metodo = griglie_.emplace_back(LeggiMetodo(cartella_, elenco_[indice], seManca));
   letto.previsioni = ContaPrevisioni(metodo);
   bool serve = false;
   for (int slot = 1; slot <= FileMetodo::Slot; ++slot) {

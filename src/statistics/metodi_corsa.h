@@ -15,7 +15,7 @@ namespace vaticlo {
 /// What a scan does with a method that fails: ten predictions, an unreadable file.
 enum class SeGuasto {
   FermaLaScansione,  ///< no prediction of it nor of the methods after it is taken
-  SiSalta,           ///< the methods after it are still taken
+  SiSalta,           ///< the methods after it are still taken; one without a file does not get one
 };
 
 /// A method as its file was read.

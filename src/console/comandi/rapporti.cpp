@@ -28,7 +28,7 @@ Esito cerca(Sessione& sessione, ElencoScansione& frm, const Argomenti& argomenti
                   std::cout << frm.RichTextBox1.Text();
               }},
          argomenti);
-  return kFatto;
+  return esitoDeiRapporti(sessione.programma());
 }
 
 }  // namespace

@@ -47,8 +47,10 @@ BloccoCartella::BloccoCartella(const std::filesystem::path& cartella, std::chron
   std::shared_ptr<const Tenuta> aperta;
   try {
     aperta = std::make_shared<const Tenuta>(cartella_);
-  } catch (const RuntimeFailure&) {
-    return;  // whoever opens a file in it says why
+  } catch (const RuntimeFailure& failure) {
+    // One that is not there or may not be read; whoever opens a file in it says why.
+    if (failure.errore() == Errore::DispositivoIO || failure.errore() == Errore::DiscoPieno) throw;
+    return;
   }
   struct stat stato {};
   if (::fstat(aperta->fd(), &stato) != 0) throw failureDiSistema(ultimoErrore(), cartella_);
