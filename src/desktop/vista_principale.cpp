@@ -330,6 +330,8 @@ void VistaPrincipaleQt::togli(Finestra& finestra) {
 void VistaPrincipaleQt::abilitaComandi(bool abilitati) {
   menuBar()->setEnabled(abilitati);
   findChild<QToolBar*>()->setEnabled(abilitati);
+  inizio_->setEnabled(abilitati);
+  for (auto* sotto : area_->subWindowList()) sotto->setEnabled(abilitati || finestraDi(sotto)->occupata());
   // Long work may disable what has the focus, which wanders on then: it comes back after the work.
   if (!abilitati)
     fuoco_ = focusWidget();

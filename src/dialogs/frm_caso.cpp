@@ -172,6 +172,7 @@ std::vector<Confronto> frmCaso::esegui(const Richiesta& richiesta) {
 }
 
 void frmCaso::inCorso(bool corre) {
+  btnStop.Enabled(corre);  // with it the window is occupied, or is no more
   if (corre) {
     cornice().lavoro(true);
     prgbar.Max(interoTra(txtprove.Text(), 1, kProveAlMassimo).value_or(1));
@@ -179,7 +180,6 @@ void frmCaso::inCorso(bool corre) {
     lblRimasto.Caption("");
   }
   prgbar.Visible(corre);
-  btnStop.Enabled(corre);
   btnElabora.Enabled(!corre);
   btnCancella.Enabled(!corre);
   if (!corre) cornice().lavoro(false);

@@ -152,11 +152,11 @@ F& frmPrincipale::apriAccanto(const Finestra& chiede) {
 }
 
 void frmPrincipale::apriVerifica(const Finestra& chiede, const std::string& metodo, int estrazione) {
-  apriAccanto<frmMetodo>(chiede).mostra(metodo, estrazione);
+  if (!occupata()) apriAccanto<frmMetodo>(chiede).mostra(metodo, estrazione);
 }
 
 void frmPrincipale::apriConfronto(const Finestra& chiede, const std::string& metodo) {
-  apriAccanto<frmCaso>(chiede).metodo.scegliNome(metodo);
+  if (!occupata()) apriAccanto<frmCaso>(chiede).metodo.scegliNome(metodo);
 }
 
 void frmPrincipale::chiudiTutte(const Finestra* tranne) {

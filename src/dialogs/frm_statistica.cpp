@@ -183,8 +183,8 @@ void frmStatistica::btnStampa_Click() {
 void frmStatistica::btnCancella_Click() { cornice().chiudi(*this); }
 
 void frmStatistica::corsaIniziata() {
+  btnStop.Enabled(true);  // the window is occupied from here on
   cornice().lavoro(true);
-  btnStop.Enabled(true);
   btnElabora.Enabled(false);
   btnCancella.Enabled(false);
 }

@@ -22,7 +22,8 @@ class Cornice {
   virtual void apriVerifica(const Finestra& chiede, const std::string& metodo, int estrazione) = 0;
   /// Opens the comparison of a method with chance, and leaves the window that asks open.
   virtual void apriConfronto(const Finestra& chiede, const std::string& metodo) = 0;
-  /// Long work begins or ends in one of the windows: meanwhile the main window takes no command.
+  /// Long work begins or ends in a window, which is `occupata` meanwhile: the main window takes no command,
+  /// and the other windows take no input.
   virtual void lavoro(bool inCorso) = 0;
   /// The archive was replaced as a whole; draws were added at its end: the open windows are told.
   virtual void archivioNuovo() = 0;

@@ -3,7 +3,9 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QToolBar>
+#include <QWheelEvent>
 
+#include "dialogs/frm_aggiungi.h"
 #include "gui/finestra_prova.h"
 
 using namespace vaticlo;
@@ -39,7 +41,9 @@ struct Statistica : PrincipaleProva {
       if (figlia().findChild<QWidget*>(nome)->isVisible()) testo += QString(nome) + ' ';
     for (const char* nome : {"btnElabora", "btnStop", "btnVincite", "btnPrev", "btnStampa", "btnCancella"})
       if (visibile(nome).isEnabled()) testo += QString(nome).mid(3) + ' ';
-    return testo +
+    for (const auto* altra : finestra.findChild<QMdiArea*>()->subWindowList())
+      if (altra != &figlia() && altra->isEnabled()) testo += "accanto ";
+    return testo + (finestra.findChild<QWidget*>("inizio")->isEnabled() ? "inizio " : "") +
            (finestra.menuBar()->isEnabled() && finestra.findChild<QToolBar*>()->isEnabled() ? "menu" : "");
   }
 };
@@ -50,9 +54,12 @@ class StatisticaGuiTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void aRunIsStoppedByKeyAndByMouse() {
+  void aRunIsStoppedByKeyAndByMouseAndNothingElseIsDoneMeanwhile() {
     Statistica v;
-    QCOMPARE(v.stato(), QString("RichTextBox1 Elabora Cancella menu"));
+    v.scegli("mnu1Aggiungi");
+    auto* accanto = &v.visibile("btnEsci");
+    v.finestra.findChild<QMdiArea*>()->activatePreviousSubWindow();
+    QCOMPARE(v.stato(), QString("RichTextBox1 Elabora Cancella accanto inizio menu"));
     v.intervallo("101", "110");
     for (const bool conTasti : {true, false}) {
       QString durante;
@@ -61,13 +68,16 @@ class StatisticaGuiTest : public QObject {
         QCoreApplication::processEvents();
         if (v.p.servizi.pause != 3) return;
         durante = v.stato();
+        QTest::mouseClick(accanto, Qt::LeftButton);
+        v.principale.apriVerifica(*v.principale.aperta<frmAggiungi>(), "M", 102);
         conTasti ? v.premi(Qt::Key_Space) : v.clicca("btnStop");  // the focus goes there
       };
       v.usa("btnElabora").setFocus();
       v.premi(Qt::Key_Return);
       QCOMPARE(durante, QString("prgbar Stop "));
       QCOMPARE(v.p.servizi.pause, 3);
-      QCOMPARE(v.stato(), QString("Elabora Cancella menu"));
+      QCOMPARE(v.stato(), QString("Elabora Cancella accanto inizio menu"));
+      QCOMPARE(v.fuoco(), QString("btnElabora"));
       QCOMPARE(v.p.contenuto("Stat.txt"), std::string());
       QVERIFY(v.p.contenuto("Vincite.txt").starts_with(" Previsione n."));  // of the draws before the stop
     }
@@ -116,8 +126,9 @@ class StatisticaGuiTest : public QObject {
     v.clicca("btnElabora");
     QCOMPARE(v.detti().join('|'), rifiuto);
     QTEST(v.testo("txtestr_0") + ' ' + v.testo("txtestr_1"), "mostrati");
-    QCOMPARE(v.stato(), rifiuto.isEmpty() ? QString("RichTextBox1 Elabora %1Stampa Cancella menu").arg(liste)
-                                          : QString("Elabora Cancella menu"));
+    QCOMPARE(v.stato(), rifiuto.isEmpty()
+                            ? QString("RichTextBox1 Elabora %1Stampa Cancella inizio menu").arg(liste)
+                            : QString("Elabora Cancella inizio menu"));
     QCOMPARE(v.p.contenuto("Stat.txt") == "\r\n", !rifiuto.isEmpty());
   }
 
@@ -129,7 +140,7 @@ class StatisticaGuiTest : public QObject {
       QVERIFY(v.detti().join('|').startsWith(QString("[Attenzione] \"Es.N.\" della data di ") +
                                              (campo == QString("txtestr_0") ? "inizio" : "fine")));
       QCOMPARE(v.fuoco(), QString(campo));
-      QCOMPARE(v.stato(), QString("Elabora Cancella menu"));
+      QCOMPARE(v.stato(), QString("Elabora Cancella inizio menu"));
     }
   }
 
@@ -175,7 +186,7 @@ class StatisticaGuiTest : public QObject {
     v.premi(Qt::Key_Down, {}, 2);      // over the two that are always offered, to "M"
     QVERIFY(!v.p.esiste("Stat.txt"));  // a choice starts no run
     v.clicca("btnElabora");
-    QCOMPARE(v.stato(), QString("RichTextBox1 Elabora Vincite Prev Stampa Cancella menu"));
+    QCOMPARE(v.stato(), QString("RichTextBox1 Elabora Vincite Prev Stampa Cancella inizio menu"));
     QVERIFY(v.testo("RichTextBox1").contains("Previsioni Giocabili: 3\n"));
     auto& totali = v.usa<QPlainTextEdit>("RichTextBox1");
     totali.selectAll();
