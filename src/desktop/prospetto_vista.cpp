@@ -157,16 +157,20 @@ void ProspettoVista::mostraScelte() {
   QItemSelection scelte;
   const auto& mostrate = modello_.mostrate();
   std::size_t posto = 0;
-  int prima = -1;
+  std::vector<int> righe;
   for (const auto riga : modello_.scelte()) {  // both stand in the order shown
     while (mostrate[posto] != riga) ++posto;
     const int n = static_cast<int>(posto);
     scelte.select(righe_->index(n, 0), righe_->index(n, righe_->columnCount() - 1));
-    if (prima < 0) prima = n;
+    righe.push_back(n);
   }
+  std::vector<int> gia;
+  for (const auto& indice : selectionModel()->selectedRows()) gia.push_back(indice.row());
+  std::ranges::sort(gia);
+  if (righe == gia) return;  // the user has chosen, and stays where he is
   selectionModel()->select(scelte, QItemSelectionModel::ClearAndSelect);
-  if (prima < 0 || selectionModel()->isRowSelected(currentIndex().row(), {})) return;
-  selectionModel()->setCurrentIndex(righe_->index(prima, std::max(0, currentIndex().column())),
+  if (righe.empty() || selectionModel()->isRowSelected(currentIndex().row(), {})) return;
+  selectionModel()->setCurrentIndex(righe_->index(righe.front(), std::max(0, currentIndex().column())),
                                     QItemSelectionModel::NoUpdate);
   scrollTo(currentIndex());
 }

@@ -66,6 +66,11 @@ class ProspettoGuiTest : public QObject {
     QTest::keyClick(v.vista, Qt::Key_Home, Qt::ControlModifier);
     QTest::keyClick(v.vista, Qt::Key_Down, Qt::ShiftModifier);
     QCOMPARE(v.frm->tavola.scelte().size(), 2U);
+    QTest::keyClick(v.vista, Qt::Key_Space, Qt::ControlModifier);  // no more, and the keys stay there
+    QVERIFY(v.frm->tavola.scelte().size() == 1 && v.vista->currentIndex().row() == 1);
+    v.frm->tavola.scegli({2});
+    QCOMPARE(v.vista->currentIndex().row(), 2);
+    v.frm->tavola.scegli({0, 1});
     const auto& testa = *v.vista->horizontalHeader();
     QTest::mouseClick(testa.viewport(), Qt::LeftButton, {},
                       {testa.sectionPosition(1) + 5, testa.height() / 2});
