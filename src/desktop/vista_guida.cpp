@@ -52,9 +52,12 @@ VistaGuida::VistaGuida(const std::filesystem::path& pagina, QWidget* padre)
   capitoli_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   elencaCapitoli();
   // A chapter is reached as a link is, so that the way back knows where one came from.
-  connect(capitoli_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* voce) {
+  const auto vai = [this](const QListWidgetItem* voce) {
     if (voce != nullptr) testo_->setSource(QUrl(u'#' + voce->data(Qt::UserRole).toString()));
-  });
+  };
+  connect(capitoli_, &QListWidget::currentItemChanged, this, vai);
+  for (const auto segnale : {&QListWidget::itemClicked, &QListWidget::itemActivated})
+    connect(capitoli_, segnale, this, vai);  // again, from elsewhere in the text
 
   auto* indietro = new QToolButton;
   indietro->setObjectName(QStringLiteral("guidaIndietro"));

@@ -258,6 +258,9 @@ class ElenchiGuiTest : public QObject {
     QCOMPARE(testo.source().fragment(), QString("due"));
     QTest::keyClick(&testo, Qt::Key_Left, Qt::AltModifier);
     QVERIFY(testo.source().fragment().isEmpty());
+    QTest::mouseClick(capitoli.viewport(), Qt::LeftButton, {},
+                      capitoli.visualItemRect(capitoli.item(1)).center());
+    QCOMPARE(testo.source().fragment(), QString("due"));  // though it was the current one
     QTest::keyClick(guida, Qt::Key_F, Qt::ControlModifier);
     auto* ricerca = guida->findChild<QLineEdit*>("guidaRicerca");
     QTest::keyClicks(ricerca, "alfa");
