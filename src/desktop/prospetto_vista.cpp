@@ -9,6 +9,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -273,7 +274,11 @@ void ProspettoVista::stampa() {
   stampante.setDocName(titolo());
   if (righe_->columnCount() > kColonneInPiedi) stampante.setPageOrientation(QPageLayout::Landscape);
   QPrintDialog scelta(&stampante, window());
-  if (scelta.exec() == QDialog::Accepted) stampaSu(stampante, titolo(), modello_.tabellaMostrata());
+  if (scelta.exec() != QDialog::Accepted) return;
+  stampaSu(stampante, titolo(), modello_.tabellaMostrata());
+  if (stampante.printerState() == QPrinter::Error)
+    QMessageBox::warning(window(), scelta.windowTitle(),
+                         QStringLiteral("La stampa non è cominciata: non è stato stampato nulla."));
 }
 
 QString ProspettoVista::titolo() const { return QString::fromStdString(modello_.Titolo()); }

@@ -125,16 +125,20 @@ void ServiziDesktop::avanzamento(const std::string& lavoro, int percento) {
 
 void ServiziDesktop::stampa(const std::string& testo) {
   const auto predefinita = QPrinterInfo::defaultPrinter();
-  if (predefinita.isNull()) {
+  const auto senza = [this](const QString& perche, const std::string& inBreve) {
     suggerisci(
-        QStringLiteral("Non c'è una stampante predefinita: non è stato stampato nulla.\n"
+        perche +
+        QStringLiteral(": non è stato stampato nulla.\n"
                        "Con il tasto destro sul testo: \"Salva come PDF...\" o \"Salva come testo...\"."));
-    fatto("Nessuna stampante: niente è stato stampato");
-    return;
-  }
+    fatto(inBreve + ": niente è stato stampato");
+  };
+  if (predefinita.isNull())
+    return senza(QStringLiteral("Non c'è una stampante predefinita"), "Nessuna stampante");
   QPrinter stampante(predefinita, QPrinter::HighResolution);
   stampante.setDocName(QStringLiteral("Vaticlo"));
   stampaSu(stampante, qt(testo));
+  if (stampante.printerState() == QPrinter::Error)
+    return senza(QStringLiteral("La stampa non è cominciata"), "La stampa non è cominciata");
   fatto("Mandato alla stampante " + predefinita.printerName().toStdString());
 }
 

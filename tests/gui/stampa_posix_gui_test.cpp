@@ -79,6 +79,10 @@ class StampaGuiTest : public QObject {
     QCOMPARE(finestra.statusBar()->currentMessage(), QString("Mandato alla stampante Ricevitoria"));
     QTRY_VERIFY(server.lavoro().trimmed().endsWith("%%EOF"));
     QVERIFY(server.lavoro().startsWith("%PDF"));
+    qputenv("TMPDIR", "/nessuno");  // where a job is made
+    servizi.stampa("Esiti del metodo");
+    QCOMPARE(finestra.statusBar()->currentMessage(),
+             QString("La stampa non è cominciata: niente è stato stampato"));
   }
 };
 
