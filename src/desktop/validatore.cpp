@@ -24,9 +24,7 @@ bool Validatore::eventFilter(QObject* oggetto, QEvent* evento) {
       if (inProva_ != nullptr || !vista_->isAncestorOf(widget)) return false;
       const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
       if (widget == attuale_) return ritorna(widget, motivo);
-      if (!respinge(widget)) return false;
-      pressionePersa_ = motivo == Qt::MouseFocusReason;
-      return true;
+      return respinge(widget, motivo);
     }
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -47,7 +45,7 @@ bool Validatore::ritorna(QWidget* controllo, Qt::FocusReason motivo) {
 }
 
 /// The focus has come to another control. True when one that was left has taken it back.
-bool Validatore::respinge(QWidget* verso) {
+bool Validatore::respinge(QWidget* verso, Qt::FocusReason motivo) {
   const QPointer<Validatore> vivo = this;
   if (prove_.contains(attuale_)) lasciati_.push_back(attuale_);
   std::erase(lasciati_, verso);
@@ -61,6 +59,7 @@ bool Validatore::respinge(QWidget* verso) {
     if (trattiene) {
       attuale_ = inProva_;
       inProva_->setFocus(Qt::OtherFocusReason);
+      pressionePersa_ = motivo == Qt::MouseFocusReason;
     }
     std::erase(lasciati_, std::exchange(inProva_, nullptr));
     if (trattiene) return true;

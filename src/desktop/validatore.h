@@ -33,7 +33,7 @@ class Validatore : public QObject {
 
  private:
   [[nodiscard]] static bool ritorna(QWidget* controllo, Qt::FocusReason motivo);
-  [[nodiscard]] bool respinge(QWidget* verso);
+  [[nodiscard]] bool respinge(QWidget* verso, Qt::FocusReason motivo);
 
   QWidget* vista_;
   const Confine& confine_;
