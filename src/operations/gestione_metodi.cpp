@@ -9,6 +9,7 @@
 #include "operations/copie.h"
 #include "operations/un_passo.h"
 #include "platform/file_intero.h"
+#include "platform/percorso.h"
 #include "platform/testo.h"
 
 namespace vaticlo {
@@ -27,8 +28,7 @@ bool nomeDiFile(const std::string& nome) {
   if (nome.front() == '.' || nome.back() == '.') return false;
   const auto vietato = [](char c) {
     const auto ottetto = static_cast<unsigned char>(c);
-    return ottetto < 0x20 || ottetto == 0x7F ||
-           std::string_view("<>:\"/\\|?*").find(c) != std::string_view::npos;
+    return ottetto < 0x20 || ottetto == 0x7F || kVietatiNeiNomi.find(c) != std::string_view::npos;
   };
   if (std::any_of(nome.begin(), nome.end(), vietato)) return false;
   const auto radice = maiuscolo(senzaBlanchi(std::string_view(nome).substr(0, nome.find('.'))));

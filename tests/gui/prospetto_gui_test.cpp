@@ -19,7 +19,7 @@ namespace {
 
 struct FinestraTabella : Finestra {
   explicit FinestraTabella(Cornice& cornice) : Finestra(cornice) {
-    tavola.Titolo("Prova 1/2");
+    tavola.Titolo("Prova: 1/2");
     tavola.mostra({{{"Nome"}, {"Quota", Colonna::Tipo::Numero, 1}},
                    {{std::string("uno"), 2}, {std::string("<b>due"), 1.5}, {std::string("tre"), {}}}});
     tavola.Apri = [this] { aperte += testoCella(tavola.cella(*tavola.scelta(), 0)) + " "; };
@@ -155,8 +155,9 @@ class ProspettoGuiTest : public QObject {
     });
     risposte.start(20);
     for (const char* azione : {"salvaCsv", "salvaPdf"}) v.vista->findChild<QAction*>(azione)->trigger();
-    for (const auto& [nome, inizio] : {std::pair{"Prova 1-2.csv", "\xEF\xBB\xBFNome;Quota\r\n<b>due;1,5\r\n"},
-                                       {"Prova 1-2.pdf", "%PDF"}}) {
+    for (const auto& [nome, inizio] :
+         {std::pair{"Prova- 1-2.csv", "\xEF\xBB\xBFNome;Quota\r\n<b>due;1,5\r\n"},
+          {"Prova- 1-2.pdf", "%PDF"}}) {
       QFile file(cartella.filePath(nome));
       QVERIFY2(file.open(QIODevice::ReadOnly) && file.readAll().startsWith(inizio), nome);
     }

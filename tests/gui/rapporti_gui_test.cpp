@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -105,14 +106,20 @@ class RapportiGuiTest : public QObject {
   void itsMenuSavesTheWholeText() {
     Rapporto v;
     const QTemporaryDir cartella;
-    QStringList voci;
+    QStringList voci, domande;
     QTimer risposte;
     connect(&risposte, &QTimer::timeout, this, [&] {
       if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
         for (const auto* voce : menu->actions()) voci << voce->text().remove('&').section('\t', 0, 0);
         menu->close();
       }
+      if (auto* domanda = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        domande << domanda->text();
+        domanda->button(QMessageBox::No)->click();
+        return;
+      }
       if (auto* scelta = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+        if (!domande.isEmpty()) return scelta->reject();
         scelta->setDirectory(cartella.path());
         scelta->findChild<QLineEdit*>("fileNameEdit")->setText("uscita");
         QMetaObject::invokeMethod(scelta, "accept");
@@ -127,6 +134,10 @@ class RapportiGuiTest : public QObject {
     for (const char* azione : {"salvaPdf", "salvaTesto"}) v.area->findChild<QAction*>(azione)->trigger();
     QCOMPARE(QString::fromUtf8(contenuto(cartella.filePath("uscita.txt"))), v.testo("RichTextBox1"));
     QVERIFY(contenuto(cartella.filePath("uscita.pdf")).startsWith("%PDF"));
+    QVERIFY(salvaOttetti(cartella.filePath("uscita.txt"), "di prima"));
+    v.area->findChild<QAction*>("salvaTesto")->trigger();
+    QVERIFY(domande.size() == 1 && domande[0].contains("uscita.txt"));
+    QCOMPARE(contenuto(cartella.filePath("uscita.txt")), QByteArray("di prima"));
     QVERIFY(!salvaOttetti(cartella.filePath("manca/uscita.txt"), "testo"));
     QVERIFY(!salvaPdf(cartella.filePath("manca/uscita.pdf"), [](auto&) {}));
   }
