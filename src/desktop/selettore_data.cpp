@@ -124,7 +124,12 @@ void SelettoreDataVista::mouseReleaseEvent(QMouseEvent* evento) {
 void SelettoreDataVista::mouseDoubleClickEvent(QMouseEvent* /*evento*/) { selectAll(); }
 
 void SelettoreDataVista::wheelEvent(QWheelEvent* evento) {
-  if (evento->angleDelta().y() != 0) sposta(evento->angleDelta().y() > 0 ? 1 : -1);
+  const int giro = evento->angleDelta().y();
+  if (giro * giro_ < 0) giro_ = 0;  // it turns back
+  giro_ += giro;                    // a touchpad gives a step in many parts
+  const int passi = giro_ / QWheelEvent::DefaultDeltasPerStep;
+  giro_ %= QWheelEvent::DefaultDeltasPerStep;
+  if (passi != 0) sposta(passi);
   evento->accept();
 }
 

@@ -34,6 +34,7 @@ class SelettoreDataVista : public QLineEdit {
 
   SelettoreData& modello_;
   const Confine& confine_;
+  int giro_ = 0;  // of the wheel since its last step, in eighths of a degree
 };
 
 }  // namespace vaticlo

@@ -165,6 +165,12 @@ class StatisticaGuiTest : public QObject {
     v.scrivi("01.02.1899");
     v.premi(Qt::Key_Tab);
     QCOMPARE(v.testo("txtestr_0"), QString("9"));  // the date that stood there is no change
+    for (const int parte : {-50, -50, -20}) {      // a touchpad's, one step in all
+      QWheelEvent giro({4, 4}, v.usa("DTInizio").mapToGlobal(QPointF(4, 4)), {}, {0, parte}, Qt::NoButton, {},
+                       Qt::ScrollUpdate, false);
+      QApplication::sendEvent(&v.usa("DTInizio"), &giro);
+    }
+    QCOMPARE(v.testo("DTInizio"), QString("01/02/1898"));  // of the year, where the caret is
     v.clicca("DTFine");
     v.scrivi("15/3/2026");
     v.premi(Qt::Key_Return);
