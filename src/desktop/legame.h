@@ -62,6 +62,8 @@ class Legame : public QObject {
   ProspettoVista* prospetto(Prospetto& modello, const QString& nome);
 
   [[nodiscard]] QWidget* vista() const { return vista_; }
+  /// That of the window, for what a view connects itself.
+  [[nodiscard]] const Confine& confine() const { return confine_; }
 
  private:
   template <class Widget>

@@ -144,7 +144,8 @@ VistaPrincipaleQt::VistaPrincipaleQt(frmPrincipale& principale, const Confine& c
   creaScorciatoie();
   connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* attivata) {
     if (mostrando_) return;  // the logic says itself what it has opened or brought up
-    if (const auto finestra = finestraDi(attivata)) confine_.esegui([&] { principale_.attivata(*finestra); });
+    if (const auto finestra = finestraDi(attivata))
+      confine_.nella(finestra->Caption()).esegui([&] { principale_.attivata(*finestra); });
   });
   connect(area_, &QMdiArea::subWindowActivated, this,
           [this] { inizio_->tastiAccesso(area_->subWindowList().isEmpty()); });

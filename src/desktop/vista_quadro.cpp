@@ -140,7 +140,7 @@ QWidget* vista(const std::shared_ptr<frmQuadro>& frm, const Confine& confine) {
   tasto(previsioni, QKeySequence::Delete, Qt::WidgetShortcut, [togli] { togli->click(); });
   // Another program may have changed the methods while the user was there.
   QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, legame,
-                   [frm = frm.get(), &confine](Qt::ApplicationState stato) {
+                   [frm = frm.get(), &confine = legame->confine()](Qt::ApplicationState stato) {
                      if (stato == Qt::ApplicationActive) confine.esegui([&] { frm->Form_Activate(); });
                    });
   widget->setProperty(kPrimoFuoco, QStringLiteral("metodi"));

@@ -16,7 +16,7 @@ namespace vaticlo {
 namespace {
 
 /// The number of last draws with its arrows: least and greatest value, no text typed in, no wrap-around.
-QWidget* ultimeEstrazioni(Legame& legame, const std::shared_ptr<frmVinc>& frm, const Confine& confine) {
+QWidget* ultimeEstrazioni(Legame& legame, const std::shared_ptr<frmVinc>& frm) {
   auto* gruppo = legame.riquadro(frm->Frame1, QStringLiteral("Frame1"));
   auto* frecce = new QSpinBox(gruppo);
   frecce->setObjectName(QStringLiteral("UpDown1"));
@@ -25,8 +25,9 @@ QWidget* ultimeEstrazioni(Legame& legame, const std::shared_ptr<frmVinc>& frm, c
   frecce->setValue(QString::fromStdString(frm->txtColpi.Text()).toInt());
   frecce->findChild<QLineEdit*>()->setReadOnly(true);
   frecce->findChild<QLineEdit*>()->setObjectName(QStringLiteral("txtColpi"));
-  QObject::connect(frecce, &QSpinBox::valueChanged, &legame,
-                   [frm, &confine](int ultime) { confine.esegui([&] { frm->UpDown1_Change(ultime); }); });
+  QObject::connect(frecce, &QSpinBox::valueChanged, &legame, [frm, &confine = legame.confine()](int ultime) {
+    confine.esegui([&] { frm->UpDown1_Change(ultime); });
+  });
   auto* riga = new QHBoxLayout(gruppo);
   riga->addWidget(frecce);
   riga->addStretch(1);
@@ -42,7 +43,7 @@ QWidget* vista(const std::shared_ptr<ElencoScansione>& frm, const Confine& confi
   auto* sopra = new QVBoxLayout;  // side by side they would be wider than the window
   sopra->addWidget(sceltaMetodo(*legame, frm->metodo));
   if (const auto vincenti = std::dynamic_pointer_cast<frmVinc>(frm))
-    sopra->addWidget(ultimeEstrazioni(*legame, vincenti, confine));
+    sopra->addWidget(ultimeEstrazioni(*legame, vincenti));
 
   auto* nota = legame->etichetta(frm->lblPrev, QStringLiteral("lblPrev"));
   auto colori = nota->palette();
