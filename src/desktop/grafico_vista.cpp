@@ -111,6 +111,7 @@ void GraficoVista::leggi(std::optional<std::size_t> posto) {
   tela_.indica(posto);
   if (!posto) {
     QToolTip::hideText();
+    setAccessibleDescription(QString::fromStdString(modello_.disegno().descrizione));
     return;
   }
   const auto lettura = QString::fromStdString(letture[*posto]);

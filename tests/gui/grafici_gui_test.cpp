@@ -36,6 +36,7 @@ class GraficiGuiTest : public QObject {
     v.scegli("mnuUtility5");
     auto& figura = v.figura();
     figura.setFocus();
+    const auto descrizione = figura.accessibleDescription();
     v.premi(Qt::Key_Right);
     QCOMPARE(QToolTip::text(), QString("1: ritardo 1, massimo 1, uscito 0 volte"));
     QCOMPARE(figura.accessibleDescription(), QToolTip::text());
@@ -43,6 +44,7 @@ class GraficiGuiTest : public QObject {
     QCOMPARE(QToolTip::text(), QString("11: ritardo 0, massimo 0, uscito 1 volta"));
     v.premi(Qt::Key_Escape);
     QTRY_VERIFY(!QToolTip::isVisible());
+    QCOMPARE(figura.accessibleDescription(), descrizione);
     const QPoint centro = figura.rect().center();
     QMouseEvent sopra(QEvent::MouseMove, centro, figura.mapToGlobal(centro), Qt::NoButton, Qt::NoButton, {});
     QApplication::sendEvent(&figura, &sopra);
