@@ -125,10 +125,7 @@ void ProspettoVista::aggiornaOrdini() {
     return azione->text() == QString::fromStdString(colonna.nome);
   });
   if (uguali) return;
-  for (auto* azione : azioni) {
-    removeAction(azione);
-    delete azione;
-  }
+  qDeleteAll(azioni);
   for (int n = 0; n < static_cast<int>(colonne.size()); ++n) {
     auto* azione = ordini_->addAction(QString::fromStdString(colonne[static_cast<std::size_t>(n)].nome));
     if (n < kTastiNumerati)
