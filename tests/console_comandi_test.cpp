@@ -13,37 +13,6 @@
 namespace vaticlo::prova {
 namespace {
 
-/// A command in a folder with three draws and the method "Mio" of one prediction: its status, all that it
-/// says, a part of what it says of an error.
-struct Caso {
-  const char* nome;
-  std::string comando;
-  int stato;
-  std::string detto, errore = "";
-};
-
-void PrintTo(const Caso& caso, std::ostream* uscita) { *uscita << caso.nome; }
-
-class Comandi : public Console, public testing::WithParamInterface<Caso> {};
-
-TEST_P(Comandi, SayHowTheyWent) {
-  const auto& caso = GetParam();
-  const std::string riga = "2005/01/08\tBA\t1\t2\t3\t4\t5\r\n";
-  p.scrivi("uno.txt", riga);
-  p.scrivi("due.txt", riga + riga);
-  p.scrivi("nuove.txt", "2005/03/15\tNA\t1\t2\t3\t4\t5\n2005/03/17\tNA\t1\t2\t3\t4\t5\n");
-  p.scrivi("diversa.txt", "2005/03/12\tBA\t1\t2\t4\t8\t16\n2005/03/15\tNA\t1\t2\t3\t4\t5\n");
-  archivioDi(3, "2 Ba 1 2 4 8 16,2 Naz 7").scrivi(p);
-  scriviMetodoProva(p, "Mio", {});
-  esegui(
-      "previsione inserisci Mio --estrazione 2 --ruote Ba-Naz --colpi 1 --ambate 8 --ambi 1-2 --numero "
-      "899.12");
-  EXPECT_EQ(esegui(caso.comando), caso.stato);
-  EXPECT_EQ(detto, caso.detto);
-  EXPECT_THAT(errori, HasSubstr(caso.errore));
-  EXPECT_EQ(errori.empty(), caso.errore.empty()) << errori;
-}
-
 TEST_F(Console, WritesObjectsWithTheNamesThatTheTableDocuments) {
   archivioDi(3, "2 Ba 1 2 4 8 16").scrivi(p);
   scriviMetodoProva(p, "Mio", {{.estrazione = 2, .ruote = {1}, .ambate = {8}}});
@@ -80,26 +49,6 @@ TEST_F(Console, WritesObjectsWithTheNamesThatTheTableDocuments) {
     }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Estrazioni, Comandi,
-    testing::Values(
-        Caso{"Added", "aggiungi @/nuove.txt", 0, "Aggiunte 2 estrazioni, dal 15/3/2005 al 17/3/2005\n",
-             "dopo l'ultima estrazione dell'archivio"},
-        Caso{"NothingToAdd", "aggiungi @/uno.txt", 0, "Nessuna estrazione nuova\n", "finisce il 8/1/2005"},
-        Caso{"AddedTextContradicts", "aggiungi @/diversa.txt", 3,
-             "12/3/2005 Ba: archivio nessun numero, testo 1 2 4 8 16\n"
-             "12/3/2005 Naz: archivio 7 0 0 0 0, testo nessun numero\n"
-             "12/3/2005 Ba: archivio nessun numero, testo 1 2 4 8 16\n",
-             "--accetta-differenze"},
-        Caso{"AddedAllTheSame", "aggiungi @/diversa.txt --accetta-differenze", 0,
-             "Aggiunte 1 estrazioni, dal 15/3/2005 al 15/3/2005\n"},
-        Caso{"AddedFromAWrongText", "aggiungi @/due.txt", 2, "", "due.txt, riga 2: la ruota BA"},
-        Caso{"AddedFromNowhere", "aggiungi --da http://127.0.0.1:1/", 3,
-             "[Aggiungi Estrazioni] Le estrazioni non si possono scaricare: il server non risponde. "
-             "L'archivio è rimasto com'era.\n"},
-        Caso{"AddedFromTwoPlaces", "aggiungi @/uno.txt --da http://127.0.0.1:1/", 2, "", "non tutti e due"}),
-    perNome);
 
 /// An output that looks, when it is given a text, whether another program could take the folder.
 struct UscitaCheGuarda : std::streambuf {

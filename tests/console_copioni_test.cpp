@@ -89,7 +89,7 @@ class Copione : public Console {
 };
 
 const bool kRegistrati = [] {
-  for (const char* nome : {"comandi", "rapporti", "analisi"})
+  for (const char* nome : {"comandi", "rapporti", "analisi", "giocate", "aggiunta"})
     for (const auto& caso : casiDi(std::filesystem::path(VATICLO_COPIONI) / (std::string(nome) + ".txt")))
       testing::RegisterTest(nome, caso.nome.c_str(), nullptr, nullptr, __FILE__, __LINE__,
                             [caso]() -> Console* { return new Copione(caso); });
