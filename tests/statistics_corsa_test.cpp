@@ -49,7 +49,9 @@ class Corsa : public testing::Test {
   PannelloProva frm;
 };
 
-SlotProva ambata(int estrazione, int colpi = 2) { return {estrazione, {89, 9}, {1}, colpi, {7}}; }
+SlotProva ambata(int estrazione) {
+  return {.estrazione = estrazione, .ruote = {1}, .colpi = 2, .ambate = {7}};
+}
 SlotProva ambo(int estrazione, std::vector<int> ruote, std::vector<int> ambi) {
   return {.estrazione = estrazione, .ruote = std::move(ruote), .colpi = 2, .ambi = std::move(ambi)};
 }
