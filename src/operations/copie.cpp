@@ -15,7 +15,6 @@
 #include "platform/blocco.h"
 #include "platform/descrittore.h"
 #include "platform/failure.h"
-#include "platform/file_intero.h"
 
 namespace vaticlo {
 
