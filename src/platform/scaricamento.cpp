@@ -70,7 +70,7 @@ int prosegui(void* limiti, curl_off_t tutto, curl_off_t fatto, curl_off_t, curl_
 std::string motivo(CURLcode esito, long stato) {
   switch (esito) {
     case CURLE_COULDNT_RESOLVE_HOST:
-      return "il server non si trova: c'è il collegamento a Internet?";
+      return "il server non si trova (manca il collegamento a Internet?)";
     case CURLE_COULDNT_CONNECT:
       return "il server non risponde";
     case CURLE_OPERATION_TIMEDOUT:
