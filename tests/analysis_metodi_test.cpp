@@ -135,7 +135,9 @@ TEST_F(Metodi, AreSummedUpWithoutMakingAFile) {
   // Draw 110: 88 in Bari wins at the first colpo of the one, the other two are still played.
   scriviMetodoProva(p, "A", {ambata(109, 88), ambata(109, 1, 5), ambata(110, 1, 3), ambata(101)});
   scriviMetodoProva(p, "Dieci", Slot(10, ambata(101)));
+  p.scrivi("Metodi/Tolto.dat.bak", "");  // the listing names "Tolto", as when it is deleted after the listing
   const auto ora = situazioneDi(p.cartella());
+  EXPECT_FALSE(p.esiste("Metodi/Tolto.dat"));
   EXPECT_EQ(ora.estrazioni, 110);
   EXPECT_EQ(ora.ultima, dataDiCalendario(12, 3, 2005));
   ASSERT_EQ(ora.inGioco.size(), 2U);
