@@ -42,9 +42,9 @@ class Sostituzione {
   // On some file systems a method of the copy may lie under the name that it has had meanwhile.
   [[nodiscard]] FilePerNome::const_iterator cerca(const std::string& file) const {
     const auto suo = presenti_.find(file);
-    if (suo != presenti_.end()) return suo;
+    std::error_code ignorato;
+    if (suo != presenti_.end() || !fs::exists(dove_ / percorsoDa(file), ignorato)) return suo;
     return std::ranges::find_if(presenti_, [&](const auto& altro) {
-      std::error_code ignorato;
       return fs::equivalent(dove_ / percorsoDa(file), dove_ / percorsoDa(altro.first), ignorato);
     });
   }
