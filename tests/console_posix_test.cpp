@@ -4,10 +4,13 @@
 #include <iostream>
 #include <thread>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/time.h>
+#include <unistd.h>
 
 #include "console/manuale.h"
+#include "platform/processo.h"
 #include "sostegno/console_prova.h"
 
 namespace vaticlo::prova {
@@ -31,6 +34,20 @@ TEST_F(PosixConsole, AReportThatIsNotWholeIsNamedAndItsRunGoesOn) {
   scriviMetodoProva(p, "M", {{.estrazione = 109, .ruote = {1}, .colpi = 2, .ambate = {5}}});
   EXPECT_EQ(esegui("in-gioco"), 1);
   EXPECT_THAT(errori, HasSubstr("PrevGioco.txt"));
+}
+
+TEST_F(PosixConsole, ATerminalIsToldFromAnythingElse) {
+  const int uscita = ::dup(STDOUT_FILENO), terminale = ::posix_openpt(O_RDWR | O_NOCTTY);
+  const int nulla = ::open("/dev/null", O_WRONLY);
+  std::cout.flush();
+  ::dup2(terminale, STDOUT_FILENO);
+  const bool suTerminale = uscitaSulTerminale();
+  ::dup2(nulla, STDOUT_FILENO);
+  const bool suAltro = uscitaSulTerminale();
+  ::dup2(uscita, STDOUT_FILENO);
+  for (const int aperto : {uscita, terminale, nulla}) ::close(aperto);
+  EXPECT_TRUE(suTerminale);
+  EXPECT_FALSE(suAltro);
 }
 
 TEST_F(PosixConsole, APipeIsWaitedFor) {

@@ -154,6 +154,18 @@ TEST_F(Principale, AnUpdateLeavesTheOpenWindowWithWhatItShows) {
   EXPECT_EQ(principale.aperta<frmModifica>()->estrazione.lblnestr.Caption(), "2");
 }
 
+TEST(PaginaIniziale, SaysHowLongAgoTheLastDrawWas) {
+  Situazione situazione;
+  situazione.estrazioni = 1234;
+  const std::chrono::sys_days ultima = *(situazione.ultima = dataDiCalendario(28, 2, 2021));
+  std::string detto;
+  for (const int dopo : {-1, 0, 1, 2, 1001})
+    detto += paginaIniziale(situazione, ultima + std::chrono::days{dopo}).archivio + "|";
+  const std::string inizio = "1.234 estrazioni, l'ultima del 28/02/2021";
+  EXPECT_EQ(detto, inizio + "|" + inizio + ", oggi|" + inizio + ", ieri|" + inizio + ", 2 giorni fa|" +
+                       inizio + ", 1.001 giorni fa|");
+}
+
 TEST(PaginaIniziale, SaysHowManyItLeavesOut) {
   Situazione situazione;
   situazione.inGioco.resize(7);

@@ -106,6 +106,14 @@ class ElenchiGuiTest : public QObject {
     lista.lineEdit()->selectAll();
     v.scrivi("ze");
     v.premi(Qt::Key_Down);
+    v.premi(Qt::Key_Up);
+    QCOMPARE(lista.findChild<QListWidget*>("suggerimenti")->currentRow(), -1);
+    v.premi(Qt::Key_Escape);
+    QVERIFY(lista.findChild<QListWidget*>("suggerimenti") == nullptr && lista.isVisible());
+    QCOMPARE(v.testo("cmbMetodo"), QString("ze"));
+    lista.lineEdit()->selectAll();
+    v.scrivi("ze");
+    v.premi(Qt::Key_Down);
     v.premi(Qt::Key_Return);
     QCOMPARE(v.testo("cmbMetodo"), QString("Zeta"));
     v.p.scrivi("Metodi/Yps.dat", "");  // made while the window is open

@@ -42,6 +42,19 @@ class GraficiGuiTest : public QObject {
     QCOMPARE(figura.accessibleDescription(), QToolTip::text());
     v.premi(Qt::Key_End);
     QCOMPARE(QToolTip::text(), QString("11: ritardo 0, massimo 0, uscito 1 volta"));
+    const auto lettoA = [&](Qt::Key tasto) {
+      v.premi(tasto);
+      return QToolTip::text().section(':', 0, 0);
+    };
+    const auto penultimo = lettoA(Qt::Key_Left), ultimo = lettoA(Qt::Key_Right);
+    QVERIFY(penultimo != ultimo && lettoA(Qt::Key_Right) == ultimo);
+    const auto prima = lettoA(Qt::Key_PageUp);
+    QVERIFY(prima != ultimo && prima != penultimo);
+    QCOMPARE(lettoA(Qt::Key_PageDown), ultimo);
+    QCOMPARE(lettoA(Qt::Key_Home), QString("1"));
+    QCOMPARE(lettoA(Qt::Key_Left), QString("1"));
+    QVERIFY(lettoA(Qt::Key_Right) != "1");
+    QCOMPARE(lettoA(Qt::Key_Left), QString("1"));
     v.premi(Qt::Key_Escape);
     QTRY_VERIFY(!QToolTip::isVisible());
     QCOMPARE(figura.accessibleDescription(), descrizione);

@@ -3,6 +3,8 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -102,6 +104,29 @@ class ProspettoGuiTest : public QObject {
     QCOMPARE(voci, QStringList({"Ruota", "Colpi"}));
     QTest::keyClick(v.vista, Qt::Key_2, Qt::ControlModifier);
     QCOMPARE(v.colonna(0), QStringList({"To", "Ba"}));
+  }
+
+  void itsMenuOffersTheButtonsOfTheWindowFirst() {
+    Prova v;
+    QPushButton primo("&Verifica"), secondo("Copia in...");
+    secondo.setEnabled(false);
+    bool premuto = false;
+    connect(&primo, &QPushButton::clicked, this, [&] { premuto = true; });
+    v.vista->offri({&primo, &secondo});
+    QStringList voci;
+    QTimer risposta;
+    connect(&risposta, &QTimer::timeout, this, [&] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      if (menu == nullptr) return;
+      for (const auto* voce : menu->actions())
+        if (!voce->isSeparator()) voci << voce->text() + (voce->isEnabled() ? "" : "-");
+      QTest::keyClick(menu, Qt::Key_V);
+    });
+    risposta.start(10);
+    QContextMenuEvent dallaTastiera(QContextMenuEvent::Keyboard, {}, v.vista->mapToGlobal(QPoint()));
+    QApplication::sendEvent(v.vista, &dallaTastiera);
+    QVERIFY(premuto);
+    QCOMPARE(voci.mid(0, 4), QStringList({"&Verifica", "Copia in...-", "&Copia", "&Ordina per"}));
   }
 
   void theMethodsAreWorkedOnByKeys() {

@@ -75,6 +75,32 @@ class ServiziGuiTest : public QObject {
     QCOMPARE(QApplication::palette().color(QPalette::Window), prima);
   }
 
+  void aNameOfManyIsFoundByAPartOfIt_data() {
+    QTest::addColumn<QString>("digitato");
+    QTest::addColumn<QList<int>>("tasti");
+    QTest::addColumn<QString>("scelto");
+    QTest::newRow("part") << "TTO" << QList<int>{Qt::Key_Return} << "Otto";
+    QTest::newRow("next one") << "o" << QList<int>{Qt::Key_Down, Qt::Key_Return} << "Nove";
+    QTest::newRow("back again") << "o" << QList<int>{Qt::Key_Down, Qt::Key_Up, Qt::Key_Return} << "Otto";
+    QTest::newRow("nothing typed") << "" << QList<int>{Qt::Key_Return, Qt::Key_Escape} << "";
+    QTest::newRow("no such name") << "x" << QList<int>{Qt::Key_Return, Qt::Key_Escape} << "";
+    QTest::newRow("left") << "o" << QList<int>{Qt::Key_Escape} << "";
+  }
+  void aNameOfManyIsFoundByAPartOfIt() {
+    QFETCH(const QString, digitato);
+    QFETCH(const QList<int>, tasti);
+    QFETCH(const QString, scelto);
+    bool risposto = false;
+    const Qualcuno qualcuno([&](QDialog& box) {
+      if (std::exchange(risposto, true)) return;
+      auto* campo = box.findChild<QLineEdit*>("filtro");
+      QTest::keyClicks(campo, digitato);
+      for (const int tasto : tasti) QTest::keyClick(campo, static_cast<Qt::Key>(tasto));
+    });
+    QCOMPARE(QString::fromStdString(ServiziDesktop().scegli("In quale?", "Copia", {"Sette", "Otto", "Nove"})),
+             scelto);
+  }
+
   void aMessageBoxAsksAndAnswersAsItShould_data() {
     QTest::addColumn<Messaggio>("messaggio");
     QTest::addColumn<QString>("pulsanti");
