@@ -45,7 +45,7 @@ void sfoltisci(const CartellaProgramma& cartella, const std::vector<Copia>& copi
   for (std::size_t n = kUltime - 1; n < copie.size(); ++n) try {
       if (copie[n].nome != tieni) eliminaCartella(cartellaCopie(cartella) / copie[n].nome);
     } catch (const RuntimeFailure&) {
-      // One more stays until the next time.
+      // It stays until the next time.
     }
 }
 

@@ -49,7 +49,8 @@ void scriviFile(const std::filesystem::path& percorso, std::span<const std::uint
 /// file then has its old name.
 void rinominaFile(const std::filesystem::path& percorso, const std::filesystem::path& nuovo);
 
-/// Takes a file away, from the disk too. Failure 53, 57, 70 or 75: it is still there then.
+/// Takes a file away, from the disk too. Fails with Errore::FileNonTrovato, DispositivoIO, DiscoPieno,
+/// CartellaOccupata or AccessoAlFile: it is still there then.
 void eliminaFile(const std::filesystem::path& percorso);
 
 /// Takes away what killed programs have left beside the files of a folder. Whoever calls holds the folder.

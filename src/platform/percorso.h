@@ -19,7 +19,7 @@ namespace vaticlo {
 /// Whether a text that stands for the name of a file would, behind a folder, lead to another place.
 [[nodiscard]] bool portaFuori(std::string_view nome);
 
-/// What no name of a file may have on every system, besides control characters.
+/// The characters, besides control characters, that some system takes in no name of a file.
 inline constexpr std::string_view kVietatiNeiNomi = "<>:\"/\\|?*";
 
 }  // namespace vaticlo

@@ -49,7 +49,7 @@ BloccoCartella::BloccoCartella(const std::filesystem::path& cartella, std::chron
     aperta = std::make_shared<const Tenuta>(cartella_);
   } catch (const RuntimeFailure& failure) {
     // One that is not there or may not be read; whoever opens a file in it says why.
-    if (failure.errore() == Errore::DispositivoIO || failure.errore() == Errore::DiscoPieno) throw;
+    if (failure.errore() == Errore::DispositivoIO) throw;
     return;
   }
   struct stat stato {};
